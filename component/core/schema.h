@@ -1,0 +1,49 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace qncal::schema {
+
+/// The database schema as one table of tables: every table and column that the component or its reference host
+/// touches. The DDL, the conversion of values and the documentation are made from it.
+
+enum class ColumnType : std::uint8_t {
+    key,      ///< autonumber, the table's primary key
+    id,       ///< 32-bit integer, -1 or null for none
+    integer,  ///< 32-bit integer
+    real,     ///< 64-bit real
+    currency, ///< an amount of money, 64-bit real
+    text,     ///< short text
+    memo,     ///< long text, possibly rich text
+    boolean,
+    date,   ///< a day, or a day with a time
+    time,   ///< a time of day
+    colour, ///< 32-bit integer, red in the low byte
+};
+
+struct Column {
+    std::string_view name;
+    ColumnType type;
+    /// An SQL literal ("0", "-1"); empty for none, the column then starts as Null.
+    std::string_view defaultValue = {};
+    bool indexed = false;
+};
+
+struct Table {
+    std::string_view name;
+    std::span<const Column> columns;
+    std::string_view purpose;
+};
+
+/// Raised by one whenever a table or column is added.
+inline constexpr std::int32_t version = 1;
+
+/// In the order of their documentation; each table has exactly one key column, its first.
+std::span<const Table> tables();
+/// By name without regard to case; none when unknown.
+const Table* findTable(std::string_view name);
+const Column* findColumn(const Table& table, std::string_view name);
+
+} // namespace qncal::schema

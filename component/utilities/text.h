@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace qncal {
+
+/// ASCII letters only; every other byte, and so every multi-byte character, stands as it is.
+char lowerAscii(char c);
+std::string lowerAscii(std::string_view text);
+bool equalsNoCase(std::string_view a, std::string_view b);
+/// Order by ASCII case-folded bytes; below, equal or above zero.
+int compareNoCase(std::string_view a, std::string_view b);
+std::string_view trimmed(std::string_view text);
+
+/// Orders and matches keys of maps without regard to ASCII case.
+struct LessNoCase {
+    using is_transparent = void;
+    bool operator()(std::string_view a, std::string_view b) const { return compareNoCase(a, b) < 0; }
+};
+
+} // namespace qncal

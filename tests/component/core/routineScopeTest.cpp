@@ -1,0 +1,118 @@
+#include "core/routineScope.h"
+
+#include "core/ServiceRegistry.h"
+#include "support/RecordingErrorControl.h"
+#include "utilities/RunTimeError.h"
+
+#include <gtest/gtest.h>
+
+namespace qncal {
+namespace {
+
+class RoutineScopeTest : public testing::Test {
+protected:
+    void SetUp() override { serviceRegistry().errorControl = errors; }
+    void TearDown() override { serviceRegistry() = {}; }
+
+    std::shared_ptr<test::RecordingErrorControl> errors = std::make_shared<test::RecordingErrorControl>();
+};
+
+TEST_F(RoutineScopeTest, PushesAndPopsItsLabel)
+{
+    const int result = routine("a-b-c", 0, [&] {
+        EXPECT_EQ(errors->stack(), std::vector<std::string>{"a-b-c"});
+        return 7;
+    });
+    EXPECT_EQ(result, 7);
+    EXPECT_TRUE(errors->stack().empty());
+    EXPECT_EQ(errors->labels(), std::vector<std::string>{"a-b-c"});
+}
+
+TEST_F(RoutineScopeTest, RetryRunsTheFailedStatementAloneAgain)
+{
+    errors->answer(ErrorAction::retry);
+    int before = 0;
+    int tries = 0;
+    const int result = routine("a-b-c", 0, [&] {
+        ++before;
+        return statement([&] {
+            if (++tries < 3)
+                throw RunTimeError(errorNumber::typeMismatch, "no");
+            return tries;
+        });
+    });
+    EXPECT_EQ(result, 3);
+    EXPECT_EQ(before, 1);
+    EXPECT_EQ(errors->takeErrors().size(), 2u);
+}
+
+TEST_F(RoutineScopeTest, EveryOtherAnswerLeavesWithTheDefault)
+{
+    for (const int answer : {2, 3, 0, 99}) {
+        errors->answer(static_cast<ErrorAction>(answer));
+        bool after = false;
+        const int result = routine("a-b-c", -1, [&] {
+            statement([] { throw RunTimeError(errorNumber::typeMismatch, "no"); });
+            after = true;
+            return 1;
+        });
+        EXPECT_EQ(result, -1);
+        EXPECT_FALSE(after);
+        EXPECT_TRUE(errors->stack().empty());
+        ASSERT_EQ(errors->takeErrors().size(), 1u);
+    }
+}
+
+TEST_F(RoutineScopeTest, AnErrorOutsideOfAStatementIsReportedOnceAndLeaves)
+{
+    errors->answer(ErrorAction::retry);
+    EXPECT_EQ(routine("a-b-c", -1, []() -> int { throw RunTimeError(errorNumber::overflow, "much"); }), -1);
+    const auto reported = errors->takeErrors();
+    ASSERT_EQ(reported.size(), 1u);
+    EXPECT_EQ(reported[0].number, errorNumber::overflow);
+    EXPECT_EQ(reported[0].text, "much");
+}
+
+TEST_F(RoutineScopeTest, WithoutErrorControlTheRoutineDoesNothingAndTheErrorIsDropped)
+{
+    serviceRegistry().errorControl.reset();
+    bool ran = false;
+    EXPECT_EQ(routine("a-b-c", -1, [&] { ran = true; return 1; }), -1);
+    EXPECT_FALSE(ran);
+}
+
+TEST_F(RoutineScopeTest, SkipOnErrorPassesOverTheFailingStatementOnly)
+{
+    bool after = false;
+    routine("a-b-c", [&] {
+        skipOnError([] { statement([] { throw RunTimeError(errorNumber::typeMismatch, "no"); }); });
+        skipOnError([&] { after = true; });
+    });
+    EXPECT_TRUE(after);
+    EXPECT_TRUE(errors->takeErrors().empty());
+}
+
+TEST_F(RoutineScopeTest, AnInnerRoutineKeepsItsErrorsFromTheOuterOne)
+{
+    errors->answer(ErrorAction::leave);
+    const int result = routine("outer", 0, [&] {
+        const int inner = routine("inner", 5, [&]() -> int {
+            return statement([]() -> int { throw RunTimeError(errorNumber::typeMismatch, "no"); });
+        });
+        return inner + 1;
+    });
+    EXPECT_EQ(result, 6);
+    EXPECT_EQ(errors->takeErrors().size(), 1u);
+    EXPECT_TRUE(errors->stack().empty());
+}
+
+TEST_F(RoutineScopeTest, ALabelThatCouldNotBePushedIsNotPopped)
+{
+    errors->failNextEnter();
+    errors->answer(ErrorAction::leave);
+    routine("outer", [&] { routine("inner", [] { FAIL() << "must not run"; }); });
+    EXPECT_TRUE(errors->takeErrors().empty()) << "the outer label itself failed to be pushed";
+}
+
+} // namespace
+} // namespace qncal
