@@ -108,10 +108,14 @@ TEST_F(RoutineScopeTest, AnInnerRoutineKeepsItsErrorsFromTheOuterOne)
 
 TEST_F(RoutineScopeTest, ALabelThatCouldNotBePushedIsNotPopped)
 {
-    errors->failNextEnter();
-    errors->answer(ErrorAction::leave);
-    routine("outer", [&] { routine("inner", [] { FAIL() << "must not run"; }); });
-    EXPECT_TRUE(errors->takeErrors().empty()) << "the outer label itself failed to be pushed";
+    const int result = routine("outer", 0, [&] {
+        errors->failNextEnter();
+        routine("inner", [] { FAIL() << "must not run"; });
+        EXPECT_EQ(errors->stack(), std::vector<std::string>{"outer"});
+        return 1;
+    });
+    EXPECT_EQ(result, 1);
+    EXPECT_EQ(errors->takeErrors().size(), 1u);
 }
 
 } // namespace
