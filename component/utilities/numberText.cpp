@@ -64,7 +64,8 @@ Digits rounded(Digits digits, std::size_t places)
 struct Section {
     std::string_view before;
     std::string_view after;
-    std::size_t wholeDigits = 0;    ///< written at least
+    bool hasNumber = false;
+    std::size_t wholeDigits = 0; ///< written at least
     std::size_t fewestDecimals = 0;
     std::size_t mostDecimals = 0;
     bool grouped = false;
@@ -76,6 +77,7 @@ struct Section {
         before = pattern.substr(0, first);
         after = pattern.substr(end);
         const auto number = pattern.substr(first, end - first);
+        hasNumber = !number.empty();
         const auto point = std::min(number.find('.'), number.size());
         const auto whole = number.substr(0, point);
         const auto decimals = number.substr(point);
@@ -88,6 +90,8 @@ struct Section {
 
     std::string text(Digits digits, bool minus) const
     {
+        if (!hasNumber)
+            return std::string(before);
         if (digits.whole.size() < wholeDigits)
             digits.whole.insert(0, wholeDigits - digits.whole.size(), '0');
         if (digits.decimals.size() < fewestDecimals)
