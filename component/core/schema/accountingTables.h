@@ -25,8 +25,8 @@ inline constexpr Index byCompany[] = {{"CompanyIDNum"}};
 inline constexpr Column clientDataLink[] = {{"ClientDataIDNum", id}};
 inline constexpr Index byClientData[] = {{"ClientDataIDNum"}};
 
-inline constexpr auto accountingServicesColumns = columns({{"AccountingServicesID", key}}, clientDataLink,
-                                                          {{"FinancialStatements", integer}});
+inline constexpr auto accountingServicesColumns
+    = columns({{"AccountingServicesID", key}}, clientDataLink, {{"FinancialStatements", integer}});
 inline constexpr auto clientOptionsColumns = columns({{"ClientOptionsID", key}}, clientDataLink);
 
 inline constexpr auto clientUSInfoColumns = columns({{"ClientUSInfoID", key}}, clientDataLink,
@@ -64,8 +64,8 @@ inline constexpr auto corpTaxInfoColumns = columns({{"CorpTaxInfoID", key}}, cli
                                                        {"CharitableNum", text},
                                                    });
 
-inline constexpr auto lawInfoColumns = columns({{"LawInfoID", key}}, clientDataLink,
-                                               {{"LawSocietyMemberNumber", text}});
+inline constexpr auto lawInfoColumns
+    = columns({{"LawInfoID", key}}, clientDataLink, {{"LawSocietyMemberNumber", text}});
 inline constexpr auto otherInfoColumns = columns({{"OtherInfoID", key}}, clientDataLink, {{"NameRenewalDate", date}});
 
 inline constexpr auto wsibEhtInfoColumns = columns({{"WSIB_EHTInfoID", key}}, clientDataLink,
@@ -139,8 +139,7 @@ inline constexpr Table accountingTables[] = {
     {"CorpTaxInfo", corpTaxInfoColumns, "Tax registrations of a client in Canada", byClientData},
     {"LawInfo", lawInfoColumns, "Law society membership of a client in Canada", byClientData},
     {"OtherInfo", otherInfoColumns, "Further registrations of a client in Canada", byClientData},
-    {"WSIB_EHTInfo", wsibEhtInfoColumns, "Workers' board and health tax accounts of a client in Canada",
-     byClientData},
+    {"WSIB_EHTInfo", wsibEhtInfoColumns, "Workers' board and health tax accounts of a client in Canada", byClientData},
     {"PersonalTaxClientSummary", personalTaxClientSummaryColumns,
      "Rich-text personal tax summary of a contact for a tax year", personalTaxClientSummaryIndexes},
     {"PersonalTaxProfileInfo", personalTaxProfileInfoColumns, "A contact's return as the tax program exported it",

@@ -10,8 +10,12 @@ using enum ColumnType;
 
 /// A street address with its parts. The numbered lines are filled by field assignment, the plain one is shown.
 #define QNCAL_ADDRESS_COLUMNS(prefix)                                                                                  \
-    {prefix "Address", text}, {prefix "Address1", text}, {prefix "Address2", text}, {prefix "Address3", text},         \
-        {prefix "City", text}, {prefix "Province", text}, {prefix "PostalCode", text}, {prefix "Country", text}
+    Column{prefix "Address", text}, Column{prefix "Address1", text}, Column{prefix "Address2", text},                  \
+        Column{prefix "Address3", text}, Column{prefix "City", text}, Column{prefix "Province", text},                 \
+        Column{prefix "PostalCode", text}, Column                                                                      \
+    {                                                                                                                  \
+        prefix "Country", text                                                                                         \
+    }
 
 /// The columns that client companies and the firm itself share: the summaries read either by the same names.
 inline constexpr Column companyColumns[] = {

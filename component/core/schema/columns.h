@@ -9,7 +9,11 @@
 
 /// Five columns that differ in their number alone. A macro, because joining literals is the one way to such names at
 /// compile time that leaves them readable here.
-#define QNCAL_FIVE_COLUMNS(name, type) {name "1", type}, {name "2", type}, {name "3", type}, {name "4", type}, {name "5", type}
+#define QNCAL_FIVE_COLUMNS(name, type)                                                                                 \
+    Column{name "1", type}, Column{name "2", type}, Column{name "3", type}, Column{name "4", type}, Column             \
+    {                                                                                                                  \
+        name "5", type                                                                                                 \
+    }
 
 namespace qncal::schema {
 

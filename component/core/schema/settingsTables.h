@@ -9,22 +9,28 @@ namespace qncal::schema {
 using enum ColumnType;
 
 #define QNCAL_WEEKDAY_COLOURS(view)                                                                                    \
-    {view "SundayBackColour", colour}, {view "MondayBackColour", colour}, {view "TuesdayBackColour", colour},          \
-        {view "WednesdayBackColour", colour}, {view "ThursdayBackColour", colour}, {view "FridayBackColour", colour},  \
-        {view "SaturdayBackColour", colour}
+    Column{view "SundayBackColour", colour}, Column{view "MondayBackColour", colour},                                  \
+        Column{view "TuesdayBackColour", colour}, Column{view "WednesdayBackColour", colour},                          \
+        Column{view "ThursdayBackColour", colour}, Column{view "FridayBackColour", colour}, Column                     \
+    {                                                                                                                  \
+        view "SaturdayBackColour", colour                                                                              \
+    }
 
 /// A kind's part of a user's row.
 #define QNCAL_USER_SETTINGS(kind)                                                                                      \
-    {kind "StartupDayTimerView", integer}, {kind "ShowSideBarView", integer}, {kind "ShowWeekendView", integer},       \
-        QNCAL_WEEKDAY_COLOURS(kind "Day"), QNCAL_WEEKDAY_COLOURS(kind "Week"), QNCAL_WEEKDAY_COLOURS(kind "Month"),    \
-        {"Use" kind "DayBackColours", boolean}, {"Use" kind "WeekBackColours", boolean},                               \
-        {"Use" kind "MonthBackColours", boolean}, {kind "TimeFrom", time}, {kind "TimeTo", time},                      \
-        {kind "ViewMyColourScheme", integer}, {"Show" kind "TitleBarIcons", boolean},                                  \
-        {kind "ShowStatusCheckBoxes", boolean}
+    Column{kind "StartupDayTimerView", integer}, Column{kind "ShowSideBarView", integer},                              \
+        Column{kind "ShowWeekendView", integer}, QNCAL_WEEKDAY_COLOURS(kind "Day"),                                    \
+        QNCAL_WEEKDAY_COLOURS(kind "Week"), QNCAL_WEEKDAY_COLOURS(kind "Month"),                                       \
+        Column{"Use" kind "DayBackColours", boolean}, Column{"Use" kind "WeekBackColours", boolean},                   \
+        Column{"Use" kind "MonthBackColours", boolean}, Column{kind "TimeFrom", time}, Column{kind "TimeTo", time},    \
+        Column{kind "ViewMyColourScheme", integer}, Column{"Show" kind "TitleBarIcons", boolean}, Column               \
+    {                                                                                                                  \
+        kind "ShowStatusCheckBoxes", boolean                                                                           \
+    }
 
 /// A kind's part of the firm-wide row.
 #define QNCAL_FIRM_SETTINGS(kind)                                                                                      \
-    {kind "Template", memo}, {"Show" kind "TitleBar", boolean}, {kind "TitleBarText", memo}
+    Column{kind "Template", memo}, Column{"Show" kind "TitleBar", boolean}, Column { kind "TitleBarText", memo }
 
 inline constexpr auto userCalendarSettingsColumns = columns({
     {"UserCalendarSettingsID", key},
