@@ -36,7 +36,7 @@ INSTANTIATE_TEST_SUITE_P(
                     StreamCase{"RawCodePageByte", "{\\rtf1 caf\xE9}", "café"},
                     StreamCase{"EscapedBraces", "{\\rtf1 \\{a\\\\b\\}}", "{a\\b}"},
                     StreamCase{"CutShort", "{\\rtf1 a\\'4", "a4"}, StreamCase{"UnbalancedBraces", "{\\rtf1 a}}b}", "ab"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& streamCase) { return streamCase.param.name; });
 
 TEST(RichTextStream, EscapedTextReadsBackTheSame)
 {
