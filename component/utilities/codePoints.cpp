@@ -4,7 +4,7 @@
 
 namespace qncal {
 
-std::size_t codePointCount(std::string_view text)
+std::size_t countCodePoints(std::string_view text)
 {
     std::size_t count = 0;
     for (; !text.empty(); ++count)
@@ -12,12 +12,12 @@ std::size_t codePointCount(std::string_view text)
     return count;
 }
 
-std::size_t byteOffsetOf(std::string_view text, std::int32_t characters)
+std::string_view truncatedToCodePoints(std::string_view text, std::size_t count)
 {
-    std::size_t offset = 0;
-    for (std::int32_t i = 0; i < characters && offset < text.size(); ++i)
-        offset += decodeUtf8(text.substr(offset)).length;
-    return offset;
+    std::size_t length = 0;
+    for (; count > 0 && length < text.size(); --count)
+        length += decodeUtf8(text.substr(length)).length;
+    return text.substr(0, length);
 }
 
 } // namespace qncal

@@ -1,10 +1,14 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 namespace qncal {
-std::size_t codePointCount(std::string_view text);
-std::size_t byteOffsetOf(std::string_view text, std::int32_t characters);
-}
+
+/// Characters of a UTF-8 text. A byte that belongs to no well-formed character counts as one.
+std::size_t countCodePoints(std::string_view text);
+
+/// The first `count` characters of a UTF-8 text, counted as above; never cut inside a character.
+std::string_view truncatedToCodePoints(std::string_view text, std::size_t count);
+
+} // namespace qncal

@@ -102,7 +102,7 @@ void Hand::pressKey(std::string_view path, char32_t character)
     std::string typed;
     appendUtf8(typed, static_cast<char32_t>(key));
     if (auto* box = dynamic_cast<TextBox*>(&control)) {
-        if (box->maxLength() == 0 || static_cast<std::int32_t>(codePointCount(box->text())) < box->maxLength())
+        if (box->maxLength() == 0 || static_cast<std::int32_t>(countCodePoints(box->text())) < box->maxLength())
             box->text(box->text() + typed);
     } else if (auto* combo = dynamic_cast<ComboBox*>(&control); combo && combo->isEditable()) {
         combo->text(combo->text() + typed);
