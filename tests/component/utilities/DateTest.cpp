@@ -16,7 +16,7 @@ std::string text(Date date)
     const CivilDate d = date.civilDate();
     const CivilTime t = date.civilTime();
     return std::to_string(d.year) + "-" + std::to_string(d.month) + "-" + std::to_string(d.day) + " "
-        + std::to_string(t.hour) + ":" + std::to_string(t.minute) + ":" + std::to_string(t.second);
+           + std::to_string(t.hour) + ":" + std::to_string(t.minute) + ":" + std::to_string(t.second);
 }
 
 struct SerialRow {
@@ -59,8 +59,10 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(SerialRow{"DayZero", 0, {1899, 12, 30}, {}, 7}, SerialRow{"DayOne", 1, {1899, 12, 31}, {}, 1},
                     SerialRow{"DayBefore", -1, {1899, 12, 29}, {}, 6},
                     SerialRow{"TimeBeforeDayZero", -1.25, {1899, 12, 29}, {6, 0, 0}, 6},
-                    SerialRow{"NoDate", -363, {1899, 1, 1}, {}, 1}, SerialRow{"Noon", 0.5, {1899, 12, 30}, {12, 0, 0}, 7},
-                    SerialRow{"NotLeap1900", 61, {1900, 3, 1}, {}, 5}, SerialRow{"Leap2000", 36585, {2000, 2, 29}, {}, 3},
+                    SerialRow{"NoDate", -363, {1899, 1, 1}, {}, 1},
+                    SerialRow{"Noon", 0.5, {1899, 12, 30}, {12, 0, 0}, 7},
+                    SerialRow{"NotLeap1900", 61, {1900, 3, 1}, {}, 5},
+                    SerialRow{"Leap2000", 36585, {2000, 2, 29}, {}, 3},
                     SerialRow{"Year2026", 46112, {2026, 3, 31}, {}, 3},
                     SerialRow{"Morning", 46112.395833333336, {2026, 3, 31}, {9, 30, 0}, 3},
                     SerialRow{"LastSecondOfDay", 46112 + 86399 / 86400.0, {2026, 3, 31}, {23, 59, 59}, 3},
@@ -111,10 +113,7 @@ struct CarryRow {
 
 class DateCarryTest : public testing::TestWithParam<CarryRow> {};
 
-TEST_P(DateCarryTest, OutOfRangePartsCarryOver)
-{
-    EXPECT_EQ(text(GetParam().carried), text(GetParam().expected));
-}
+TEST_P(DateCarryTest, OutOfRangePartsCarryOver) { EXPECT_EQ(text(GetParam().carried), text(GetParam().expected)); }
 
 INSTANTIATE_TEST_SUITE_P(
     Parts, DateCarryTest,
@@ -199,20 +198,19 @@ TEST_P(DateAddMonthsTest, CutsTheDayToTheMonth)
     EXPECT_EQ(text(GetParam().from.addMonths(GetParam().months)), GetParam().expected);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Months, DateAddMonthsTest,
-    testing::Values(MonthsRow{"Plain", Date::of(2026, 3, 15, 9, 30), 1, "2026-4-15 9:30:0"},
-                    MonthsRow{"Cut", Date::of(2026, 1, 31), 1, "2026-2-28 0:0:0"},
-                    MonthsRow{"CutInLeapYear", Date::of(2024, 1, 31), 1, "2024-2-29 0:0:0"},
-                    MonthsRow{"LeapDayByAYear", Date::of(2024, 2, 29), 12, "2025-2-28 0:0:0"},
-                    MonthsRow{"LeapDayByFourYears", Date::of(2024, 2, 29), 48, "2028-2-29 0:0:0"},
-                    MonthsRow{"OverYearEnd", Date::of(2026, 12, 31), 2, "2027-2-28 0:0:0"},
-                    MonthsRow{"Back", Date::of(2026, 3, 31, 23, 59, 59), -1, "2026-2-28 23:59:59"},
-                    MonthsRow{"BackOverYears", Date::of(2026, 1, 31), -26, "2023-11-30 0:0:0"},
-                    MonthsRow{"BelowDayZero", Date::of(1900, 1, 31, 18), -2, "1899-11-30 18:0:0"},
-                    MonthsRow{"ToTheEnd", Date::of(9999, 11, 30, 12), 1, "9999-12-30 12:0:0"},
-                    MonthsRow{"None", Date::of(2026, 1, 31), 0, "2026-1-31 0:0:0"}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Months, DateAddMonthsTest,
+                         testing::Values(MonthsRow{"Plain", Date::of(2026, 3, 15, 9, 30), 1, "2026-4-15 9:30:0"},
+                                         MonthsRow{"Cut", Date::of(2026, 1, 31), 1, "2026-2-28 0:0:0"},
+                                         MonthsRow{"CutInLeapYear", Date::of(2024, 1, 31), 1, "2024-2-29 0:0:0"},
+                                         MonthsRow{"LeapDayByAYear", Date::of(2024, 2, 29), 12, "2025-2-28 0:0:0"},
+                                         MonthsRow{"LeapDayByFourYears", Date::of(2024, 2, 29), 48, "2028-2-29 0:0:0"},
+                                         MonthsRow{"OverYearEnd", Date::of(2026, 12, 31), 2, "2027-2-28 0:0:0"},
+                                         MonthsRow{"Back", Date::of(2026, 3, 31, 23, 59, 59), -1, "2026-2-28 23:59:59"},
+                                         MonthsRow{"BackOverYears", Date::of(2026, 1, 31), -26, "2023-11-30 0:0:0"},
+                                         MonthsRow{"BelowDayZero", Date::of(1900, 1, 31, 18), -2, "1899-11-30 18:0:0"},
+                                         MonthsRow{"ToTheEnd", Date::of(9999, 11, 30, 12), 1, "9999-12-30 12:0:0"},
+                                         MonthsRow{"None", Date::of(2026, 1, 31), 0, "2026-1-31 0:0:0"}),
+                         test::rowName);
 
 TEST(DateTest, AddingRunsThroughDayZero)
 {

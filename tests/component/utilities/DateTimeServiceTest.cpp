@@ -51,17 +51,20 @@ TEST_P(AddHoursToTimeTest, MovesTheTimeOn)
     EXPECT_EQ(defaultDateText(moved), defaultDateText(GetParam().expected));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Times, AddHoursToTimeTest,
-    testing::Values(AddRow{"Whole", Date::timeOf(9), 2, Date::timeOf(11)}, AddRow{"Half", Date::timeOf(9, 15), 1.5F, Date::timeOf(10, 45)},
-                    AddRow{"Minute", Date::timeOf(9), 1.0F / 60, Date::timeOf(9, 1)},
-                    AddRow{"TwentyMinutes", Date::timeOf(9), 1.0F / 3, Date::timeOf(9, 20)},
-                    AddRow{"OverMidnight", Date::timeOf(23), 2, Date::timeOf(1)},
-                    AddRow{"ToMidnight", Date::timeOf(23), 1, Date::timeOf(0)}, AddRow{"WholeDay", Date::timeOf(9), 24, Date::timeOf(9)},
-                    AddRow{"ManyDays", Date::timeOf(9), 24 * 1000 + 1, Date::timeOf(10)},
-                    AddRow{"Back", Date::timeOf(9), -2, Date::timeOf(7)}, AddRow{"BackOverMidnight", Date::timeOf(1), -2, Date::timeOf(23)},
-                    AddRow{"DateDropped", Date::of(2026, 3, 31, 9), 2, Date::timeOf(11)}, AddRow{"None", Date::timeOf(9, 30), 0, Date::timeOf(9, 30)}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Times, AddHoursToTimeTest,
+                         testing::Values(AddRow{"Whole", Date::timeOf(9), 2, Date::timeOf(11)},
+                                         AddRow{"Half", Date::timeOf(9, 15), 1.5F, Date::timeOf(10, 45)},
+                                         AddRow{"Minute", Date::timeOf(9), 1.0F / 60, Date::timeOf(9, 1)},
+                                         AddRow{"TwentyMinutes", Date::timeOf(9), 1.0F / 3, Date::timeOf(9, 20)},
+                                         AddRow{"OverMidnight", Date::timeOf(23), 2, Date::timeOf(1)},
+                                         AddRow{"ToMidnight", Date::timeOf(23), 1, Date::timeOf(0)},
+                                         AddRow{"WholeDay", Date::timeOf(9), 24, Date::timeOf(9)},
+                                         AddRow{"ManyDays", Date::timeOf(9), 24 * 1000 + 1, Date::timeOf(10)},
+                                         AddRow{"Back", Date::timeOf(9), -2, Date::timeOf(7)},
+                                         AddRow{"BackOverMidnight", Date::timeOf(1), -2, Date::timeOf(23)},
+                                         AddRow{"DateDropped", Date::of(2026, 3, 31, 9), 2, Date::timeOf(11)},
+                                         AddRow{"None", Date::timeOf(9, 30), 0, Date::timeOf(9, 30)}),
+                         test::rowName);
 
 TEST_F(DateTimeServiceTest, HoursThatAreNoNumberAreAnOverflow)
 {
@@ -148,23 +151,25 @@ TEST_P(NthWeekdayTest, LiesInTheMonth)
     EXPECT_EQ(date.weekday(), row.weekday);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Months, NthWeekdayTest,
-    testing::Values(NthRow{"FirstDay", 3, 2026, 1, 1, Date::of(2026, 3, 1)}, NthRow{"FirstSaturday", 3, 2026, 1, 7, Date::of(2026, 3, 7)},
-                    NthRow{"SecondTuesday", 3, 2026, 2, 3, Date::of(2026, 3, 10)},
-                    NthRow{"FifthTuesday", 3, 2026, 5, 3, Date::of(2026, 3, 31)},
-                    NthRow{"FifthOfFourIsTheLast", 3, 2026, 5, 4, Date::of(2026, 3, 25)},
-                    NthRow{"FifthInShortFebruary", 2, 2026, 5, 1, Date::of(2026, 2, 22)},
-                    NthRow{"FifthInLeapFebruary", 2, 2024, 5, 5, Date::of(2024, 2, 29)},
-                    NthRow{"BeyondFive", 3, 2026, 9, 3, Date::of(2026, 3, 31)},
-                    NthRow{"CarriedMonth", 13, 2026, 1, 6, Date::of(2027, 1, 1)}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Months, NthWeekdayTest,
+                         testing::Values(NthRow{"FirstDay", 3, 2026, 1, 1, Date::of(2026, 3, 1)},
+                                         NthRow{"FirstSaturday", 3, 2026, 1, 7, Date::of(2026, 3, 7)},
+                                         NthRow{"SecondTuesday", 3, 2026, 2, 3, Date::of(2026, 3, 10)},
+                                         NthRow{"FifthTuesday", 3, 2026, 5, 3, Date::of(2026, 3, 31)},
+                                         NthRow{"FifthOfFourIsTheLast", 3, 2026, 5, 4, Date::of(2026, 3, 25)},
+                                         NthRow{"FifthInShortFebruary", 2, 2026, 5, 1, Date::of(2026, 2, 22)},
+                                         NthRow{"FifthInLeapFebruary", 2, 2024, 5, 5, Date::of(2024, 2, 29)},
+                                         NthRow{"BeyondFive", 3, 2026, 9, 3, Date::of(2026, 3, 31)},
+                                         NthRow{"CarriedMonth", 13, 2026, 1, 6, Date::of(2027, 1, 1)}),
+                         test::rowName);
 
 TEST_F(DateTimeServiceTest, NthWeekdayUndoesWeekOfMonth)
 {
     for (Date date = Date::of(2023, 12, 1); date < Date::of(2026, 1, 1); date = date.addDays(1)) {
         const CivilDate day = date.civilDate();
-        EXPECT_EQ(service.getNthWeekdayOfMonth(day.month, day.year, service.getWeekOfMonth(date), service.getWeekdayNumber(date)), date)
+        EXPECT_EQ(service.getNthWeekdayOfMonth(day.month, day.year, service.getWeekOfMonth(date),
+                                               service.getWeekdayNumber(date)),
+                  date)
             << defaultDateText(date);
     }
 }
@@ -179,8 +184,16 @@ TEST_F(DateTimeServiceTest, NoSuchWeekdayIsAnError)
 TEST_F(DateTimeServiceTest, DurationsInWords)
 {
     const std::pair<std::int32_t, const char*> rows[] = {
-        {0, "0 min"},    {1, "1 min"},        {45, "45 min"},       {60, "1 hr"},          {90, "1 hr 30 min"},
-        {120, "2 hr"},   {125, "2 hr 5 min"}, {1500, "25 hr"},      {-90, "-1 hr 30 min"}, {-5, "-5 min"},
+        {0, "0 min"},
+        {1, "1 min"},
+        {45, "45 min"},
+        {60, "1 hr"},
+        {90, "1 hr 30 min"},
+        {120, "2 hr"},
+        {125, "2 hr 5 min"},
+        {1500, "25 hr"},
+        {-90, "-1 hr 30 min"},
+        {-5, "-5 min"},
         {std::numeric_limits<std::int32_t>::min(), "-35791394 hr 8 min"}};
     for (const auto& [minutes, text] : rows)
         EXPECT_EQ(service.getDurationText(minutes), text);

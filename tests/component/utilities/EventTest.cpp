@@ -40,9 +40,9 @@ TEST(EventTest, UnsubscribedHandlerIsNotCalled)
 TEST(EventTest, SubscriptionsAreNeverGivenTwice)
 {
     Event<> event;
-    const auto first = event.subscribe([] { });
+    const auto first = event.subscribe([] {});
     event.unsubscribe(first);
-    EXPECT_NE(event.subscribe([] { }), first);
+    EXPECT_NE(event.subscribe([] {}), first);
 }
 
 TEST(EventTest, ChangesDuringARaiseTakeEffectAtTheNext)

@@ -36,7 +36,8 @@ TEST_F(FileServiceTest, TellsFilesFromFolders)
     EXPECT_FALSE(service.folderExists(file));
     EXPECT_FALSE(service.fileExists(folder.string()));
     EXPECT_TRUE(service.folderExists(folder.string()));
-    for (const std::string& missing : {(folder / "missing.db").string(), file + "/below", std::string(), std::string(10000, 'x')}) {
+    for (const std::string& missing :
+         {(folder / "missing.db").string(), file + "/below", std::string(), std::string(10000, 'x')}) {
         EXPECT_FALSE(service.fileExists(missing));
         EXPECT_FALSE(service.folderExists(missing));
     }

@@ -52,16 +52,18 @@ TEST_P(DigitKeyTest, IsFiltered)
     EXPECT_EQ(key, GetParam().passes ? GetParam().key : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Keys, DigitKeyTest,
-    testing::Values(KeyRow{"Zero", '0', true}, KeyRow{"Five", '5', true}, KeyRow{"Nine", '9', true}, KeyRow{"BelowZero", '/', false},
-                    KeyRow{"AboveNine", ':', false}, KeyRow{"Letter", 'a', false}, KeyRow{"Minus", '-', false},
-                    KeyRow{"Point", '.', false}, KeyRow{"Comma", ',', false}, KeyRow{"Blank", ' ', false},
-                    KeyRow{"Backspace", 8, true}, KeyRow{"Tab", 9, true}, KeyRow{"Enter", 13, true}, KeyRow{"Escape", 27, true},
-                    KeyRow{"Copy", 3, true}, KeyRow{"Paste", 22, true}, KeyRow{"Cut", 24, true}, KeyRow{"Undo", 26, true},
-                    KeyRow{"DeleteWord", 127, true}, KeyRow{"AccentedLetter", 233, false}, KeyRow{"ArabicDigit", 1633, false},
-                    KeyRow{"Negative", -5, false}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Keys, DigitKeyTest,
+                         testing::Values(KeyRow{"Zero", '0', true}, KeyRow{"Five", '5', true},
+                                         KeyRow{"Nine", '9', true}, KeyRow{"BelowZero", '/', false},
+                                         KeyRow{"AboveNine", ':', false}, KeyRow{"Letter", 'a', false},
+                                         KeyRow{"Minus", '-', false}, KeyRow{"Point", '.', false},
+                                         KeyRow{"Comma", ',', false}, KeyRow{"Blank", ' ', false},
+                                         KeyRow{"Backspace", 8, true}, KeyRow{"Tab", 9, true},
+                                         KeyRow{"Enter", 13, true}, KeyRow{"Escape", 27, true}, KeyRow{"Copy", 3, true},
+                                         KeyRow{"Paste", 22, true}, KeyRow{"Cut", 24, true}, KeyRow{"Undo", 26, true},
+                                         KeyRow{"DeleteWord", 127, true}, KeyRow{"AccentedLetter", 233, false},
+                                         KeyRow{"ArabicDigit", 1633, false}, KeyRow{"Negative", -5, false}),
+                         test::rowName);
 
 TEST(UtilityServiceTest, KeepsTheErrorControlItWasGiven)
 {

@@ -31,15 +31,17 @@ class VariantIntegerTest : public testing::TestWithParam<IntegerRow> {};
 
 TEST_P(VariantIntegerTest, Converts) { EXPECT_EQ(GetParam().value.toInteger(), GetParam().expected); }
 
-INSTANTIATE_TEST_SUITE_P(
-    Values, VariantIntegerTest,
-    testing::Values(IntegerRow{"Number", 42, 42}, IntegerRow{"HalfToEvenDown", 0.5, 0}, IntegerRow{"HalfToEvenUp", 1.5, 2},
-                    IntegerRow{"HalfToEvenDownAgain", 2.5, 2}, IntegerRow{"NegativeHalf", -0.5, 0},
-                    IntegerRow{"NegativeHalfUp", -1.5, -2}, IntegerRow{"AboveHalf", 2.51, 3}, IntegerRow{"True", true, -1},
-                    IntegerRow{"False", false, 0}, IntegerRow{"Text", "17", 17}, IntegerRow{"TextWithBlanks", " 17 ", 17},
-                    IntegerRow{"FractionText", "2.5", 2}, IntegerRow{"Date", Date::of(2026, 3, 31), 46112},
-                    IntegerRow{"Largest", 2147483647.4, 2147483647}, IntegerRow{"Smallest", -2147483648.0, -2147483647 - 1}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Values, VariantIntegerTest,
+                         testing::Values(IntegerRow{"Number", 42, 42}, IntegerRow{"HalfToEvenDown", 0.5, 0},
+                                         IntegerRow{"HalfToEvenUp", 1.5, 2}, IntegerRow{"HalfToEvenDownAgain", 2.5, 2},
+                                         IntegerRow{"NegativeHalf", -0.5, 0}, IntegerRow{"NegativeHalfUp", -1.5, -2},
+                                         IntegerRow{"AboveHalf", 2.51, 3}, IntegerRow{"True", true, -1},
+                                         IntegerRow{"False", false, 0}, IntegerRow{"Text", "17", 17},
+                                         IntegerRow{"TextWithBlanks", " 17 ", 17}, IntegerRow{"FractionText", "2.5", 2},
+                                         IntegerRow{"Date", Date::of(2026, 3, 31), 46112},
+                                         IntegerRow{"Largest", 2147483647.4, 2147483647},
+                                         IntegerRow{"Smallest", -2147483648.0, -2147483647 - 1}),
+                         test::rowName);
 
 TEST(VariantTest, IntegerOutOfRangeIsAnOverflow)
 {
@@ -74,7 +76,8 @@ TEST(VariantTest, OtherTextIsAMismatch)
 
 TEST(VariantTest, ReadsBooleans)
 {
-    for (const Variant& value : {Variant(true), Variant("TRUE"), Variant("true"), Variant("-1"), Variant(1), Variant(0.5)})
+    for (const Variant& value :
+         {Variant(true), Variant("TRUE"), Variant("true"), Variant("-1"), Variant(1), Variant(0.5)})
         EXPECT_TRUE(value.toBoolean()) << value.toText();
     for (const Variant& value : {Variant(false), Variant("False"), Variant("0"), Variant(0)})
         EXPECT_FALSE(value.toBoolean()) << value.toText();

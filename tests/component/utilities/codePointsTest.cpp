@@ -34,16 +34,23 @@ TEST_P(CodePointsTest, TruncatesBetweenCharacters)
 INSTANTIATE_TEST_SUITE_P(
     Texts, CodePointsTest,
     testing::Values(Row{"Empty", "", 0}, Row{"Ascii", "Meeting", 7}, Row{"TwoBytes", "\xC3\xA9t\xC3\xA9", 3},
-                    Row{"ThreeBytes", "\xE2\x82\xAC" "5", 2}, Row{"FourBytes", "\xF0\x9F\x98\x80!", 2},
-                    Row{"Combining", "e\xCC\x81", 2}, Row{"NulByte", std::string("a\0b", 3), 3},
+                    Row{"ThreeBytes",
+                        "\xE2\x82\xAC"
+                        "5",
+                        2},
+                    Row{"FourBytes", "\xF0\x9F\x98\x80!", 2}, Row{"Combining", "e\xCC\x81", 2},
+                    Row{"NulByte", std::string("a\0b", 3), 3},
                     Row{"LastOfRanges", "\xED\x9F\xBF\xEF\xBF\xBF\xF4\x8F\xBF\xBF", 3},
                     Row{"StrayContinuation", "\x80\xBFz", 3}, Row{"CutTwoBytes", "\xC3", 1},
                     Row{"CutThreeBytes", "\xE2\x82", 2}, Row{"CutFourBytes", "\xF0\x9F\x98", 3},
-                    Row{"LeadThenLetter", "\xE2" "abc", 4}, Row{"BrokenThirdByte", "\xE2\x82z", 3},
-                    Row{"BrokenFourthByte", "\xF0\x9F\x98z", 4}, Row{"OverlongTwo", "\xC0\xAF", 2},
-                    Row{"OverlongThree", "\xE0\x80\xAF", 3}, Row{"OverlongFour", "\xF0\x80\x80\xAF", 4},
-                    Row{"Surrogate", "\xED\xA0\x80", 3}, Row{"BeyondUnicode", "\xF4\x90\x80\x80", 4},
-                    Row{"InvalidLead", "\xF5\xFE\xFF", 3}),
+                    Row{"LeadThenLetter",
+                        "\xE2"
+                        "abc",
+                        4},
+                    Row{"BrokenThirdByte", "\xE2\x82z", 3}, Row{"BrokenFourthByte", "\xF0\x9F\x98z", 4},
+                    Row{"OverlongTwo", "\xC0\xAF", 2}, Row{"OverlongThree", "\xE0\x80\xAF", 3},
+                    Row{"OverlongFour", "\xF0\x80\x80\xAF", 4}, Row{"Surrogate", "\xED\xA0\x80", 3},
+                    Row{"BeyondUnicode", "\xF4\x90\x80\x80", 4}, Row{"InvalidLead", "\xF5\xFE\xFF", 3}),
     test::rowName);
 
 TEST(TruncatedToCodePointsTest, KeepsWholeCharacters)
