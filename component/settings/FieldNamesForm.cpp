@@ -4,7 +4,7 @@
 
 namespace qncal {
 
-FieldNamesForm::FieldNamesForm(const Texts& texts) : Form(std::string(texts.formName)), texts_(texts)
+FieldNamesForm::FieldNamesForm(const Texts& texts) : ItemKindForm(std::string(texts.formName)), texts_(texts)
 {
     lblCaption.forEach([&](Label& caption, int index) {
         caption.caption(std::string(texts_.fieldCaption) + std::to_string(index) + ":");

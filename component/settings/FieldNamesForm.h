@@ -1,19 +1,19 @@
 #pragma once
 
 #include "controls/ControlArray.h"
-#include "controls/Form.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
+#include "core/forms.h"
 #include "settings/kindWords.h"
 
 namespace qncal {
 
 /// The two dialogs that name the five status fields and the five custom fields of a kind of item, as far as they
 /// are alike. The names live in the one row of `CustomFields`, one column for each.
-class FieldNamesForm : public Form {
+class FieldNamesForm : public ItemKindForm {
 public:
     /// Reads the names and shows the dialog modally.
-    void Initialize(enumLocalCalendarItemType kind);
+    void Initialize(enumLocalCalendarItemType kind) override;
 
     void setupForm();
     void populateFieldNames();

@@ -16,4 +16,6 @@ frmApptCustomFields::frmApptCustomFields()
 
 void frmApptCustomFields::cmdAdvancedOptions_Click(int) {}
 
+std::shared_ptr<ItemKindForm> newApptCustomFieldsForm() { return std::make_shared<frmApptCustomFields>(); }
+
 } // namespace qncal

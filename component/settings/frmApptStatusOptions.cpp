@@ -20,7 +20,7 @@ constexpr std::int32_t iconColumns = 6;
 
 } // namespace
 
-frmApptStatusOptions::frmApptStatusOptions() : Form("frmApptStatusOptions")
+frmApptStatusOptions::frmApptStatusOptions() : ApptStatusOptionsForm("frmApptStatusOptions")
 {
     lblField.caption("&Name:");
     txtField.accessibleName("Name");
@@ -185,5 +185,7 @@ void frmApptStatusOptions::VScrollBar_Change() { picIconsOptions.top(-vScrollBar
 void frmApptStatusOptions::VScrollBar_Scroll() { VScrollBar_Change(); }
 
 void frmApptStatusOptions::picScrollBarContainer_Resize() { setupScrollBars(); }
+
+std::shared_ptr<ApptStatusOptionsForm> newApptStatusOptionsForm() { return std::make_shared<frmApptStatusOptions>(); }
 
 } // namespace qncal

@@ -1,23 +1,23 @@
 #pragma once
 
 #include "controls/ControlArray.h"
-#include "controls/Form.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
 #include "controls/rangeControls.h"
+#include "core/forms.h"
 #include "settings/kindWords.h"
 
 namespace qncal {
 
 /// One status of a kind of item: its name, its colour and its icon.
-class frmApptStatusOptions : public Form {
+class frmApptStatusOptions : public ApptStatusOptionsForm {
 public:
     static constexpr int iconCount = 42;
 
     frmApptStatusOptions();
 
     /// Reads the status and shows the dialog modally. `fieldNumber` is 1 to 5.
-    void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t fieldNumber);
+    void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t fieldNumber) override;
 
     void setupForm();
     void setupScrollBars();

@@ -29,4 +29,6 @@ void frmChangeApptStatusFields::cmdAdvancedOptions_Click(int index)
     });
 }
 
+std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm() { return std::make_shared<frmChangeApptStatusFields>(); }
+
 } // namespace qncal
