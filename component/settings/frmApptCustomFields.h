@@ -7,6 +7,8 @@ namespace qncal {
 /// The names of the five custom fields of one kind.
 class frmApptCustomFields : public ApptCustomFieldsForm {
 public:
+    frmApptCustomFields() : ApptCustomFieldsForm("frmApptCustomFields") {}
+
     void Initialize(enumLocalCalendarItemType kind) override;
 
     enumLocalCalendarItemType calendarKind() const { return calendarKind_; }

@@ -7,6 +7,8 @@ namespace qncal {
 /// The colour and the icon of one status field.
 class frmApptStatusOptions : public ApptStatusOptionsForm {
 public:
+    frmApptStatusOptions() : ApptStatusOptionsForm("frmApptStatusOptions") {}
+
     void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t customNum) override;
 
     enumLocalCalendarItemType calendarKind() const { return calendarKind_; }

@@ -7,6 +7,8 @@ namespace qncal {
 /// The names of the five status fields of one kind.
 class frmChangeApptStatusFields : public ChangeApptStatusFieldsForm {
 public:
+    frmChangeApptStatusFields() : ChangeApptStatusFieldsForm("frmChangeApptStatusFields") {}
+
     void Initialize(enumLocalCalendarItemType kind) override;
 
     enumLocalCalendarItemType calendarKind() const { return calendarKind_; }
