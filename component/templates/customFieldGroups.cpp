@@ -8,10 +8,7 @@ namespace {
 
 constexpr CustomFieldTexts::Five five(std::string_view text)
 {
-    CustomFieldTexts::Five texts;
-    for (int i = 0; i < customFieldCount; ++i)
-        texts[static_cast<std::size_t>(i)] = NumberedText(text, i + 1);
-    return texts;
+    return {{{text, "1"}, {text, "2"}, {text, "3"}, {text, "4"}, {text, "5"}}};
 }
 
 constexpr std::array<CustomFieldTexts, 8> groups{{
