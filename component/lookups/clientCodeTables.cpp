@@ -70,17 +70,13 @@ constexpr std::array<CodeText, 1> corporationLevels{{{2, "Provincial Corporation
 
 std::string getCompanyTypeStringFromCompanyTypeNum(std::int32_t code)
 {
-    std::string text;
-    routine("Vestrel.exe-modDatabaseFunctions-getCompanyTypeStringFromCompanyTypeNum", [&] {
-        text = unknownCompanyType;
-        if (code == partnershipCode) {
-            const std::int32_t country = statement([] { return localeService().getCountryCode(); });
-            text = textOfCode(partnershipByCountry, country, unknownCompanyType);
-        } else {
-            text = textOfCode(companyTypes, code, unknownCompanyType);
-        }
-    });
-    return text;
+    return routine("Vestrel.exe-modDatabaseFunctions-getCompanyTypeStringFromCompanyTypeNum",
+                   std::string(unknownCompanyType), [&] {
+                       if (code != partnershipCode)
+                           return textOfCode(companyTypes, code, unknownCompanyType);
+                       const std::int32_t country = statement([] { return localeService().getCountryCode(); });
+                       return textOfCode(partnershipByCountry, country, unknownCompanyType);
+                   });
 }
 
 std::string getFinancialStatementsStringFromFinancialStatementsNum(std::int32_t code)

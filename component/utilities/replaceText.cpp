@@ -2,8 +2,6 @@
 
 #include "utilities/text.h"
 
-#include <array>
-
 namespace qncal {
 
 namespace {
@@ -11,11 +9,15 @@ namespace {
 /// The next place that can start the wanted text, found by its first byte in either case.
 std::size_t findFirstByte(std::string_view text, char first, std::size_t from)
 {
+    constexpr char caseBit = 0x20;
     const char lower = lowerAscii(first);
     if (lower < 'a' || lower > 'z')
         return text.find(first, from);
-    const std::array<char, 2> bothCases{lower, static_cast<char>(lower - 'a' + 'A')};
-    return text.find_first_of(bothCases.data(), from, bothCases.size());
+    for (; from < text.size(); ++from) {
+        if ((text[from] | caseBit) == lower)
+            return from;
+    }
+    return std::string_view::npos;
 }
 
 } // namespace
