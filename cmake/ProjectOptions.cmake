@@ -16,7 +16,9 @@ option(QNCAL_COVERAGE "Build with coverage counters" OFF)
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER ${CCACHE_PROGRAM})
+    # Without this ccache keeps nothing that uses a precompiled header.
+    set(sloppiness pch_defines,time_macros,include_file_mtime,include_file_ctime)
+    set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=${sloppiness} ${CCACHE_PROGRAM})
 endif()
 
 add_library(qncalOptions INTERFACE)

@@ -11,16 +11,16 @@ namespace qncal::schema {
 /// `core/schema/`.
 
 enum class ColumnType : std::uint8_t {
-    key, ///< autonumber, the table's primary key
-    id, ///< 32-bit integer, -1 or null for none
-    integer, ///< 32-bit integer
-    real, ///< 64-bit real
+    key,      ///< autonumber, the table's primary key
+    id,       ///< 32-bit integer, -1 or null for none
+    integer,  ///< 32-bit integer
+    real,     ///< 64-bit real
     currency, ///< an amount of money, 64-bit real
-    text, ///< short text
-    memo, ///< long text, possibly rich text
+    text,     ///< short text
+    memo,     ///< long text, possibly rich text
     boolean,
-    date, ///< a day, or a day with a time
-    time, ///< a time of day
+    date,   ///< a day, or a day with a time
+    time,   ///< a time of day
     colour, ///< 32-bit integer, red in the low byte
 };
 

@@ -49,7 +49,7 @@ std::string tableText(const schema::Table& table)
     text += "| Column | Type | Default |\n|---|---|---|\n";
     for (const schema::Column& column : table.columns)
         text += "| " + quoted(column.name) + " | " + std::string(typeName(column.type)) + " | "
-            + std::string(column.defaultValue) + " |\n";
+                + std::string(column.defaultValue) + " |\n";
     std::string_view separator = "\nIndexes: ";
     for (const schema::Index& index : table.indexes) {
         text += std::string(separator) + indexText(index);
@@ -62,10 +62,11 @@ std::string tableText(const schema::Table& table)
 
 std::string schemaDocument()
 {
-    std::string text = "# Tables of the database\n\n"
-                       "Made from the schema in `component/core/schema/`; run `hostTests` with `QNCAL_REWRITE=1` "
-                       "after a change there.\n\n"
-                       "Schema version "
+    std::string text =
+        "# Tables of the database\n\n"
+        "Made from the schema in `component/core/schema/`; run `hostTests` with `QNCAL_REWRITE=1` "
+        "after a change there.\n\n"
+        "Schema version "
         + std::to_string(schema::version) + ", " + std::to_string(schema::tables().size())
         + " tables. The key of a table is an autonumber. An id is -1 or null for none. A column without a default "
           "starts as null.\n";

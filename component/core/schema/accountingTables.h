@@ -25,8 +25,8 @@ inline constexpr Index byCompany[] = {{"CompanyIDNum"}};
 inline constexpr Column clientDataLink[] = {{"ClientDataIDNum", id}};
 inline constexpr Index byClientData[] = {{"ClientDataIDNum"}};
 
-inline constexpr auto accountingServicesColumns
-    = columns({{"AccountingServicesID", key}}, clientDataLink, {{"FinancialStatements", integer}});
+inline constexpr auto accountingServicesColumns =
+    columns({{"AccountingServicesID", key}}, clientDataLink, {{"FinancialStatements", integer}});
 inline constexpr auto clientOptionsColumns = columns({{"ClientOptionsID", key}}, clientDataLink);
 
 inline constexpr auto clientUSInfoColumns = columns({{"ClientUSInfoID", key}}, clientDataLink,
@@ -64,8 +64,8 @@ inline constexpr auto corpTaxInfoColumns = columns({{"CorpTaxInfoID", key}}, cli
                                                        {"CharitableNum", text},
                                                    });
 
-inline constexpr auto lawInfoColumns
-    = columns({{"LawInfoID", key}}, clientDataLink, {{"LawSocietyMemberNumber", text}});
+inline constexpr auto lawInfoColumns =
+    columns({{"LawInfoID", key}}, clientDataLink, {{"LawSocietyMemberNumber", text}});
 inline constexpr auto otherInfoColumns = columns({{"OtherInfoID", key}}, clientDataLink, {{"NameRenewalDate", date}});
 
 inline constexpr auto wsibEhtInfoColumns = columns({{"WSIB_EHTInfoID", key}}, clientDataLink,

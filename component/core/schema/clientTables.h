@@ -10,12 +10,9 @@ using enum ColumnType;
 
 /// A street address with its parts. The numbered lines are filled by field assignment, the plain one is shown.
 #define QNCAL_ADDRESS_COLUMNS(prefix)                                                                                  \
-    Column{prefix "Address", text}, Column{prefix "Address1", text}, Column{prefix "Address2", text},                  \
-        Column{prefix "Address3", text}, Column{prefix "City", text}, Column{prefix "Province", text},                 \
-        Column{prefix "PostalCode", text}, Column                                                                      \
-    {                                                                                                                  \
-        prefix "Country", text                                                                                         \
-    }
+    column(prefix "Address", text), column(prefix "Address1", text), column(prefix "Address2", text),                  \
+        column(prefix "Address3", text), column(prefix "City", text), column(prefix "Province", text),                 \
+        column(prefix "PostalCode", text), column(prefix "Country", text)
 
 /// The columns that client companies and the firm itself share: the summaries read either by the same names.
 inline constexpr Column companyColumns[] = {

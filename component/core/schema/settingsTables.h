@@ -9,28 +9,24 @@ namespace qncal::schema {
 using enum ColumnType;
 
 #define QNCAL_WEEKDAY_COLOURS(view)                                                                                    \
-    Column{view "SundayBackColour", colour}, Column{view "MondayBackColour", colour},                                  \
-        Column{view "TuesdayBackColour", colour}, Column{view "WednesdayBackColour", colour},                          \
-        Column{view "ThursdayBackColour", colour}, Column{view "FridayBackColour", colour}, Column                     \
-    {                                                                                                                  \
-        view "SaturdayBackColour", colour                                                                              \
-    }
+    column(view "SundayBackColour", colour), column(view "MondayBackColour", colour),                                  \
+        column(view "TuesdayBackColour", colour), column(view "WednesdayBackColour", colour),                          \
+        column(view "ThursdayBackColour", colour), column(view "FridayBackColour", colour),                            \
+        column(view "SaturdayBackColour", colour)
 
 /// A kind's part of a user's row.
 #define QNCAL_USER_SETTINGS(kind)                                                                                      \
-    Column{kind "StartupDayTimerView", integer}, Column{kind "ShowSideBarView", integer},                              \
-        Column{kind "ShowWeekendView", integer}, QNCAL_WEEKDAY_COLOURS(kind "Day"),                                    \
+    column(kind "StartupDayTimerView", integer), column(kind "ShowSideBarView", integer),                              \
+        column(kind "ShowWeekendView", integer), QNCAL_WEEKDAY_COLOURS(kind "Day"),                                    \
         QNCAL_WEEKDAY_COLOURS(kind "Week"), QNCAL_WEEKDAY_COLOURS(kind "Month"),                                       \
-        Column{"Use" kind "DayBackColours", boolean}, Column{"Use" kind "WeekBackColours", boolean},                   \
-        Column{"Use" kind "MonthBackColours", boolean}, Column{kind "TimeFrom", time}, Column{kind "TimeTo", time},    \
-        Column{kind "ViewMyColourScheme", integer}, Column{"Show" kind "TitleBarIcons", boolean}, Column               \
-    {                                                                                                                  \
-        kind "ShowStatusCheckBoxes", boolean                                                                           \
-    }
+        column("Use" kind "DayBackColours", boolean), column("Use" kind "WeekBackColours", boolean),                   \
+        column("Use" kind "MonthBackColours", boolean), column(kind "TimeFrom", time), column(kind "TimeTo", time),    \
+        column(kind "ViewMyColourScheme", integer), column("Show" kind "TitleBarIcons", boolean),                      \
+        column(kind "ShowStatusCheckBoxes", boolean)
 
 /// A kind's part of the firm-wide row.
 #define QNCAL_FIRM_SETTINGS(kind)                                                                                      \
-    Column{kind "Template", memo}, Column{"Show" kind "TitleBar", boolean}, Column { kind "TitleBarText", memo }
+    column(kind "Template", memo), column("Show" kind "TitleBar", boolean), column(kind "TitleBarText", memo)
 
 inline constexpr auto userCalendarSettingsColumns = columns({
     {"UserCalendarSettingsID", key},

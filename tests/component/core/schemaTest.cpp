@@ -1,7 +1,7 @@
 #include "core/schema.h"
 
-#include "utilities/text.h"
 #include "utilities/Variant.h"
+#include "utilities/text.h"
 
 #include <gtest/gtest.h>
 
@@ -38,7 +38,7 @@ bool isLiteralOf(ColumnType type, std::string_view literal)
     }
 }
 
-class SchemaTableTest : public testing::TestWithParam<Table> { };
+class SchemaTableTest : public testing::TestWithParam<Table> {};
 
 TEST_P(SchemaTableTest, HasOneKeyWhichIsFirst)
 {
@@ -168,7 +168,7 @@ struct Typed {
 
 void PrintTo(const Typed& typed, std::ostream* out) { *out << typed.table << ": " << typed.columns; }
 
-class SchemaColumnTest : public testing::TestWithParam<Typed> { };
+class SchemaColumnTest : public testing::TestWithParam<Typed> {};
 
 TEST_P(SchemaColumnTest, IsOfItsType)
 {
@@ -304,8 +304,8 @@ const Typed typedColumns[] = {
 
 std::string caseName(const testing::TestParamInfo<Typed>& row)
 {
-    constexpr const char* typeNames[]
-        = {"key", "id", "integer", "real", "currency", "text", "memo", "boolean", "date", "time", "colour"};
+    constexpr const char* typeNames[] = {"key",  "id",      "integer", "real", "currency", "text",
+                                         "memo", "boolean", "date",    "time", "colour"};
     return std::string(row.param.table) + "_" + typeNames[static_cast<std::size_t>(row.param.type)];
 }
 
