@@ -1,5 +1,6 @@
 #include "services/Locale.h"
 
+#include "services/Rows.h"
 #include "utilities/text.h"
 
 #include <algorithm>
@@ -22,6 +23,19 @@ std::optional<Province> findProvince(const Matches& matches)
 {
     const auto found = std::ranges::find_if(provinces, matches);
     return found == provinces.end() ? std::nullopt : std::optional(*found);
+}
+
+constexpr std::string_view settingsRow = "SELECT GlobalGeneralSettings.* FROM GlobalGeneralSettings;";
+
+/// The date stamp's own defaults, which hold as long as there is no row.
+void addSettingsRow(DatabaseService& database)
+{
+    Rows rows = Rows::change(database, settingsRow);
+    rows.addNew();
+    rows.setNew("DateStampShowTime", booleanText(true));
+    rows.setNew("DateStampShowName", booleanText(true));
+    rows.setNew("DateStampShowNameOptions", "1");
+    rows.update();
 }
 
 } // namespace
@@ -50,6 +64,24 @@ std::optional<Province> provinceFromText(std::string_view text)
 std::optional<Province> provinceFromCode(std::int32_t code)
 {
     return findProvince([&](const Province& province) { return province.code == code; });
+}
+
+void readRegion(DatabaseService& database, Locale::Values& values)
+{
+    const Rows rows = Rows::read(database, settingsRow);
+    if (rows.isEmpty())
+        return;
+    values.country = rows.integer("CountryCode", values.country);
+    values.province = rows.integer("ProvinceCode", values.province);
+}
+
+void storeRegion(DatabaseService& database, const Locale::Values& values)
+{
+    if (Rows::read(database, settingsRow).isEmpty())
+        addSettingsRow(database);
+    Rows rows = Rows::change(database, settingsRow);
+    rows.set("CountryCode", std::to_string(values.country));
+    rows.set("ProvinceCode", std::to_string(values.province));
 }
 
 } // namespace qncal::host

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/DatabaseService.h"
 #include "core/LocaleService.h"
 
 #include <optional>
@@ -47,5 +48,10 @@ std::optional<std::int32_t> countryFromText(std::string_view text);
 std::optional<Province> provinceFromText(std::string_view text);
 /// The province of a code; nothing for a code without one.
 std::optional<Province> provinceFromCode(std::int32_t code);
+
+/// Takes country and province from the row of `GlobalGeneralSettings`; what is null there stays as it was.
+void readRegion(DatabaseService& database, Locale::Values& values);
+/// Keeps country and province in that row, which is added when the table is empty.
+void storeRegion(DatabaseService& database, const Locale::Values& values);
 
 } // namespace qncal::host

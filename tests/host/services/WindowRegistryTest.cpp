@@ -1,7 +1,7 @@
 #include "services/WindowRegistry.h"
 
-#include "controls/DialogHost.h"
 #include "controls/Form.h"
+#include "headless/HeadlessDialogHost.h"
 #include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
@@ -12,16 +12,13 @@
 namespace qncal::host {
 namespace {
 
-/// Records what it is asked to do.
-class RecordingDialogHost : public DialogHost {
+/// Records what it is asked to do with forms.
+class RecordingDialogHost : public HeadlessDialogHost {
 public:
     void showModal(Form&) override { calls.emplace_back("showModal"); }
     void show(Form&) override { calls.emplace_back("show"); }
     void hide(Form&) override { calls.emplace_back("hide"); }
     void bringToFront(Form&) override { calls.emplace_back("bringToFront"); }
-    MousePointer mousePointer() const override { return MousePointer::standard; }
-    void mousePointer(MousePointer) override { }
-    void doEvents() override { }
 
     std::vector<std::string> calls;
 };
