@@ -4,6 +4,7 @@
 
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace qncal {
 namespace {
@@ -45,38 +46,73 @@ TEST(EventTest, SubscriptionsAreNeverGivenTwice)
     EXPECT_NE(event.subscribe([] {}), first);
 }
 
-TEST(EventTest, ChangesDuringARaiseTakeEffectAtTheNext)
+TEST(EventTest, HandlerSubscribedDuringARaiseWaitsForTheNext)
 {
     Event<> event;
     std::string calls;
-    Event<>::Subscription second = 0;
-    bool changed = false;
+    bool subscribed = false;
     event.subscribe([&] {
         calls += 'a';
-        if (changed)
-            return;
-        changed = true;
-        event.unsubscribe(second);
-        event.subscribe([&] { calls += 'c'; });
+        if (!std::exchange(subscribed, true))
+            event.subscribe([&] { calls += 'b'; });
     });
-    second = event.subscribe([&] { calls += 'b'; });
     event.raise();
-    EXPECT_EQ(calls, "ab");
+    EXPECT_EQ(calls, "a");
     event.raise();
-    EXPECT_EQ(calls, "abac");
+    EXPECT_EQ(calls, "aab");
 }
 
-TEST(EventTest, HandlerMayEndTheEvent)
+TEST(EventTest, HandlerUnsubscribedDuringARaiseIsNotCalled)
+{
+    Event<> event;
+    std::string calls;
+    auto owner = std::make_unique<std::string>("owned");
+    Event<>::Subscription second = 0;
+    event.subscribe([&] {
+        event.unsubscribe(second);
+        owner.reset();
+    });
+    second = event.subscribe([&] { calls += *owner; });
+    event.subscribe([&] { calls += 'c'; });
+    event.raise();
+    EXPECT_EQ(calls, "c");
+}
+
+TEST(EventTest, HandlerMayUnsubscribeItself)
+{
+    Event<> event;
+    std::string calls;
+    Event<>::Subscription once = 0;
+    once = event.subscribe([&, text = std::string(100, 'x')] {
+        event.unsubscribe(once);
+        calls += text.front();
+    });
+    event.raise();
+    event.raise();
+    EXPECT_EQ(calls, "x");
+}
+
+TEST(EventTest, EventThatEndsCallsNobodyFurther)
 {
     auto event = std::make_unique<Event<>>();
     std::string calls;
-    event->subscribe([&] {
+    event->subscribe([&, text = std::string(100, 'x')] {
         event.reset();
-        calls += 'a';
+        calls += text.front();
     });
     event->subscribe([&] { calls += 'b'; });
     event->raise();
-    EXPECT_EQ(calls, "ab");
+    EXPECT_EQ(calls, "x");
+}
+
+TEST(EventTest, KeepsItsHandlersWhenItMoves)
+{
+    Event<> event;
+    std::string calls;
+    event.subscribe([&] { calls += 'a'; });
+    const Event<> moved(std::move(event));
+    moved.raise();
+    EXPECT_EQ(calls, "a");
 }
 
 TEST(EventTest, ReferenceArgumentsReachTheRaiser)
