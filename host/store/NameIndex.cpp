@@ -42,7 +42,8 @@ std::optional<std::size_t> NameIndex::find(std::string_view name) const
 {
     if (slots_.empty())
         return std::nullopt;
-    for (std::size_t slot = hash(name) & (slots_.size() - 1); slots_[slot] != 0; slot = (slot + 1) & (slots_.size() - 1))
+    for (std::size_t slot = hash(name) & (slots_.size() - 1); slots_[slot] != 0;
+         slot = (slot + 1) & (slots_.size() - 1))
         if (equalsNoCase(names_[slots_[slot] - 1], name))
             return slots_[slot] - 1;
     return std::nullopt;

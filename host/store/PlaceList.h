@@ -18,7 +18,10 @@ public:
     void append(std::span<const std::int64_t> keys);
 
     std::size_t size() const { return states_.size(); }
-    std::span<const std::int64_t> keys(std::size_t index) const { return std::span(keys_).subspan(index * width_, width_); }
+    std::span<const std::int64_t> keys(std::size_t index) const
+    {
+        return std::span(keys_).subspan(index * width_, width_);
+    }
     bool isLive(std::size_t index) const { return states_[index] == State::live; }
     bool isClosed(std::size_t index) const { return states_[index] == State::closed; }
     void close(std::size_t index);

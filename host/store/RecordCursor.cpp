@@ -202,8 +202,8 @@ bool RecordCursor::moveNext()
     leaveRow();
     do
         ++index_;
-    while (hasPlace(static_cast<std::size_t>(index_)) &&
-           (!places_.isLive(static_cast<std::size_t>(index_)) || !readRow()));
+    while (hasPlace(static_cast<std::size_t>(index_))
+           && (!places_.isLive(static_cast<std::size_t>(index_)) || !readRow()));
     return true;
 }
 
@@ -288,8 +288,7 @@ bool RecordCursor::findByWalk(std::size_t column, const StoredValue& wanted)
         const StoredValue value = row_.value(column);
         const bool equal = value.kind == StoredValue::Kind::text && wanted.kind == StoredValue::Kind::text
                                ? equalsNoCase(value.text, wanted.text)
-                               : value.kind != StoredValue::Kind::null &&
-                                     computedValue(value) == computedValue(wanted);
+                               : value.kind != StoredValue::Kind::null && computedValue(value) == computedValue(wanted);
         if (equal) {
             adding_ = false;
             return true;
@@ -311,7 +310,8 @@ bool RecordCursor::readRow()
         rowVersion_ = version();
         return true;
     }
-    const auto keys = detached_ ? std::span<const std::int64_t>(detachedKeys_) : places_.keys(static_cast<std::size_t>(index_));
+    const auto keys =
+        detached_ ? std::span<const std::int64_t>(detachedKeys_) : places_.keys(static_cast<std::size_t>(index_));
     SqliteStatement& statement = plan_->record(text_);
     const StatementRun run(statement);
     for (std::size_t i = 0; i < keys.size(); ++i)
@@ -425,6 +425,11 @@ void RecordCursor::storeRecord()
     leaveRow();
     detachedKeys_.assign(1, newRow_.value(0).integer);
     detached_ = true;
+    if (complete_) {
+        places_.append(detachedKeys_);
+        index_ = static_cast<std::ptrdiff_t>(places_.size()) - 1;
+        detached_ = false;
+    }
 }
 
 bool RecordCursor::deleteRecord()

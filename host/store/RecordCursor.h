@@ -21,7 +21,8 @@ namespace qncal::host {
 /// reached the engine before a call.
 class RecordCursor {
 public:
-    void open(std::shared_ptr<SelectPlan> plan, const dialect::ShapedText& text, bool updatable, StoreStatistics& statistics);
+    void open(std::shared_ptr<SelectPlan> plan, const dialect::ShapedText& text, bool updatable,
+              StoreStatistics& statistics);
     void close();
 
     bool hasRecords();

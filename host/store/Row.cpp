@@ -30,14 +30,19 @@ Row::Cell Row::cellOf(const StoredValue& value)
     Cell cell;
     cell.kind = value.kind;
     switch (value.kind) {
-    case StoredValue::Kind::integer: cell.integer = value.integer; break;
-    case StoredValue::Kind::real: cell.real = value.real; break;
+    case StoredValue::Kind::integer:
+        cell.integer = value.integer;
+        break;
+    case StoredValue::Kind::real:
+        cell.real = value.real;
+        break;
     case StoredValue::Kind::text:
         cell.offset = texts_.size();
         cell.length = static_cast<std::uint32_t>(value.text.size());
         texts_.append(value.text);
         break;
-    default: break;
+    default:
+        break;
     }
     return cell;
 }
@@ -46,10 +51,14 @@ StoredValue Row::value(std::size_t place) const
 {
     const Cell& cell = cells_[place];
     switch (cell.kind) {
-    case StoredValue::Kind::integer: return {cell.kind, cell.integer};
-    case StoredValue::Kind::real: return {cell.kind, 0, cell.real};
-    case StoredValue::Kind::text: return {cell.kind, 0, 0, std::string_view(texts_).substr(cell.offset, cell.length)};
-    default: return {};
+    case StoredValue::Kind::integer:
+        return {cell.kind, cell.integer};
+    case StoredValue::Kind::real:
+        return {cell.kind, 0, cell.real};
+    case StoredValue::Kind::text:
+        return {cell.kind, 0, 0, std::string_view(texts_).substr(cell.offset, cell.length)};
+    default:
+        return {};
     }
 }
 

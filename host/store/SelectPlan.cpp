@@ -73,13 +73,14 @@ std::string SelectPlan::orderClause() const
 
 std::string SelectPlan::firstRecordText() const
 {
-    return "SELECT " + columns() + ", " + keys() + " FROM " + parts_.from + whereClause({}) + orderClause() + " LIMIT 1";
+    return "SELECT " + columns() + ", " + keys() + " FROM " + parts_.from + whereClause({}) + orderClause()
+           + " LIMIT 1";
 }
 
 std::string SelectPlan::moreKeysText() const
 {
-    return "SELECT " + keys() + " FROM " + parts_.from + whereClause(keyOf(0) + " > " + own(0)) + orderClause() +
-           " LIMIT " + std::to_string(blockSize);
+    return "SELECT " + keys() + " FROM " + parts_.from + whereClause(keyOf(0) + " > " + own(0)) + orderClause()
+           + " LIMIT " + std::to_string(blockSize);
 }
 
 std::string SelectPlan::allKeysText() const
@@ -91,8 +92,8 @@ std::string SelectPlan::recordText() const
 {
     std::string from;
     for (std::size_t table = 0; table < parts_.tables.size(); ++table) {
-        from += (table == 0 ? "" : " LEFT JOIN ") + quotedName(parts_.tables[table]->schema().name) + " AS t" +
-                std::to_string(table);
+        from += (table == 0 ? "" : " LEFT JOIN ") + quotedName(parts_.tables[table]->schema().name) + " AS t"
+                + std::to_string(table);
         if (table > 0)
             from += " ON " + keyOf(table) + " = " + own(static_cast<int>(table));
     }
@@ -101,16 +102,16 @@ std::string SelectPlan::recordText() const
 
 std::string SelectPlan::allRecordsText() const
 {
-    return std::string("SELECT ") + (parts_.distinct ? "DISTINCT " : "") + columns() + " FROM " + parts_.from +
-           whereClause({}) + (parts_.tail.empty() ? "" : " " + parts_.tail) + orderClause();
+    return std::string("SELECT ") + (parts_.distinct ? "DISTINCT " : "") + columns() + " FROM " + parts_.from
+           + whereClause({}) + (parts_.tail.empty() ? "" : " " + parts_.tail) + orderClause();
 }
 
 std::string SelectPlan::countText() const
 {
     if (!parts_.top)
         return "SELECT COUNT(*) FROM " + parts_.from + whereClause({});
-    return "SELECT COUNT(*) FROM (SELECT 1 FROM " + parts_.from + whereClause({}) + " LIMIT " +
-           std::to_string(*parts_.top) + ")";
+    return "SELECT COUNT(*) FROM (SELECT 1 FROM " + parts_.from + whereClause({}) + " LIMIT "
+           + std::to_string(*parts_.top) + ")";
 }
 
 void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::ShapedText& text)
@@ -121,13 +122,14 @@ void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::ShapedT
         const LiteralBinding& binding = parts_.bindings[i];
         const Literal& literal = text.literal(binding.literal);
         const int index = static_cast<int>(i) + 1;
-        const double real = (literal.kind == Literal::Kind::real ? literal.real : static_cast<double>(literal.integer)) *
-                            (binding.negative ? -1 : 1);
+        const double real = (literal.kind == Literal::Kind::real ? literal.real : static_cast<double>(literal.integer))
+                            * (binding.negative ? -1 : 1);
         std::string& buffer = boundTexts_[i];
         buffer.clear();
         if (literal.kind == Literal::Kind::text) {
             statement.bind(index, std::string_view(literal.text));
-        } else if (literal.kind == Literal::Kind::date || binding.use == LiteralUse::date || binding.use == LiteralUse::time) {
+        } else if (literal.kind == Literal::Kind::date || binding.use == LiteralUse::date
+                   || binding.use == LiteralUse::time) {
             const Date date = literal.kind == Literal::Kind::date ? literal.date : Date(real);
             if (binding.use == LiteralUse::time)
                 appendTimeStorage(date, buffer);
@@ -182,9 +184,9 @@ SqliteStatement& SelectPlan::find(const dialect::ShapedText& text, std::size_t c
 {
     SqliteStatement& statement = finds_[column];
     if (!statement)
-        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from +
-                                              whereClause(parts_.columns[column].sql + " = " + own(0)) + orderClause() +
-                                              " LIMIT 1");
+        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from
+                                              + whereClause(parts_.columns[column].sql + " = " + own(0)) + orderClause()
+                                              + " LIMIT 1");
     bindLiterals(statement, text);
     return statement;
 }

@@ -27,8 +27,8 @@ struct LiteralBinding {
 /// A column of a record set.
 struct PlanColumn {
     static constexpr std::size_t computed = static_cast<std::size_t>(-1);
-    std::size_t table = computed; ///< place among the plan's tables, `computed` for an expression
-    std::uint16_t column = 0;     ///< place in the table
+    std::size_t table = computed;           ///< place among the plan's tables, `computed` for an expression
+    std::uint16_t column = 0;               ///< place in the table
     std::optional<schema::ColumnType> type; ///< none when only the value itself tells
     std::string sql;
 };
@@ -101,7 +101,7 @@ private:
     SqliteConnection& connection_;
     SqliteStatement firstRecord_, moreKeys_, allKeys_, record_, allRecords_, count_;
     std::vector<bool> unique_;
-    std::vector<SqliteStatement> finds_; ///< by column
+    std::vector<SqliteStatement> finds_;  ///< by column
     std::vector<std::string> boundTexts_; ///< dates and times as bound, until the next binding
 };
 

@@ -40,7 +40,8 @@ SqliteStatement::SqliteStatement(sqlite3* connection, std::string_view sql, bool
 {
     sqlite3_stmt* statement = nullptr;
     const unsigned flags = longLived ? SQLITE_PREPARE_PERSISTENT : 0;
-    const int code = sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), flags, &statement, nullptr);
+    const int code =
+        sqlite3_prepare_v3(connection, sql.data(), static_cast<int>(sql.size()), flags, &statement, nullptr);
     statement_.reset(statement);
     if (code != SQLITE_OK)
         fail(connection, code);
@@ -63,10 +64,18 @@ void SqliteStatement::bind(int index, std::string_view text)
 void SqliteStatement::bind(int index, const StoredValue& value)
 {
     switch (value.kind) {
-    case StoredValue::Kind::integer: bind(index, value.integer); break;
-    case StoredValue::Kind::real: bind(index, value.real); break;
-    case StoredValue::Kind::text: bind(index, value.text); break;
-    default: bindNull(index); break;
+    case StoredValue::Kind::integer:
+        bind(index, value.integer);
+        break;
+    case StoredValue::Kind::real:
+        bind(index, value.real);
+        break;
+    case StoredValue::Kind::text:
+        bind(index, value.text);
+        break;
+    default:
+        bindNull(index);
+        break;
     }
 }
 
@@ -87,10 +96,14 @@ void SqliteStatement::reset() noexcept { sqlite3_reset(statement_.get()); }
 StoredValue SqliteStatement::value(int column) const
 {
     switch (sqlite3_column_type(statement_.get(), column)) {
-    case SQLITE_INTEGER: return {StoredValue::Kind::integer, integer(column)};
-    case SQLITE_FLOAT: return {StoredValue::Kind::real, 0, real(column)};
-    case SQLITE_NULL: return {};
-    default: return {StoredValue::Kind::text, 0, 0, text(column)};
+    case SQLITE_INTEGER:
+        return {StoredValue::Kind::integer, integer(column)};
+    case SQLITE_FLOAT:
+        return {StoredValue::Kind::real, 0, real(column)};
+    case SQLITE_NULL:
+        return {};
+    default:
+        return {StoredValue::Kind::text, 0, 0, text(column)};
     }
 }
 
@@ -107,8 +120,8 @@ void SqliteConnection::Closer::operator()(sqlite3* connection) const noexcept { 
 
 SqliteConnection::SqliteConnection(const std::string& path, Access access, int busyTimeout)
 {
-    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE |
-                      (access == Access::create ? SQLITE_OPEN_CREATE : 0);
+    const int flags = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE
+                      | (access == Access::create ? SQLITE_OPEN_CREATE : 0);
     sqlite3* connection = nullptr;
     const int code = sqlite3_open_v2(path.c_str(), &connection, flags, nullptr);
     connection_.reset(connection);

@@ -98,7 +98,8 @@ RecordCursor& SqliteDatabase::settledCursor(std::int32_t handle)
     return found;
 }
 
-std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, std::int32_t lock, bool, std::string_view, bool)
+std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, std::int32_t lock, bool,
+                                           std::string_view, bool)
 {
     StoreEngine& store = engine();
     store.writes().flush();
@@ -173,7 +174,8 @@ Variant SqliteDatabase::getField(std::int32_t handle, std::string_view fieldName
     return found.field(fieldName);
 }
 
-bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldName, std::string_view value, bool, bool, bool)
+bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldName, std::string_view value, bool, bool,
+                                   bool)
 {
     RecordCursor& found = cursor(handle);
     if (found.isAdding()) {

@@ -38,7 +38,8 @@ void likeFunction(sqlite3_context* context, int, sqlite3_value** arguments)
         }
         sqlite3_result_int(context, pattern->matches(textArgument(arguments[1])) ? 1 : 0);
         if (!known)
-            sqlite3_set_auxdata(context, 0, fresh.release(), [](void* kept) { delete static_cast<LikePattern*>(kept); });
+            sqlite3_set_auxdata(context, 0, fresh.release(),
+                                [](void* kept) { delete static_cast<LikePattern*>(kept); });
     } catch (const std::bad_alloc&) {
         sqlite3_result_error_nomem(context);
     }
@@ -59,8 +60,8 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 
 } // namespace
 
-StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access, std::span<const schema::Table> tables,
-                         std::int32_t version, int busyTimeout)
+StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
+                         std::span<const schema::Table> tables, std::int32_t version, int busyTimeout)
     : connection_(openConnection(path, access, tables, version, busyTimeout)), catalogue_(tables, connection_)
 {
 }

@@ -24,15 +24,15 @@ std::int64_t StoreTable::takeKey()
 {
     if (nextKey_ == endKey_) {
         SqliteTransaction transaction(connection_);
-        SqliteStatement find = connection_.prepare(
-            "SELECT MAX(IFNULL((SELECT nextKey FROM " + std::string(keyTable) + " WHERE tableName = ?1), 1), " +
-            "IFNULL((SELECT MAX(" + keyName() + ") FROM " + quotedName(schema_.name) + "), 0) + 1)");
+        SqliteStatement find = connection_.prepare("SELECT MAX(IFNULL((SELECT nextKey FROM " + std::string(keyTable)
+                                                   + " WHERE tableName = ?1), 1), " + "IFNULL((SELECT MAX(" + keyName()
+                                                   + ") FROM " + quotedName(schema_.name) + "), 0) + 1)");
         find.bind(1, schema_.name);
         find.step();
         const std::int64_t first = find.integer(0);
         find.reset();
-        SqliteStatement store =
-            connection_.prepare("INSERT OR REPLACE INTO " + std::string(keyTable) + " (tableName, nextKey) VALUES (?1, ?2)");
+        SqliteStatement store = connection_.prepare("INSERT OR REPLACE INTO " + std::string(keyTable)
+                                                    + " (tableName, nextKey) VALUES (?1, ?2)");
         store.bind(1, schema_.name);
         store.bind(2, first + keysTakenAtOnce);
         store.step();
@@ -48,8 +48,8 @@ void StoreTable::returnKeys()
 {
     if (nextKey_ == endKey_)
         return;
-    SqliteStatement store =
-        connection_.prepare("UPDATE " + std::string(keyTable) + " SET nextKey = ?1 WHERE tableName = ?2 AND nextKey = ?3");
+    SqliteStatement store = connection_.prepare("UPDATE " + std::string(keyTable)
+                                                + " SET nextKey = ?1 WHERE tableName = ?2 AND nextKey = ?3");
     store.bind(1, nextKey_);
     store.bind(2, schema_.name);
     store.bind(3, endKey_);
@@ -62,8 +62,8 @@ const Row& StoreTable::defaults()
     if (defaults_.size() == 0) {
         std::string literals;
         for (const schema::Column& column : schema_.columns)
-            literals += (literals.empty() ? "" : ", ") +
-                        (column.defaultValue.empty() ? std::string("NULL") : std::string(column.defaultValue));
+            literals += (literals.empty() ? "" : ", ")
+                        + (column.defaultValue.empty() ? std::string("NULL") : std::string(column.defaultValue));
         SqliteStatement statement = connection_.prepare("SELECT " + literals);
         statement.step();
         defaults_.readFrom(statement, static_cast<int>(schema_.columns.size()));

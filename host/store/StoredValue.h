@@ -21,10 +21,14 @@ inline bool operator==(const StoredValue& a, const StoredValue& b)
     if (a.kind != b.kind)
         return false;
     switch (a.kind) {
-    case StoredValue::Kind::integer: return a.integer == b.integer;
-    case StoredValue::Kind::real: return a.real == b.real;
-    case StoredValue::Kind::text: return a.text == b.text;
-    default: return true;
+    case StoredValue::Kind::integer:
+        return a.integer == b.integer;
+    case StoredValue::Kind::real:
+        return a.real == b.real;
+    case StoredValue::Kind::text:
+        return a.text == b.text;
+    default:
+        return true;
     }
 }
 

@@ -93,17 +93,21 @@ StoredValue storedForColumn(const schema::Table& table, const schema::Column& co
 {
     if (const auto value = storedFromText(column.type, text, buffer))
         return *value;
-    throw RunTimeError(storeError::badValue, "\"" + std::string(text) + "\" is no value for the column " +
-                                                 std::string(table.name) + "." + std::string(column.name));
+    throw RunTimeError(storeError::badValue, "\"" + std::string(text) + "\" is no value for the column "
+                                                 + std::string(table.name) + "." + std::string(column.name));
 }
 
 Variant computedValue(const StoredValue& value)
 {
     switch (value.kind) {
-    case StoredValue::Kind::integer: return {static_cast<double>(value.integer)};
-    case StoredValue::Kind::real: return {value.real};
-    case StoredValue::Kind::text: return {std::string(value.text)};
-    default: return {};
+    case StoredValue::Kind::integer:
+        return {static_cast<double>(value.integer)};
+    case StoredValue::Kind::real:
+        return {value.real};
+    case StoredValue::Kind::text:
+        return {std::string(value.text)};
+    default:
+        return {};
     }
 }
 

@@ -54,8 +54,8 @@ private:
 
 bool isDay(const CivilDate& date)
 {
-    return date.year >= 100 && date.month >= 1 && date.month <= 12 && date.day >= 1 &&
-           date.day <= daysInMonth(date.year, date.month);
+    return date.year >= 100 && date.month >= 1 && date.month <= 12 && date.day >= 1
+           && date.day <= daysInMonth(date.year, date.month);
 }
 
 bool readDay(Reader& reader, CivilDate& date)
@@ -68,8 +68,8 @@ bool readDay(Reader& reader, CivilDate& date)
         return reader.number(date.month, 1, 2) && reader.accept('-') && reader.number(date.day, 1, 2) && isDay(date);
     }
     date.month = first;
-    return reader.accept('/') && reader.number(date.day, 1, 2) && reader.accept('/') && reader.number(date.year, 4, 4) &&
-           isDay(date);
+    return reader.accept('/') && reader.number(date.day, 1, 2) && reader.accept('/') && reader.number(date.year, 4, 4)
+           && isDay(date);
 }
 
 bool readTime(Reader& reader, CivilTime& time)

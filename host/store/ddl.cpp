@@ -10,14 +10,19 @@ namespace {
 const char* typeText(schema::ColumnType type)
 {
     switch (type) {
-    case schema::ColumnType::key: return "INTEGER PRIMARY KEY";
+    case schema::ColumnType::key:
+        return "INTEGER PRIMARY KEY";
     case schema::ColumnType::real:
-    case schema::ColumnType::currency: return "REAL";
+    case schema::ColumnType::currency:
+        return "REAL";
     case schema::ColumnType::text:
-    case schema::ColumnType::memo: return "TEXT COLLATE NOCASE";
+    case schema::ColumnType::memo:
+        return "TEXT COLLATE NOCASE";
     case schema::ColumnType::date:
-    case schema::ColumnType::time: return "TEXT";
-    default: return "INTEGER";
+    case schema::ColumnType::time:
+        return "TEXT";
+    default:
+        return "INTEGER";
     }
 }
 
@@ -39,6 +44,17 @@ NameIndex columnsInFile(SqliteConnection& connection, const schema::Table& table
     return names;
 }
 
+std::string createIndexText(const schema::Table& table, const schema::Index& index)
+{
+    std::string name = std::string(table.name) + "_" + std::string(index.first);
+    std::string columns = quotedName(index.first);
+    if (!index.second.empty()) {
+        name += "_" + std::string(index.second);
+        columns += ", " + quotedName(index.second);
+    }
+    return "CREATE INDEX IF NOT EXISTS " + quotedName(name) + " ON " + quotedName(table.name) + " (" + columns + ")";
+}
+
 void addMissing(SqliteConnection& connection, const schema::Table& table)
 {
     const NameIndex present = columnsInFile(connection, table);
@@ -47,11 +63,9 @@ void addMissing(SqliteConnection& connection, const schema::Table& table)
     for (const schema::Column& column : table.columns) {
         if (present.size() > 0 && !present.find(column.name))
             connection.execute("ALTER TABLE " + quotedName(table.name) + " ADD COLUMN " + columnText(column));
-        if (column.indexed)
-            connection.execute("CREATE INDEX IF NOT EXISTS " +
-                               quotedName(std::string(table.name) + "_" + std::string(column.name)) + " ON " +
-                               quotedName(table.name) + " (" + quotedName(column.name) + ")");
     }
+    for (const schema::Index& index : table.indexes)
+        connection.execute(createIndexText(table, index));
 }
 
 } // namespace
@@ -72,13 +86,14 @@ void prepareSchema(SqliteConnection& connection, std::span<const schema::Table> 
     if (!isNew && fileId != applicationId)
         throw RunTimeError(storeError::cannotOpen, "The file is a database of another program");
     if (fileVersion > version)
-        throw RunTimeError(storeError::cannotOpen, "The database has version " + std::to_string(fileVersion) +
-                                                       ", this program knows versions up to " + std::to_string(version));
+        throw RunTimeError(storeError::cannotOpen, "The database has version " + std::to_string(fileVersion)
+                                                       + ", this program knows versions up to "
+                                                       + std::to_string(version));
     if (!isNew && fileVersion == version)
         return;
     SqliteTransaction transaction(connection);
-    connection.execute(std::string("CREATE TABLE IF NOT EXISTS ") + keyTable +
-                       " (tableName TEXT PRIMARY KEY, nextKey INTEGER NOT NULL) WITHOUT ROWID");
+    connection.execute(std::string("CREATE TABLE IF NOT EXISTS ") + keyTable
+                       + " (tableName TEXT PRIMARY KEY, nextKey INTEGER NOT NULL) WITHOUT ROWID");
     for (const schema::Table& table : tables)
         addMissing(connection, table);
     connection.execute("PRAGMA application_id = " + std::to_string(applicationId));

@@ -211,11 +211,16 @@ private:
             }
             unknownColumn(expression);
         }
-        case Kind::literal: return literal(expression, LiteralUse::plain);
-        case Kind::boolean: return expression.negated ? "0" : "1";
-        case Kind::null: return "NULL";
-        case Kind::negate: return "(-" + text(operands[0]) + ")";
-        case Kind::logicalNot: return "(NOT " + text(operands[0]) + ")";
+        case Kind::literal:
+            return literal(expression, LiteralUse::plain);
+        case Kind::boolean:
+            return expression.negated ? "0" : "1";
+        case Kind::null:
+            return "NULL";
+        case Kind::negate:
+            return "(-" + text(operands[0]) + ")";
+        case Kind::logicalNot:
+            return "(NOT " + text(operands[0]) + ")";
         case Kind::binary: {
             const std::string left = operand(operands[0], operands[1]);
             const std::string right = operand(operands[1], operands[0]);
@@ -241,7 +246,8 @@ private:
             const std::string low = operand(operands[1], operands[0]);
             return "(" + subject + inverted + " BETWEEN " + low + " AND " + operand(operands[2], operands[0]) + ")";
         }
-        case Kind::isNull: return "(" + text(operands[0]) + " IS" + inverted + " NULL)";
+        case Kind::isNull:
+            return "(" + text(operands[0]) + " IS" + inverted + " NULL)";
         case Kind::call:
             grouped_ = true;
             if (operands.empty())
@@ -258,7 +264,8 @@ private:
                 column(item);
                 continue;
             }
-            const std::size_t only = item.qualifier.empty() ? parts_.tables.size() : tableNamed(item.qualifier, item.offset);
+            const std::size_t only =
+                item.qualifier.empty() ? parts_.tables.size() : tableNamed(item.qualifier, item.offset);
             for (std::size_t table = 0; table < parts_.tables.size(); ++table)
                 if (item.qualifier.empty() || table == only)
                     for (std::size_t place = 0; place < parts_.tables[table]->schema().columns.size(); ++place)

@@ -56,17 +56,32 @@ Token Lexer::next()
 
     const char second = at_ + 1 < sql_.size() ? sql_[at_ + 1] : '\0';
     switch (c) {
-    case '[': return quoted(TokenKind::quotedName, ']', false);
-    case '\'': return quoted(TokenKind::text, '\'', true);
-    case '"': return quoted(TokenKind::text, '"', true);
-    case '#': return quoted(TokenKind::date, '#', false);
+    case '[':
+        return quoted(TokenKind::quotedName, ']', false);
+    case '\'':
+        return quoted(TokenKind::text, '\'', true);
+    case '"':
+        return quoted(TokenKind::text, '"', true);
+    case '#':
+        return quoted(TokenKind::date, '#', false);
     case '<':
     case '>':
     case '!':
         at_ += (second == '=' || (c == '<' && second == '>')) ? 2 : 1;
         return take(TokenKind::symbol, start, start, at_);
-    case '=': case '(': case ')': case ',': case '.': case ';': case '*':
-    case '+': case '-': case '/': case '&': case '\\': case '^':
+    case '=':
+    case '(':
+    case ')':
+    case ',':
+    case '.':
+    case ';':
+    case '*':
+    case '+':
+    case '-':
+    case '/':
+    case '&':
+    case '\\':
+    case '^':
         ++at_;
         return take(TokenKind::symbol, start, start, at_);
     default:
@@ -135,10 +150,11 @@ void failAt(std::string_view sql, std::size_t offset, const std::string& what)
             column = 1;
         }
     }
-    const std::string excerpt = offset < sql.size() ? std::string("near \"") + std::string(sql.substr(offset, excerptLength)) + '"'
-                                                    : "at the end of the statement";
-    throw RunTimeError(storeError::badStatement, "SQL error in line " + std::to_string(line) + ", column " +
-                                                     std::to_string(column) + ": " + what + ", " + excerpt);
+    const std::string excerpt = offset < sql.size()
+                                    ? std::string("near \"") + std::string(sql.substr(offset, excerptLength)) + '"'
+                                    : "at the end of the statement";
+    throw RunTimeError(storeError::badStatement, "SQL error in line " + std::to_string(line) + ", column "
+                                                     + std::to_string(column) + ": " + what + ", " + excerpt);
 }
 
 } // namespace qncal::host::dialect

@@ -9,12 +9,12 @@ namespace qncal::host::dialect {
 
 enum class TokenKind : std::uint8_t {
     end,
-    name,        ///< a bare word: keyword or name
-    quotedName,  ///< [a name]
-    number,      ///< 12, 1.5, 2e3, never signed
-    text,        ///< 'a text' or "a text"
-    date,        ///< #a date, a time, or both#
-    symbol,      ///< one or two characters of punctuation
+    name,       ///< a bare word: keyword or name
+    quotedName, ///< [a name]
+    number,     ///< 12, 1.5, 2e3, never signed
+    text,       ///< 'a text' or "a text"
+    date,       ///< #a date, a time, or both#
+    symbol,     ///< one or two characters of punctuation
 };
 
 /// A piece of the SQL text. `body` leaves brackets, quotes and hash marks out; doubled quotes still stand doubled.

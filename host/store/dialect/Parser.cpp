@@ -12,9 +12,9 @@ namespace qncal::host::dialect {
 
 namespace {
 
-constexpr std::array reservedWords{"SELECT", "DISTINCT", "TOP",  "FROM", "WHERE", "GROUP", "BY",  "HAVING", "ORDER",
-                                   "INNER",  "LEFT",     "JOIN", "ON",   "AS",    "AND",   "OR",  "NOT",    "LIKE",
-                                   "IN",     "BETWEEN",  "IS",   "NULL", "ASC",   "DESC",  "TRUE", "FALSE", "OUTER"};
+constexpr std::array reservedWords{"SELECT", "DISTINCT", "TOP",  "FROM", "WHERE", "GROUP", "BY",   "HAVING", "ORDER",
+                                   "INNER",  "LEFT",     "JOIN", "ON",   "AS",    "AND",   "OR",   "NOT",    "LIKE",
+                                   "IN",     "BETWEEN",  "IS",   "NULL", "ASC",   "DESC",  "TRUE", "FALSE",  "OUTER"};
 constexpr std::array aggregates{"COUNT", "SUM", "MIN", "MAX", "AVG"};
 constexpr std::array comparisons{"=", "<>", "<=", ">=", "<", ">"};
 /// Deep enough for any real statement, shallow enough for the stack.
@@ -23,7 +23,8 @@ constexpr int deepestNesting = 200;
 std::string upper(std::string_view word)
 {
     std::string result(word);
-    std::ranges::transform(result, result.begin(), [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
+    std::ranges::transform(result, result.begin(),
+                           [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; });
     return result;
 }
 
@@ -80,7 +81,10 @@ private:
             ++literals_;
         token_ = lexer_.next();
     }
-    bool isWord(std::string_view word) const { return token_.kind == TokenKind::name && equalsNoCase(token_.body, word); }
+    bool isWord(std::string_view word) const
+    {
+        return token_.kind == TokenKind::name && equalsNoCase(token_.body, word);
+    }
     bool isSymbol(std::string_view symbol) const { return token_.kind == TokenKind::symbol && token_.body == symbol; }
     bool acceptWord(std::string_view word)
     {
@@ -108,10 +112,14 @@ private:
     }
     bool isReserved() const
     {
-        return token_.kind == TokenKind::name &&
-               std::ranges::any_of(reservedWords, [this](const char* word) { return equalsNoCase(token_.body, word); });
+        return token_.kind == TokenKind::name && std::ranges::any_of(reservedWords, [this](const char* word) {
+                   return equalsNoCase(token_.body, word);
+               });
     }
-    bool isName() const { return token_.kind == TokenKind::quotedName || (token_.kind == TokenKind::name && !isReserved()); }
+    bool isName() const
+    {
+        return token_.kind == TokenKind::quotedName || (token_.kind == TokenKind::name && !isReserved());
+    }
     std::string expectName(const char* what)
     {
         if (!isName())
@@ -294,7 +302,8 @@ private:
     {
         Expression left = concatenation();
         for (;;) {
-            const auto comparison = std::ranges::find_if(comparisons, [this](const char* symbol) { return isSymbol(symbol); });
+            const auto comparison =
+                std::ranges::find_if(comparisons, [this](const char* symbol) { return isSymbol(symbol); });
             if (comparison != comparisons.end()) {
                 advance();
                 left = binary(*comparison, std::move(left), concatenation());

@@ -18,14 +18,14 @@ struct Expression {
         literal, ///< `literal`, `negative`
         boolean, ///< `negated` for False
         null,
-        negate,    ///< one operand
+        negate,     ///< one operand
         logicalNot, ///< one operand
-        binary,    ///< `name` is the operator, upper case; two operands
-        like,      ///< two operands, `negated`
-        in,        ///< the first operand in the others, `negated`
-        between,   ///< three operands, `negated`
-        isNull,    ///< one operand, `negated`
-        call,      ///< the aggregate `name`, upper case; no operand for COUNT(*)
+        binary,     ///< `name` is the operator, upper case; two operands
+        like,       ///< two operands, `negated`
+        in,         ///< the first operand in the others, `negated`
+        between,    ///< three operands, `negated`
+        isNull,     ///< one operand, `negated`
+        call,       ///< the aggregate `name`, upper case; no operand for COUNT(*)
     };
     Kind kind = Kind::null;
     std::size_t offset = 0;

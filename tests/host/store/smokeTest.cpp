@@ -7,9 +7,9 @@ namespace {
 
 using schema::Column;
 using schema::ColumnType;
-constexpr Column appointmentColumns[] = {{"AppointmentID", ColumnType::key}, {"UserIDNum", ColumnType::id, {}, true},
-                                         {"Subject", ColumnType::text}, {"DateFrom", ColumnType::date},
-                                         {"TimeFrom", ColumnType::time}, {"Remind", ColumnType::boolean, "0"}};
+constexpr Column appointmentColumns[] = {{"AppointmentID", ColumnType::key}, {"UserIDNum", ColumnType::id},
+                                         {"Subject", ColumnType::text},      {"DateFrom", ColumnType::date},
+                                         {"TimeFrom", ColumnType::time},     {"Remind", ColumnType::boolean, "0"}};
 constexpr schema::Table testTables[] = {{"Appointments", appointmentColumns, ""}};
 
 TEST(Smoke, AddsReadsChangesDeletes)
@@ -30,7 +30,9 @@ TEST(Smoke, AddsReadsChangesDeletes)
     EXPECT_EQ(db->getField(h, "subject"), Variant("Row 2"));
     EXPECT_EQ(db->getPosition(h), 3);
     db->closeRecordset(h);
-    h = db->openRecordset("SELECT Appointments.* FROM Appointments WHERE DateFrom=#3/31/2026# AND TimeFrom>=#9:30:00 AM# AND Subject LIKE '%row%' ORDER BY Appointments.UserIDNum;", 1, 3, true, "", true);
+    h = db->openRecordset("SELECT Appointments.* FROM Appointments WHERE DateFrom=#3/31/2026# AND TimeFrom>=#9:30:00 "
+                          "AM# AND Subject LIKE '%row%' ORDER BY Appointments.UserIDNum;",
+                          1, 3, true, "", true);
     EXPECT_EQ(db->getRecordCount(h), 3);
     EXPECT_EQ(db->getField(h, "AppointmentID"), Variant(3));
     db->setFieldValue(h, "Remind", "True", false, false, false);
