@@ -30,21 +30,15 @@ public:
 };
 std::shared_ptr<ApptStatusOptionsForm> newApptStatusOptionsForm();
 
-class ChangeApptStatusFieldsForm : public Form {
+/// A dialog that is opened on a kind of item.
+class ItemKindForm : public Form {
 public:
     using Form::Form;
     /// Shows the dialog modally and returns when it closes.
     virtual void Initialize(enumLocalCalendarItemType kind) = 0;
 };
-std::shared_ptr<ChangeApptStatusFieldsForm> newChangeApptStatusFieldsForm();
-
-class ApptCustomFieldsForm : public Form {
-public:
-    using Form::Form;
-    /// Shows the dialog modally and returns when it closes.
-    virtual void Initialize(enumLocalCalendarItemType kind) = 0;
-};
-std::shared_ptr<ApptCustomFieldsForm> newApptCustomFieldsForm();
+std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm();
+std::shared_ptr<ItemKindForm> newApptCustomFieldsForm();
 
 /// A dialog that lives in the host's registry of windows under a fixed key, see `registeredForm`.
 class RegisteredForm : public Form {
