@@ -16,6 +16,7 @@ class clsCalendarItem;
 
 class DayTimerSettingsForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes. A `goToTab` below 4 selects that page.
     virtual void Initialize(enumLocalCalendarItemType kind, std::int32_t userIDNum, std::int16_t goToTab) = 0;
 };
@@ -23,36 +24,44 @@ std::shared_ptr<DayTimerSettingsForm> newDayTimerSettingsForm();
 
 class ApptStatusOptionsForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes.
     virtual void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t customNum) = 0;
 };
 std::shared_ptr<ApptStatusOptionsForm> newApptStatusOptionsForm();
 
-class ChangeApptStatusFieldsForm : public Form {
+/// A dialog that is opened on a kind of item.
+class ItemKindForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes.
     virtual void Initialize(enumLocalCalendarItemType kind) = 0;
 };
-std::shared_ptr<ChangeApptStatusFieldsForm> newChangeApptStatusFieldsForm();
+std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm();
+std::shared_ptr<ItemKindForm> newApptCustomFieldsForm();
 
-class ApptCustomFieldsForm : public Form {
+/// A dialog that lives in the host's registry of windows under a fixed key, see `registeredForm`.
+class RegisteredForm : public Form {
 public:
-    /// Shows the dialog modally and returns when it closes.
-    virtual void Initialize(enumLocalCalendarItemType kind) = 0;
+    using Form::Form;
+    /// Runs once, ahead of the first showing.
+    virtual void Initialize() = 0;
 };
-std::shared_ptr<ApptCustomFieldsForm> newApptCustomFieldsForm();
 
 /// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
-class ApptForm : public Form {
+class ApptForm : public RegisteredForm {
 public:
+    using RegisteredForm::RegisteredForm;
     /// The item to edit, or none. It stays its owner's and must outlive its time in the form.
     virtual void PassedClassRef(clsCalendarItem* item) = 0;
     virtual void showTaskNotes(bool show) = 0;
     virtual void setupForm() = 0;
+    /// True when the form was left after a save.
+    virtual bool itemSaved() const = 0;
 };
 std::shared_ptr<ApptForm> newApptForm();
 
 /// The duplicate removal wizard, modeless.
-std::shared_ptr<Form> newDuplicateAppointmentsForm();
+std::shared_ptr<RegisteredForm> newDuplicateAppointmentsForm();
 
 } // namespace qncal
