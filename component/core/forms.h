@@ -16,6 +16,7 @@ class clsCalendarItem;
 
 class DayTimerSettingsForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes. A `goToTab` below 4 selects that page.
     virtual void Initialize(enumLocalCalendarItemType kind, std::int32_t userIDNum, std::int16_t goToTab) = 0;
 };
@@ -23,28 +24,26 @@ std::shared_ptr<DayTimerSettingsForm> newDayTimerSettingsForm();
 
 class ApptStatusOptionsForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes.
     virtual void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t customNum) = 0;
 };
 std::shared_ptr<ApptStatusOptionsForm> newApptStatusOptionsForm();
 
-class ChangeApptStatusFieldsForm : public Form {
+/// A dialog that is opened on a kind of item.
+class ItemKindForm : public Form {
 public:
+    using Form::Form;
     /// Shows the dialog modally and returns when it closes.
     virtual void Initialize(enumLocalCalendarItemType kind) = 0;
 };
-std::shared_ptr<ChangeApptStatusFieldsForm> newChangeApptStatusFieldsForm();
-
-class ApptCustomFieldsForm : public Form {
-public:
-    /// Shows the dialog modally and returns when it closes.
-    virtual void Initialize(enumLocalCalendarItemType kind) = 0;
-};
-std::shared_ptr<ApptCustomFieldsForm> newApptCustomFieldsForm();
+std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm();
+std::shared_ptr<ItemKindForm> newApptCustomFieldsForm();
 
 /// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
 class ApptForm : public Form {
 public:
+    using Form::Form;
     /// The item to edit, or none. It stays its owner's and must outlive its time in the form.
     virtual void PassedClassRef(clsCalendarItem* item) = 0;
     virtual void showTaskNotes(bool show) = 0;

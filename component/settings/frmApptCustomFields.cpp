@@ -2,12 +2,20 @@
 
 namespace qncal {
 
-void frmApptCustomFields::Initialize(enumLocalCalendarItemType kind)
+frmApptCustomFields::frmApptCustomFields()
+    : FieldNamesForm(
+        {"frmApptCustomFields",
+         {"Appointment Custom Fields", "Task Custom Fields", "Time Entry Custom Fields"},
+         {"You can define custom fields for your appointments by entering the field names below:",
+          "You can define custom fields for your tasks by entering the field names below:",
+          "You can define custom fields for your time entries by entering the field names below:"},
+         "Custom Field ",
+         "CustomName"})
 {
-    calendarKind_ = kind;
-    showModal();
 }
 
-std::shared_ptr<ApptCustomFieldsForm> newApptCustomFieldsForm() { return std::make_shared<frmApptCustomFields>(); }
+void frmApptCustomFields::cmdAdvancedOptions_Click(int) {}
+
+std::shared_ptr<ItemKindForm> newApptCustomFieldsForm() { return std::make_shared<frmApptCustomFields>(); }
 
 } // namespace qncal

@@ -1,18 +1,15 @@
 #pragma once
 
-#include "core/forms.h"
+#include "settings/FieldNamesForm.h"
 
 namespace qncal {
 
-/// The names of the five custom fields of one kind.
-class frmApptCustomFields : public ApptCustomFieldsForm {
+/// Names the five custom fields of a kind of item.
+class frmApptCustomFields : public FieldNamesForm {
 public:
-    void Initialize(enumLocalCalendarItemType kind) override;
-
-    enumLocalCalendarItemType calendarKind() const { return calendarKind_; }
-
-private:
-    enumLocalCalendarItemType calendarKind_ = enumLocalCalendarUnknownItem;
+    frmApptCustomFields();
+    /// The buttons are there but do nothing: custom fields have no further options.
+    void cmdAdvancedOptions_Click(int index) override;
 };
 
 } // namespace qncal

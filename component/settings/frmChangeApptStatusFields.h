@@ -1,18 +1,15 @@
 #pragma once
 
-#include "core/forms.h"
+#include "settings/FieldNamesForm.h"
 
 namespace qncal {
 
-/// The names of the five status fields of one kind.
-class frmChangeApptStatusFields : public ChangeApptStatusFieldsForm {
+/// Names the five status fields of a kind of item.
+class frmChangeApptStatusFields : public FieldNamesForm {
 public:
-    void Initialize(enumLocalCalendarItemType kind) override;
-
-    enumLocalCalendarItemType calendarKind() const { return calendarKind_; }
-
-private:
-    enumLocalCalendarItemType calendarKind_ = enumLocalCalendarUnknownItem;
+    frmChangeApptStatusFields();
+    /// Opens `frmApptStatusOptions` on the status and reads the names anew afterwards.
+    void cmdAdvancedOptions_Click(int index) override;
 };
 
 } // namespace qncal
