@@ -1,0 +1,223 @@
+#include "store/SqliteDatabase.h"
+
+#include "store/StoreEngine.h"
+#include "store/dateStorage.h"
+#include "store/dialect/LikePattern.h"
+#include "store/storeError.h"
+
+#include <utility>
+
+namespace qncal::host {
+
+namespace {
+
+using Access = SqliteConnection::Access;
+
+std::unique_ptr<StoreEngine> openEngine(const std::string& path, Access access, const SqliteDatabase::Options& options)
+{
+    try {
+        return std::make_unique<StoreEngine>(path, access, options.tables, options.version, options.busyTimeout);
+    } catch (const RunTimeError& error) {
+        throw RunTimeError(error.number(), "Cannot open the database \"" + path + "\". " + error.what());
+    }
+}
+
+} // namespace
+
+SqliteDatabase::SqliteDatabase(std::unique_ptr<StoreEngine> engine) : engine_(std::move(engine)) {}
+
+SqliteDatabase::~SqliteDatabase()
+{
+    try {
+        close();
+    } catch (const std::exception&) {
+        // Nobody is left to tell; whoever wants to know calls `close`.
+    }
+}
+
+std::unique_ptr<SqliteDatabase> SqliteDatabase::open(const std::string& path, const Options& options)
+{
+    return std::unique_ptr<SqliteDatabase>(new SqliteDatabase(openEngine(path, Access::readWrite, options)));
+}
+
+std::unique_ptr<SqliteDatabase> SqliteDatabase::create(const std::string& path, const Options& options)
+{
+    return std::unique_ptr<SqliteDatabase>(new SqliteDatabase(openEngine(path, Access::create, options)));
+}
+
+std::unique_ptr<SqliteDatabase> SqliteDatabase::openInMemory(const Options& options)
+{
+    return create(":memory:", options);
+}
+
+std::unique_ptr<SqliteDatabase> SqliteDatabase::open(const std::string& path) { return open(path, Options{}); }
+std::unique_ptr<SqliteDatabase> SqliteDatabase::create(const std::string& path) { return create(path, Options{}); }
+std::unique_ptr<SqliteDatabase> SqliteDatabase::openInMemory() { return openInMemory(Options{}); }
+
+StoreEngine& SqliteDatabase::engine() const
+{
+    if (!engine_)
+        throw RunTimeError(storeError::notConnected, "No database is open");
+    return *engine_;
+}
+
+const StoreStatistics& SqliteDatabase::statistics() const { return engine().statistics(); }
+
+bool SqliteDatabase::isConnected() { return engine_ != nullptr; }
+
+void SqliteDatabase::flush() { engine().writes().flush(); }
+
+void SqliteDatabase::idle()
+{
+    flush();
+    engine().checkpoint();
+}
+
+void SqliteDatabase::close()
+{
+    // Closed it is, whatever the last writes say.
+    const std::unique_ptr<StoreEngine> closing = std::move(engine_);
+    if (!closing)
+        return;
+    closing->writes().flush();
+    closing->finish();
+}
+
+RecordCursor& SqliteDatabase::cursor(std::int32_t handle)
+{
+    if (RecordCursor* const found = engine().handles().find(handle))
+        return *found;
+    throw RunTimeError(storeError::badHandle, "The record set " + std::to_string(handle) + " is not open");
+}
+
+/// The record set of an operation that reads or moves: all writes before it must be there.
+RecordCursor& SqliteDatabase::settledCursor(std::int32_t handle)
+{
+    RecordCursor& found = cursor(handle);
+    engine_->writes().flush();
+    return found;
+}
+
+std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, std::int32_t lock, bool,
+                                           std::string_view, bool)
+{
+    StoreEngine& store = engine();
+    store.writes().flush();
+    auto plan = store.plan(sql);
+    const auto [handle, opened] = store.handles().open();
+    opened.open(std::move(plan), store.text(), lock != readOnly, store.statistics());
+    return handle;
+}
+
+void SqliteDatabase::closeRecordset(std::int32_t handle)
+{
+    if (!engine_)
+        return;
+    const RecordCursor* const closing = engine_->handles().find(handle);
+    if (!closing)
+        return;
+    WriteBuffer& writes = engine_->writes();
+    if (writes.isOf(*closing)) {
+        // A first failure leaves the record set open, so that closing can be tried again. A second one ends it:
+        // a handle that cannot be closed would stand in the way of everything else.
+        const bool lastAttempt = writes.hasFailed();
+        try {
+            writes.flush();
+        } catch (const RunTimeError&) {
+            if (!lastAttempt && !writes.isEmpty())
+                throw;
+            writes.discard();
+            engine_->handles().close(handle);
+            throw;
+        }
+    }
+    engine_->handles().close(handle);
+    if (engine_->handles().openCount() == 0)
+        engine_->forgetDeletions();
+}
+
+bool SqliteDatabase::isRecordsetOpen(std::int32_t handle) { return engine_ && engine_->handles().find(handle); }
+bool SqliteDatabase::hasRecords(std::int32_t handle) { return settledCursor(handle).hasRecords(); }
+bool SqliteDatabase::isRecordsetEmpty(std::int32_t handle) { return !hasRecords(handle); }
+bool SqliteDatabase::isEOF(std::int32_t handle) { return settledCursor(handle).isEOF(); }
+bool SqliteDatabase::moveNext(std::int32_t handle) { return settledCursor(handle).moveNext(); }
+bool SqliteDatabase::movePrevious(std::int32_t handle) { return settledCursor(handle).movePrevious(); }
+
+std::int32_t SqliteDatabase::getRecordCount(std::int32_t handle)
+{
+    return static_cast<std::int32_t>(settledCursor(handle).count());
+}
+
+std::int32_t SqliteDatabase::getPosition(std::int32_t handle)
+{
+    return static_cast<std::int32_t>(settledCursor(handle).position());
+}
+
+bool SqliteDatabase::setPosition(std::int32_t handle, std::int32_t position)
+{
+    return settledCursor(handle).setPosition(position);
+}
+
+bool SqliteDatabase::findRecord(std::int32_t handle, std::string_view fieldName, std::string_view value, std::string&,
+                                std::string&, std::string&, std::string&)
+{
+    return settledCursor(handle).find(fieldName, value);
+}
+
+Variant SqliteDatabase::getField(std::int32_t handle, std::string_view fieldName)
+{
+    RecordCursor& found = cursor(handle);
+    // The writer's own copy of the record holds what it wrote.
+    WriteBuffer& writes = engine_->writes();
+    if (!writes.isEmpty() && !writes.isOf(found))
+        writes.flush();
+    return found.field(fieldName);
+}
+
+bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldName, std::string_view value, bool, bool,
+                                   bool)
+{
+    RecordCursor& found = cursor(handle);
+    if (found.isAdding()) {
+        found.setNewField(fieldName, value);
+        return true;
+    }
+    WriteBuffer& writes = engine_->writes();
+    if (!writes.isEmpty() && !writes.isOf(found))
+        writes.flush();
+    const RecordCursor::Write write = found.writeField(fieldName, value);
+    if (write.changes)
+        writes.add(found, write);
+    return true;
+}
+
+bool SqliteDatabase::addNew(std::int32_t handle)
+{
+    settledCursor(handle).beginRecord();
+    return true;
+}
+
+bool SqliteDatabase::setNewField(std::int32_t handle, std::string_view fieldName, std::string_view value)
+{
+    cursor(handle).setNewField(fieldName, value);
+    return true;
+}
+
+bool SqliteDatabase::update(std::int32_t handle)
+{
+    settledCursor(handle).storeRecord();
+    return true;
+}
+
+bool SqliteDatabase::deleteRecord(std::int32_t handle) { return settledCursor(handle).deleteRecord(); }
+
+std::string SqliteDatabase::getSQLDate(const Date& date)
+{
+    std::string text;
+    appendDateStorage(date, text);
+    return text;
+}
+
+std::string SqliteDatabase::getSQLText(std::string_view text) { return dialect::LikePattern::literal(text); }
+
+} // namespace qncal::host

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "store/Catalogue.h"
+#include "store/HandleTable.h"
+#include "store/SelectPlan.h"
+#include "store/SqliteConnection.h"
+#include "store/WriteBuffer.h"
+#include "store/dialect/shape.h"
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace qncal::host {
+
+/// What an open database consists of.
+class StoreEngine {
+public:
+    StoreEngine(const std::string& path, SqliteConnection::Access access, std::span<const schema::Table> tables,
+                std::int32_t version, int busyTimeout);
+
+    /// The plan of an SQL text, whose literals are then in `text()`. A text of a known shape is not parsed again.
+    std::shared_ptr<SelectPlan> plan(std::string_view sql);
+    const dialect::ShapedText& text() const { return text_; }
+
+    /// Writes the log of the file back as far as nobody else reads it.
+    void checkpoint();
+    /// With no record set open nobody needs to hear of records deleted before.
+    void forgetDeletions();
+    /// The last duties of a database that closes.
+    void finish();
+
+    HandleTable& handles() { return handles_; }
+    WriteBuffer& writes() { return writes_; }
+    StoreStatistics& statistics() { return statistics_; }
+    const Catalogue& catalogue() const { return catalogue_; }
+
+private:
+    SqliteConnection connection_;
+    StoreStatistics statistics_;
+    Catalogue catalogue_;
+    std::unordered_map<std::string, std::shared_ptr<SelectPlan>> plans_;
+    dialect::ShapedText text_;
+    HandleTable handles_;
+    WriteBuffer writes_{statistics_};
+};
+
+} // namespace qncal::host
