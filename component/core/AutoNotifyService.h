@@ -21,12 +21,12 @@ public:
     /// Below 0 when there is none.
     virtual std::int32_t getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel) = 0;
     /// Each gives the new notification's id. The last three arguments are always -1.
-    virtual std::int32_t createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date,
-                                                 std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3) = 0;
+    virtual std::int32_t createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t fixed1,
+                                                 std::int32_t fixed2, std::int32_t fixed3) = 0;
     virtual std::int32_t createFaxNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t fixed1,
                                                std::int32_t fixed2, std::int32_t fixed3) = 0;
-    virtual std::int32_t createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date,
-                                                 std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3) = 0;
+    virtual std::int32_t createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t fixed1,
+                                                 std::int32_t fixed2, std::int32_t fixed3) = 0;
     virtual std::int32_t createLetterNotification(std::int16_t kind, std::int32_t itemID, Date date,
                                                   std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3) = 0;
     virtual void linkNotification(std::int16_t kind, std::int32_t notificationID, std::int32_t itemID) = 0;

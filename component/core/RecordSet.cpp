@@ -120,9 +120,8 @@ bool RecordSet::findRecord(std::string_view field, std::int32_t value)
 {
     const std::string text = std::to_string(value);
     std::string reserved[4];
-    return statement([&] {
-        return service_->findRecord(handle_, field, text, reserved[0], reserved[1], reserved[2], reserved[3]);
-    });
+    return statement(
+        [&] { return service_->findRecord(handle_, field, text, reserved[0], reserved[1], reserved[2], reserved[3]); });
 }
 
 Variant RecordSet::field(std::string_view field) const

@@ -109,10 +109,7 @@ private:
     static std::string asText(const Date& value) { return defaultDateText(value); }
     template <class Number>
         requires(std::is_arithmetic_v<Number> && !std::is_same_v<Number, bool>)
-    static std::string asText(Number value)
-    {
-        return numberText(static_cast<double>(value));
-    }
+    static std::string asText(Number value) { return numberText(static_cast<double>(value)); }
 
     void writeText(std::string_view field, std::string_view value);
     void writeNewText(std::string_view field, std::string_view value);

@@ -7,7 +7,8 @@
 namespace qncal::schema {
 
 /// The database schema as one table of tables: every table and column that the component or its reference host
-/// touches. The DDL, the conversion of values and the documentation are made from it.
+/// touches. The DDL, the conversion of values and the documentation are made from it. The tables stand by theme in
+/// `core/schema/`.
 
 enum class ColumnType : std::uint8_t {
     key,      ///< autonumber, the table's primary key
@@ -26,24 +27,32 @@ enum class ColumnType : std::uint8_t {
 struct Column {
     std::string_view name;
     ColumnType type;
-    /// An SQL literal ("0", "-1"); empty for none, the column then starts as Null.
+    /// An SQL literal ("0", "-1"); empty for none, the column then starts as Null. A boolean always has one.
     std::string_view defaultValue = {};
-    bool indexed = false;
+};
+
+/// A secondary index over one column, or over two in their order.
+struct Index {
+    std::string_view first;
+    std::string_view second = {};
 };
 
 struct Table {
     std::string_view name;
     std::span<const Column> columns;
+    /// One sentence without a full stop.
     std::string_view purpose;
+    std::span<const Index> indexes = {};
 };
 
-/// Raised by one whenever a table or column is added.
+/// Raised by one whenever a table, a column or an index is added.
 inline constexpr std::int32_t version = 1;
 
 /// In the order of their documentation; each table has exactly one key column, its first.
 std::span<const Table> tables();
-/// By name without regard to case; none when unknown.
+/// By name without regard to ASCII case, one hash look-up; none when unknown.
 const Table* findTable(std::string_view name);
+/// As `findTable`. The table must be one of `tables()` or a copy of one.
 const Column* findColumn(const Table& table, std::string_view name);
 
 } // namespace qncal::schema

@@ -15,6 +15,7 @@
 namespace qncal {
 
 class MergeRecordSets;
+enum class MergeFieldBlock : std::uint8_t;
 
 /// The merge field engine: the catalogue of fields that a template may name, the merge of a template with an
 /// item's data, and the check of a template that a user has typed.
@@ -179,6 +180,8 @@ public:
 private:
     /// The catalogue, or run-time error 91 after `Terminate`.
     FieldListCollection& fieldList() const;
+    void addBlocksOfListType(FieldListCollection& list, bool noListBox);
+    void addBlock(FieldListCollection& list, MergeFieldBlock block, bool noListBox);
 
     std::shared_ptr<FieldListCollection> fieldList_;
     std::shared_ptr<MergeRecordSets> recordSets_;

@@ -1,8 +1,10 @@
 #include "utilities/Date.h"
 
+#include "utilities/RunTimeError.h"
+
+#include <algorithm>
 #include <array>
 #include <chrono>
-#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -10,28 +12,61 @@ namespace qncal {
 
 namespace {
 
-constexpr double secondsPerDay = 86400.0;
 using std::chrono::days;
 using std::chrono::sys_days;
 
-constexpr sys_days epoch()
+constexpr std::int64_t secondsPerDay = 86400;
+constexpr sys_days epoch{std::chrono::year{1899} / std::chrono::December / 30};
+
+constexpr std::int64_t dayNumber(int year, unsigned month, unsigned day)
 {
     using namespace std::chrono;
-    return sys_days{year{1899} / December / day{30}};
+    return (sys_days{std::chrono::year{year} / std::chrono::month{month} / std::chrono::day{day}} - epoch).count();
 }
+
+constexpr std::int64_t firstDay = dayNumber(100, 1, 1);
+constexpr std::int64_t lastDay = dayNumber(9999, 12, 31);
+constexpr std::int64_t firstSecond = firstDay * secondsPerDay;
+constexpr std::int64_t lastSecond = (lastDay + 1) * secondsPerDay - 1;
+
+constexpr std::int64_t floorDivide(std::int64_t a, std::int64_t b) { return a / b - (a % b < 0 ? 1 : 0); }
+
+[[noreturn]] void leftTheCalendar()
+{
+    throw RunTimeError(errorNumber::overflow, "Overflow: the date lies outside the years 100 to 9999");
+}
+
+/// A month of a year, months carried over. A little more than the calendar is let through, because a day or
+/// an hour that carries may still lead back into it.
+std::chrono::year_month carriedMonth(std::int64_t year, std::int64_t month)
+{
+    const std::int64_t index = year * 12 + month - 1;
+    const std::int64_t carriedYear = floorDivide(index, 12);
+    if (carriedYear < 0 || carriedYear > 10000)
+        leftTheCalendar();
+    return std::chrono::year{static_cast<int>(carriedYear)}
+        / std::chrono::month{static_cast<unsigned>(index - carriedYear * 12 + 1)};
+}
+
+int length(std::chrono::year_month month)
+{
+    return static_cast<int>(static_cast<unsigned>((month / std::chrono::last).day()));
+}
+
+std::int64_t timeSeconds(int hour, int minute, int second)
+{
+    return std::int64_t{hour} * 3600 + std::int64_t{minute} * 60 + second;
+}
+
+CivilTime timeOfSeconds(int seconds) { return {seconds / 3600, seconds / 60 % 60, seconds % 60}; }
 
 } // namespace
 
 Date Date::of(int year, int month, int day, int hour, int minute, int second)
 {
-    const int monthIndex = month - 1;
-    const int yearShift = monthIndex >= 0 ? monthIndex / 12 : (monthIndex - 11) / 12;
-    const auto firstOfMonth = sys_days{std::chrono::year{year + yearShift}
-                                       / std::chrono::month{static_cast<unsigned>(monthIndex - yearShift * 12 + 1)}
-                                       / std::chrono::day{1}};
-    const auto wholeDays = static_cast<double>((firstOfMonth - epoch()).count() + day - 1);
-    const double seconds = hour * 3600.0 + minute * 60.0 + second;
-    return fromLinear(wholeDays + seconds / secondsPerDay);
+    const sys_days first{carriedMonth(year, month) / 1};
+    const std::int64_t wholeDays = (first - epoch).count() + std::int64_t{day} - 1;
+    return fromLinearSeconds(wholeDays * secondsPerDay + timeSeconds(hour, minute, second));
 }
 
 Date Date::of(CivilDate date, CivilTime time)
@@ -39,74 +74,94 @@ Date Date::of(CivilDate date, CivilTime time)
     return of(date.year, date.month, date.day, time.hour, time.minute, time.second);
 }
 
-Date Date::timeOf(int hour, int minute, int second)
+Date Date::timeOf(int hour, int minute, int second) { return fromLinearSeconds(timeSeconds(hour, minute, second)); }
+
+bool Date::isInCalendar() const
 {
-    return Date((hour * 3600.0 + minute * 60.0 + second) / secondsPerDay);
+    // The first day's times lie below its own number, see the class.
+    return serial_ > static_cast<double>(firstDay - 1) && serial_ < static_cast<double>(lastDay + 1);
 }
 
-Date Date::dateOnly() const { return Date(std::trunc(serial_)); }
+Date Date::dateOnly() const
+{
+    return Date(static_cast<double>(floorDivide(linearSeconds(), secondsPerDay)));
+}
 
-Date Date::timeOnly() const { return Date(std::fabs(serial_ - std::trunc(serial_))); }
+Date Date::timeOnly() const
+{
+    const std::int64_t seconds = linearSeconds();
+    return fromLinearSeconds(seconds - floorDivide(seconds, secondsPerDay) * secondsPerDay);
+}
 
 CivilDate Date::civilDate() const
 {
-    const std::chrono::year_month_day ymd{epoch() + days{static_cast<std::int64_t>(std::trunc(serial_))}};
-    return {static_cast<int>(ymd.year()), static_cast<int>(static_cast<unsigned>(ymd.month())),
-            static_cast<int>(static_cast<unsigned>(ymd.day()))};
+    const std::chrono::year_month_day date{epoch + days{floorDivide(linearSeconds(), secondsPerDay)}};
+    return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+            static_cast<int>(static_cast<unsigned>(date.day()))};
 }
 
 CivilTime Date::civilTime() const
 {
-    int seconds = static_cast<int>(std::lround(timeOnly().serial_ * secondsPerDay));
-    if (seconds >= 86400)
-        seconds = 86399;
-    return {seconds / 3600, seconds / 60 % 60, seconds % 60};
+    const std::int64_t seconds = linearSeconds();
+    return timeOfSeconds(static_cast<int>(seconds - floorDivide(seconds, secondsPerDay) * secondsPerDay));
 }
 
-bool Date::hasTime() const { return civilTime() != CivilTime{}; }
+bool Date::hasTime() const { return linearSeconds() % secondsPerDay != 0; }
 
 int Date::weekday() const
 {
     // Day 0, 1899-12-30, was a Saturday.
-    const auto day = static_cast<std::int64_t>(std::trunc(serial_));
-    return static_cast<int>(((day + 6) % 7 + 7) % 7) + 1;
+    const std::int64_t day = floorDivide(linearSeconds(), secondsPerDay) + 6;
+    return static_cast<int>(day - floorDivide(day, 7) * 7) + 1;
 }
 
-Date Date::addDays(double count) const { return fromLinear(linear() + count); }
+Date Date::addDays(double count) const
+{
+    // Compared this way round so that a count that is no number leaves the calendar, too.
+    if (!(std::fabs(count) <= static_cast<double>(lastDay - firstDay)))
+        leftTheCalendar();
+    return addSeconds(std::llround(count * static_cast<double>(secondsPerDay)));
+}
 
 Date Date::addSeconds(std::int64_t seconds) const
 {
-    const double total = std::round(linear() * secondsPerDay) + static_cast<double>(seconds);
-    return fromLinear(total / secondsPerDay);
+    constexpr std::int64_t span = lastSecond - firstSecond;
+    if (seconds < -span || seconds > span)
+        leftTheCalendar();
+    return fromLinearSeconds(linearSeconds() + seconds);
 }
 
 Date Date::addMonths(int months) const
 {
     const CivilDate from = civilDate();
-    const CivilDate first = of(from.year, from.month + months, 1).civilDate();
-    const int day = std::min(from.day, daysInMonth(first.year, first.month));
-    return of({first.year, first.month, day}, civilTime());
+    const auto to = carriedMonth(from.year, std::int64_t{from.month} + months);
+    return of({static_cast<int>(to.year()), static_cast<int>(static_cast<unsigned>(to.month())),
+               std::min(from.day, length(to))},
+              civilTime());
 }
 
-double Date::linear() const { return serial_ >= 0 ? serial_ : std::trunc(serial_) + timeOnly().serial_; }
-
-Date Date::fromLinear(double linearDays)
+std::int64_t Date::linearSeconds() const
 {
-    if (linearDays >= 0)
-        return Date(linearDays);
-    const double whole = std::floor(linearDays);
-    const double fraction = linearDays - whole;
-    // Between day -1 and day 0 the sign cannot be told from a plain time: day -1 itself is -1.fraction.
-    return Date(whole - fraction);
+    if (std::isnan(serial_))
+        return 0;
+    if (!isInCalendar())
+        return serial_ < 0 ? firstSecond : lastSecond;
+    const double whole = std::trunc(serial_);
+    const double fraction = std::fabs(serial_ - whole);
+    const std::int64_t seconds = std::lround(fraction * static_cast<double>(secondsPerDay));
+    return std::min(static_cast<std::int64_t>(whole) * secondsPerDay + seconds, lastSecond);
 }
 
-int daysInMonth(int year, int month)
+Date Date::fromLinearSeconds(std::int64_t seconds)
 {
-    const std::chrono::year_month_day_last last{std::chrono::year{year}
-                                                / std::chrono::month{static_cast<unsigned>(month)}
-                                                / std::chrono::last};
-    return static_cast<int>(static_cast<unsigned>(last.day()));
+    if (seconds < firstSecond || seconds > lastSecond)
+        leftTheCalendar();
+    const std::int64_t day = floorDivide(seconds, secondsPerDay);
+    const double fraction = static_cast<double>(seconds - day * secondsPerDay) / static_cast<double>(secondsPerDay);
+    return Date(static_cast<double>(day) + (day < 0 ? -fraction : fraction));
 }
+
+int daysInMonth(int year, int month) { return length(carriedMonth(year, month)); }
 
 std::string defaultDateText(Date value)
 {

@@ -26,23 +26,32 @@ struct CivilTime {
 ///
 /// Before 1899-12-30 the whole part is negative while the fraction still counts forward from midnight:
 /// -1.25 is 1899-12-29 06:00. That is how OLE automation and the databases fed by it store dates.
+///
+/// A moment is read to the nearest second, date and time alike: a fraction within half a second of midnight
+/// belongs to the day after. Two dates are equal, or in order, by that second.
+///
+/// The calendar spans 0100-01-01 to 9999-12-31. A serial number outside reads as the nearest end of it, one
+/// that is no number as day 0. Arithmetic that leaves the span throws `RunTimeError` 6.
 class Date {
 public:
     constexpr Date() = default;
     constexpr explicit Date(double serial) : serial_(serial) {}
 
-    /// Out-of-range parts carry over as in the calendar arithmetic of `addMonths` and `addDays`:
-    /// month 13 is January of the next year, day 0 the last day of the month before.
+    /// Out-of-range parts carry over: month 13 is January of the next year, day 0 the last day of the
+    /// month before, hour 24 the next midnight.
     static Date of(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
     static Date of(CivilDate date, CivilTime time = {});
+    /// On day 0.
     static Date timeOf(int hour, int minute = 0, int second = 0);
 
+    /// The number as it was given.
     constexpr double serial() const { return serial_; }
+    /// Whether the serial number lies inside the calendar.
+    bool isInCalendar() const;
 
     Date dateOnly() const;
     Date timeOnly() const;
     CivilDate civilDate() const;
-    /// Rounded to the nearest second; a fraction that rounds up to 24:00 reads as 23:59:59.
     CivilTime civilTime() const;
     bool hasTime() const;
     /// 1 Sunday to 7 Saturday.
@@ -54,12 +63,15 @@ public:
     /// The day is cut to the length of the resulting month.
     Date addMonths(int months) const;
 
-    /// Days on a continuous line, fit for differences on both sides of day 0.
-    double linear() const;
-    static Date fromLinear(double days);
+    /// Seconds since 1899-12-30 00:00 on a continuous line, fit for differences on both sides of day 0.
+    std::int64_t linearSeconds() const;
+    static Date fromLinearSeconds(std::int64_t seconds);
 
-    friend std::partial_ordering operator<=>(const Date& a, const Date& b) { return a.linear() <=> b.linear(); }
-    friend bool operator==(const Date& a, const Date& b) { return a.linear() == b.linear(); }
+    friend std::strong_ordering operator<=>(const Date& a, const Date& b)
+    {
+        return a.linearSeconds() <=> b.linearSeconds();
+    }
+    friend bool operator==(const Date& a, const Date& b) { return a.linearSeconds() == b.linearSeconds(); }
 
 private:
     double serial_ = 0.0;
@@ -68,6 +80,7 @@ private:
 /// 1899-01-01, which stands for "no date" where a date is expected.
 inline constexpr Date noDate{-363.0};
 
+/// Months outside 1 to 12 carry over into the years, as in `Date::of`.
 int daysInMonth(int year, int month);
 
 /// The text in which the component hands a date to the database service: "2026-03-31",

@@ -4,8 +4,6 @@
 #include "utilities/dateText.h"
 #include "utilities/text.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <utility>
@@ -21,37 +19,20 @@ namespace {
 
 [[noreturn]] void nullUsed() { throw RunTimeError(errorNumber::invalidUseOfNull, "Invalid use of Null"); }
 
+[[noreturn]] void overflow(double number)
+{
+    throw RunTimeError(errorNumber::overflow, "Overflow: " + numberText(number));
+}
+
 std::int32_t roundToInteger(double number)
 {
     const double rounded = std::nearbyint(number); // the default rounding mode is half to even
     if (!(rounded >= std::numeric_limits<std::int32_t>::min() && rounded <= std::numeric_limits<std::int32_t>::max()))
-        throw RunTimeError(errorNumber::overflow, "Overflow: " + numberText(number));
+        overflow(number);
     return static_cast<std::int32_t>(rounded);
 }
 
 } // namespace
-
-std::string numberText(double value)
-{
-    std::array<char, 400> buffer{};
-    const bool whole = value == std::trunc(value) && std::fabs(value) < 1e15;
-    const auto end = whole ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<std::int64_t>(value))
-                           : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-    return {buffer.data(), end.ptr};
-}
-
-bool parseNumber(std::string_view text, double& value)
-{
-    text = trimmed(text);
-    if (!text.empty() && text.front() == '+')
-        text.remove_prefix(1);
-    double parsed = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), parsed);
-    if (error != std::errc{} || end != text.data() + text.size() || !std::isfinite(parsed))
-        return false;
-    value = parsed;
-    return true;
-}
 
 std::int32_t Variant::toInteger() const { return roundToInteger(toReal()); }
 
@@ -98,7 +79,10 @@ Date Variant::toDate() const
             return *date;
         mismatch("a date", *text);
     }
-    return Date(toReal());
+    const Date date(toReal());
+    if (!date.isInCalendar())
+        overflow(date.serial());
+    return date;
 }
 
 std::string Variant::toText() const&

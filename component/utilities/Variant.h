@@ -1,6 +1,7 @@
 #pragma once
 
 #include "utilities/Date.h"
+#include "utilities/numberText.h"
 
 #include <cstdint>
 #include <string>
@@ -12,7 +13,7 @@ namespace qncal {
 ///
 /// The `to...` conversions follow the usual rules of automation: text is parsed, a boolean is -1 or 0 as a
 /// number, a number rounds half to even as an integer. A value that does not convert throws `RunTimeError`:
-/// 94 for null, 13 for a text that is no such value, 6 for a number out of range.
+/// 94 for null, 13 for a text that is no such value, 6 for a number outside the integers or the calendar.
 class Variant {
 public:
     Variant() = default;
@@ -47,11 +48,5 @@ public:
 private:
     std::variant<std::monostate, double, bool, Date, std::string> value_;
 };
-
-/// Decimal text of a number, the shortest that reads back the same.
-std::string numberText(double value);
-inline const char* booleanText(bool value) { return value ? "True" : "False"; }
-/// A whole text as a number, blanks around it allowed; false when it is none. The point is the decimal sign.
-bool parseNumber(std::string_view text, double& value);
 
 } // namespace qncal

@@ -77,7 +77,12 @@ TEST_F(RoutineScopeTest, WithoutErrorControlTheRoutineDoesNothingAndTheErrorIsDr
 {
     serviceRegistry().errorControl.reset();
     bool ran = false;
-    EXPECT_EQ(routine("a-b-c", -1, [&] { ran = true; return 1; }), -1);
+    EXPECT_EQ(routine("a-b-c", -1,
+                      [&] {
+                          ran = true;
+                          return 1;
+                      }),
+              -1);
     EXPECT_FALSE(ran);
 }
 

@@ -1,0 +1,101 @@
+#pragma once
+
+#include "utilities/Event.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+
+namespace qncal {
+
+class Form;
+
+/// A colour with red in the low byte, as it is stored.
+using Colour = std::int32_t;
+
+/// What every control of a form has, without a toolkit.
+///
+/// A setter does nothing when the value is the one already held. Otherwise it stores the value, then raises
+/// `updated` for the window that shows the control, then the control's own change event for the form, whoever
+/// made the change. Events are plain slots that the form fills; an empty slot is no event.
+class Control {
+public:
+    /// Registers itself with the form, which lists its controls in the order of their making: that is also
+    /// the order in which the Tab key walks them. `index` is the place in a control array, none outside of one.
+    Control(Form& form, std::string name, std::optional<int> index = {});
+    virtual ~Control();
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    const std::string& name() const { return name_; }
+    std::optional<int> index() const { return index_; }
+    /// "cmdOpts" or "cmdOpts(1)".
+    std::string path() const;
+    /// What kind of control it is, as shown in listings: "TextBox".
+    virtual const char* kind() const = 0;
+    /// The value as text, for listings and tests.
+    virtual std::string valueText() const { return {}; }
+
+    bool isEnabled() const { return enabled_; }
+    void enabled(bool enabled) { store(enabled_, enabled); }
+    bool isVisible() const { return visible_; }
+    void visible(bool visible) { store(visible_, visible); }
+    const std::string& toolTip() const { return toolTip_; }
+    void toolTip(std::string text) { store(toolTip_, std::move(text)); }
+    /// What a screen reader says; the caption where there is one.
+    const std::string& accessibleName() const { return accessibleName_; }
+    void accessibleName(std::string text) { store(accessibleName_, std::move(text)); }
+
+    /// None leaves the colour to the toolkit.
+    std::optional<Colour> backColour() const { return backColour_; }
+    void backColour(std::optional<Colour> colour) { store(backColour_, colour); }
+    std::optional<Colour> foreColour() const { return foreColour_; }
+    void foreColour(std::optional<Colour> colour) { store(foreColour_, colour); }
+
+    Form& form() const { return *form_; }
+    bool hasFocus() const;
+    /// Moves the focus here, with the events of the control that loses it and of this one. A disabled or
+    /// hidden control does not take it.
+    void setFocus();
+
+    std::function<void()> GotFocus;
+    std::function<void()> LostFocus;
+    /// The handler may change the character, or set it to 0 to swallow the key.
+    std::function<void(std::int32_t& keyAscii)> KeyPress;
+    std::function<void(std::int32_t keyCode)> KeyUp;
+
+    /// For the window: something that it shows has changed.
+    Event<> updated;
+
+protected:
+    /// True when the value was another one; the window has been told then.
+    template <class Value>
+    bool store(Value& member, Value value)
+    {
+        if (member == value)
+            return false;
+        member = std::move(value);
+        updated.raise();
+        return true;
+    }
+
+    static void raise(const std::function<void()>& slot)
+    {
+        if (slot)
+            slot();
+    }
+
+private:
+    Form* form_;
+    std::string name_;
+    std::optional<int> index_;
+    std::string toolTip_;
+    std::string accessibleName_;
+    std::optional<Colour> backColour_;
+    std::optional<Colour> foreColour_;
+    bool enabled_ = true;
+    bool visible_ = true;
+};
+
+} // namespace qncal

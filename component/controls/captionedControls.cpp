@@ -1,0 +1,29 @@
+#include "controls/captionedControls.h"
+
+#include "controls/Form.h"
+
+namespace qncal {
+
+void CommandButton::press()
+{
+    if (isEnabled() && isVisible())
+        raise(Click);
+}
+
+void OptionButton::value(bool value)
+{
+    if (!store(value_, value) || !value)
+        return;
+    for (Control* control : form().controls())
+        if (auto* other = dynamic_cast<OptionButton*>(control); other && other != this && other->group_ == group_)
+            other->value(false);
+    raise(Click);
+}
+
+void MenuItem::choose()
+{
+    if (isEnabled() && isVisible())
+        raise(Click);
+}
+
+} // namespace qncal

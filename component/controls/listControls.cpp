@@ -1,0 +1,102 @@
+#include "controls/listControls.h"
+
+#include "utilities/text.h"
+
+#include <algorithm>
+
+namespace qncal {
+
+void RowList::addItem(std::string text, std::int32_t itemData) { insertItem(listCount(), std::move(text), itemData); }
+
+void RowList::insertItem(std::int32_t index, std::string text, std::int32_t itemData)
+{
+    index = std::clamp(index, 0, listCount());
+    rows_.insert(rows_.begin() + index, {std::move(text), itemData});
+    if (listIndex_ >= index)
+        ++listIndex_;
+    updated.raise();
+}
+
+void RowList::removeItem(std::int32_t index)
+{
+    if (index < 0 || index >= listCount())
+        return;
+    rows_.erase(rows_.begin() + index);
+    if (listIndex_ == index)
+        listIndex_ = -1;
+    else if (listIndex_ > index)
+        --listIndex_;
+    updated.raise();
+}
+
+void RowList::clear()
+{
+    if (rows_.empty())
+        return;
+    rows_.clear();
+    listIndex_ = -1;
+    updated.raise();
+}
+
+std::int32_t RowList::itemData(std::int32_t index) const
+{
+    return index >= 0 && index < listCount() ? rows_[static_cast<std::size_t>(index)].itemData : -1;
+}
+
+std::string RowList::list(std::int32_t index) const
+{
+    return index >= 0 && index < listCount() ? rows_[static_cast<std::size_t>(index)].text : std::string();
+}
+
+void RowList::listIndex(std::int32_t index)
+{
+    if (index < 0 || index >= listCount())
+        index = -1;
+    if (!store(listIndex_, index))
+        return;
+    rowSelected();
+    raise(Click);
+}
+
+bool RowList::selectItemData(std::int32_t itemData)
+{
+    const auto found = std::find_if(rows_.begin(), rows_.end(), [=](const ListRow& row) { return row.itemData == itemData; });
+    listIndex(found == rows_.end() ? -1 : static_cast<std::int32_t>(found - rows_.begin()));
+    return found != rows_.end();
+}
+
+void ComboBox::text(std::string text)
+{
+    if (!editable_) {
+        const auto row = std::find_if(rows().begin(), rows().end(), [&](const ListRow& r) { return r.text == text; });
+        listIndex(row == rows().end() ? -1 : static_cast<std::int32_t>(row - rows().begin()));
+        return;
+    }
+    if (store(text_, std::move(text)))
+        raise(Change);
+}
+
+void ComboBox::autoComplete(std::string typed)
+{
+    for (std::int32_t index = 0; index < listCount() && !typed.empty(); ++index) {
+        const std::string& row = rows()[static_cast<std::size_t>(index)].text;
+        if (row.size() < typed.size() || !equalsNoCase(std::string_view(row).substr(0, typed.size()), typed))
+            continue;
+        if (row.size() == typed.size())
+            listIndex(index);
+        text(row);
+        return;
+    }
+    text(std::move(typed));
+}
+
+void ComboBox::rowSelected()
+{
+    std::string text = list(listIndex());
+    if (listIndex() < 0 && editable_)
+        return; // a typed text stays when no row is selected any more
+    if (store(text_, std::move(text)))
+        raise(Change);
+}
+
+} // namespace qncal

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "controls/Form.h"
+#include "core/enumerations.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace qncal {
+
+class clsCalendarItem;
+
+/// The dialogs that the lower folders open but that live in the higher ones: each as the part that its opener
+/// uses, with the factory that is defined beside the dialog itself (settings/, editor/, duplicates/).
+
+class DayTimerSettingsForm : public Form {
+public:
+    /// Shows the dialog modally and returns when it closes. A `goToTab` below 4 selects that page.
+    virtual void Initialize(enumLocalCalendarItemType kind, std::int32_t userIDNum, std::int16_t goToTab) = 0;
+};
+std::shared_ptr<DayTimerSettingsForm> newDayTimerSettingsForm();
+
+class ApptStatusOptionsForm : public Form {
+public:
+    /// Shows the dialog modally and returns when it closes.
+    virtual void Initialize(enumLocalCalendarItemType kind, const std::string& fieldName, std::int16_t customNum) = 0;
+};
+std::shared_ptr<ApptStatusOptionsForm> newApptStatusOptionsForm();
+
+class ChangeApptStatusFieldsForm : public Form {
+public:
+    /// Shows the dialog modally and returns when it closes.
+    virtual void Initialize(enumLocalCalendarItemType kind) = 0;
+};
+std::shared_ptr<ChangeApptStatusFieldsForm> newChangeApptStatusFieldsForm();
+
+class ApptCustomFieldsForm : public Form {
+public:
+    /// Shows the dialog modally and returns when it closes.
+    virtual void Initialize(enumLocalCalendarItemType kind) = 0;
+};
+std::shared_ptr<ApptCustomFieldsForm> newApptCustomFieldsForm();
+
+/// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
+class ApptForm : public Form {
+public:
+    /// The item to edit, or none. It stays its owner's and must outlive its time in the form.
+    virtual void PassedClassRef(clsCalendarItem* item) = 0;
+    virtual void showTaskNotes(bool show) = 0;
+    virtual void setupForm() = 0;
+};
+std::shared_ptr<ApptForm> newApptForm();
+
+/// The duplicate removal wizard, modeless.
+std::shared_ptr<Form> newDuplicateAppointmentsForm();
+
+} // namespace qncal

@@ -1,0 +1,7 @@
+#include "editor/frmAppt.h"
+
+namespace qncal {
+
+std::shared_ptr<ApptForm> newApptForm() { return std::make_shared<frmAppt>(); }
+
+} // namespace qncal

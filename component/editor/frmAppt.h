@@ -1,0 +1,21 @@
+#pragma once
+
+#include "core/forms.h"
+
+namespace qncal {
+
+/// The dialog that adds and edits calendar items of all three kinds.
+class frmAppt : public ApptForm {
+public:
+    clsCalendarItem* PassedClassRef() const { return passedClassRef_; }
+    void PassedClassRef(clsCalendarItem* item) override { passedClassRef_ = item; }
+    bool showTaskNotes() const { return showTaskNotes_; }
+    void showTaskNotes(bool show) override { showTaskNotes_ = show; }
+    void setupForm() override {}
+
+private:
+    clsCalendarItem* passedClassRef_ = nullptr;
+    bool showTaskNotes_ = false;
+};
+
+} // namespace qncal

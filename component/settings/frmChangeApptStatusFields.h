@@ -1,0 +1,18 @@
+#pragma once
+
+#include "core/forms.h"
+
+namespace qncal {
+
+/// The names of the five status fields of one kind.
+class frmChangeApptStatusFields : public ChangeApptStatusFieldsForm {
+public:
+    void Initialize(enumLocalCalendarItemType kind) override;
+
+    enumLocalCalendarItemType calendarKind() const { return calendarKind_; }
+
+private:
+    enumLocalCalendarItemType calendarKind_ = enumLocalCalendarUnknownItem;
+};
+
+} // namespace qncal

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "controls/DialogHost.h"
+#include "headless/Hand.h"
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace qncal::host {
+
+/// A dialog host without a display, for tests and the command line: a script acts as the user's hand on each
+/// form that is shown. A modal form that its script leaves open is closed by the box in its corner; so is one
+/// that no script waits for, and its name is kept in `unexpectedForms`.
+class HeadlessDialogHost : public DialogHost {
+public:
+    using Script = std::function<void(Hand& hand)>;
+
+    /// The script for the next showing of the form of that name; several wait in line.
+    void whenShown(const std::string& formName, Script script) { scripts_[formName].push_back(std::move(script)); }
+    /// The script for every showing that no other script waits for.
+    void whenAnyShown(Script script) { fallback_ = std::move(script); }
+
+    /// The names of all forms shown so far, in order.
+    const std::vector<std::string>& shownForms() const { return shown_; }
+    const std::vector<std::string>& unexpectedForms() const { return unexpected_; }
+    std::size_t waitingScripts() const;
+    /// The forms on the screen, the front one last.
+    const std::vector<Form*>& openForms() const { return open_; }
+
+    void holdKey(ModifierKey key, bool down);
+    /// What the next progress dialogs do: cancelled at once when set.
+    void cancelProgress(bool cancel) { cancelProgress_ = cancel; }
+    void colourToPick(std::optional<std::int32_t> colour) { colour_ = colour; }
+    /// The rich texts printed so far.
+    const std::vector<std::string>& printed() const { return printed_; }
+
+    void showModal(Form& form) override;
+    void show(Form& form) override;
+    void hide(Form& form) override;
+    void bringToFront(Form& form) override;
+    MousePointer mousePointer() const override { return pointer_; }
+    void mousePointer(MousePointer pointer) override { pointer_ = pointer; }
+    bool isKeyDown(ModifierKey key) const override;
+    void doEvents() override {}
+    void runProgress(ProgressDialog& dialog) override;
+    bool print(const RichTextBox& box) override;
+    std::optional<std::int32_t> pickColour(std::int32_t current) override;
+
+private:
+    void act(Form& form);
+
+    std::map<std::string, std::deque<Script>> scripts_;
+    Script fallback_;
+    std::vector<std::string> shown_;
+    std::vector<std::string> unexpected_;
+    std::vector<Form*> open_;
+    std::vector<std::string> printed_;
+    std::vector<ModifierKey> keysDown_;
+    std::optional<std::int32_t> colour_;
+    MousePointer pointer_ = MousePointer::standard;
+    bool cancelProgress_ = false;
+};
+
+} // namespace qncal::host
