@@ -105,7 +105,7 @@ std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, s
     store.writes().flush();
     auto plan = store.plan(sql);
     const auto [handle, opened] = store.handles().open();
-    opened.open(std::move(plan), store.text(), lock != readOnly, store.statistics());
+    opened.open(std::move(plan), store.literals(), lock != readOnly, store.statistics());
     return handle;
 }
 

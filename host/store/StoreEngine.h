@@ -22,9 +22,9 @@ public:
     StoreEngine(const std::string& path, SqliteConnection::Access access, std::span<const schema::Table> tables,
                 std::int32_t version, int busyTimeout);
 
-    /// The plan of an SQL text, whose literals are then in `text()`. A text of a known shape is not parsed again.
+    /// The plan of an SQL text, whose literals are then in `literals()`. A text of a known shape is not parsed again.
     std::shared_ptr<SelectPlan> plan(std::string_view sql);
-    const dialect::ShapedText& text() const { return text_; }
+    const dialect::Literals& literals() const { return text_.literals(); }
 
     /// Writes the log of the file back as far as nobody else reads it.
     void checkpoint();
