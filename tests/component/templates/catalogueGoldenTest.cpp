@@ -43,7 +43,8 @@ protected:
         engine.ShowListCategoryHeaders(true);
         build(GetParam().listType, use);
         std::int32_t lastKey = 0;
-        const std::string text = linesText(*listBox, lastKey) + "(second list)\n" + linesText(*listBox2, lastKey);
+        std::string text = linesText(*listBox, lastKey);
+        text += "(second list)\n" + linesText(*listBox2, lastKey);
         EXPECT_EQ(lastKey, engine.FieldList()->getCount()) << "every row has its line";
         return text;
     }
