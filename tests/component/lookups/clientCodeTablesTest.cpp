@@ -1,6 +1,7 @@
 #include "lookups/clientCodeTables.h"
 
 #include "support/ComponentTest.h"
+#include "support/rowName.h"
 
 namespace qncal::modDatabaseFunctions {
 namespace {
@@ -69,7 +70,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CodeCase{"CorporationLevel1", corporationLevel, 1, "Federal Corporation"},
                     CodeCase{"CorporationLevel2", corporationLevel, 2, "Provincial Corporation"},
                     CodeCase{"CorporationLevelAbove", corporationLevel, 3, "Federal Corporation"}),
-    [](const auto& test) { return test.param.name; });
+    test::rowName);
 
 TEST_F(ClientCodeTablesTest, CompanyType3DependsOnTheCountry)
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/ComponentTest.h"
+#include "support/rowName.h"
 #include "templates/clsInsertFieldsInRTB.h"
 
 #include <memory>

@@ -87,7 +87,7 @@ INSTANTIATE_TEST_SUITE_P(Lists, CatalogueGoldenTest,
                                          ListCase{3, -1, "contactAddress"}, ListCase{3, 0, "contactAddressAndCompany"},
                                          ListCase{5, -1, "appointment"}, ListCase{6, -1, "timeEntry"},
                                          ListCase{8, -1, "task"}, ListCase{4, -1, "unknownType"}),
-                         [](const auto& test) { return std::string(test.param.name); });
+                         rowName);
 
 class ProvinceGoldenTest : public MergeEngineTest {
 protected:

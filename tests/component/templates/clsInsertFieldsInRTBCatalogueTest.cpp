@@ -290,7 +290,7 @@ INSTANTIATE_TEST_SUITE_P(
         HeaderCase{"Task", 8,
                    {"[Task Info]", "", "[Company Address Info]", "", "[Default Contact Name]", "",
                     "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}}),
-    [](const auto& test) { return std::string(test.param.name); });
+    rowName);
 
 class CountingDialogHost : public host::HeadlessDialogHost {
 public:
@@ -449,7 +449,7 @@ INSTANTIATE_TEST_SUITE_P(
                         "Custom Time Entry Info ", ""},
         CustomGroupCase{"Firm", 4, "CustomAddressFields", "CompanyLabel", "FirmCustom", "Your Company Custom Field ",
                         "Company Custom Info ", "Your "}),
-    [](const auto& test) { return std::string(test.param.name); });
+    rowName);
 
 class SqlLog : public ForwardingDatabaseService {
 public:
@@ -485,8 +485,7 @@ TEST_F(CatalogueTest, AnAppointmentsListAsksForItsLabelsAndNothingElse)
 
 std::function<std::function<std::string()>(TestWorld&)> taskListBuilding(bool resultIsList)
 {
-    return [resultIsList](TestWorld& world) -> std::function<std::string()> {
-        world.addRow("CustomFields", {{"TaskCustomName1", "Colour"}});
+    return [resultIsList](TestWorld&) -> std::function<std::string()> {
         auto engine = std::make_shared<clsInsertFieldsInRTB>();
         engine->ListType(8);
         return [engine, resultIsList] {
