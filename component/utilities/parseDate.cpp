@@ -250,7 +250,7 @@ private:
             return mayLack;
         const auto marker = in_.word();
         const bool afternoon = equalsNoCase(marker, "pm");
-        if ((!afternoon && !equalsNoCase(marker, "am")) || time.hour < 1 || time.hour > 12)
+        if ((!afternoon && !equalsNoCase(marker, "am")) || time.hour > 12)
             return false;
         time.hour = time.hour % 12 + (afternoon ? 12 : 0);
         return true;
