@@ -2,6 +2,7 @@
 
 #include "controls/ListTarget.h"
 #include "controls/RichTextTarget.h"
+#include "templates/fieldSubstitution.h"
 #include "utilities/Date.h"
 #include "utilities/Event.h"
 #include "utilities/FieldListCollection.h"
@@ -15,6 +16,8 @@
 namespace qncal {
 
 class MergeRecordSets;
+class RecordSet;
+struct MergeItemIDs;
 enum class MergeFieldBlock : std::uint8_t;
 
 /// The merge field engine: the catalogue of fields that a template may name, the merge of a template with an
@@ -182,6 +185,20 @@ private:
     FieldListCollection& fieldList() const;
     void addBlocksOfListType(FieldListCollection& list, bool noListBox);
     void addBlock(FieldListCollection& list, MergeFieldBlock block, bool noListBox);
+    /// Both passes of the merge: « and » first, the rich form where that replaced nothing.
+    void mergeFields(std::string& text, const FieldValueSource& valueOf);
+    void buildListForIDs();
+    bool showsContactForCompany() const;
+
+    MergeRecordSets& recordSets();
+    MergeItemIDs itemIDs() const;
+    /// The raw value of the current catalogue row's field, empty when its item has no id or no record.
+    std::string readCurrentField();
+    std::string contactField(const RecordSet& contact, std::string& databaseField);
+    std::string companyField(const RecordSet& company, std::string& databaseField);
+    std::string itemField(const RecordSet& record, const RecordSet& times, const std::string& databaseField);
+    /// The contact's company when the contact inherits its data; none otherwise.
+    RecordSet* companyToInheritFrom();
 
     std::shared_ptr<FieldListCollection> fieldList_;
     std::shared_ptr<MergeRecordSets> recordSets_;

@@ -333,7 +333,8 @@ constexpr auto entries = std::to_array<MergeFieldEntry>({
 std::span<const MergeFieldEntry> mergeFieldEntries(MergeFieldBlock block)
 {
     static_assert(std::ranges::is_sorted(entries, {}, &MergeFieldEntry::block));
-    return std::ranges::equal_range(entries, block, {}, &MergeFieldEntry::block);
+    return {std::ranges::lower_bound(entries, block, {}, &MergeFieldEntry::block),
+            std::ranges::upper_bound(entries, block, {}, &MergeFieldEntry::block)};
 }
 
 } // namespace qncal

@@ -74,7 +74,7 @@ std::int32_t FieldListCollection::findInColumn(std::int16_t column, std::string_
 {
     std::int32_t position = -1;
     if (column == displayName) {
-        position = findDisplayName(value);
+        position = positionOfDisplayName(value);
     } else {
         for (std::size_t i = 0; i < rows_.size() && position < 0; ++i) {
             if (holds(rows_[i], column, value))
@@ -114,7 +114,7 @@ const FieldListRow& FieldListCollection::current() const
     return rows_[static_cast<std::size_t>(current_)];
 }
 
-std::int32_t FieldListCollection::findDisplayName(std::string_view name)
+std::int32_t FieldListCollection::positionOfDisplayName(std::string_view name, std::int32_t from)
 {
     if (rows_.empty())
         return -1;
@@ -125,13 +125,25 @@ std::int32_t FieldListCollection::findDisplayName(std::string_view name)
         const std::int32_t position = nameIndex_[slot];
         if (position == freeSlot)
             return -1;
-        if (equalsNoCase(rows_[static_cast<std::size_t>(position)].displayName.view(), name))
+        if (position >= from && equalsNoCase(rows_[static_cast<std::size_t>(position)].displayName.view(), name))
             return position;
     }
 }
 
+bool FieldListCollection::displayNamesHold(char byte)
+{
+    if (nameIndex_.empty())
+        indexDisplayNames();
+    return nameBytes_[static_cast<std::uint8_t>(byte)];
+}
+
 void FieldListCollection::indexDisplayNames()
 {
+    nameBytes_.reset();
+    for (const FieldListRow& row : rows_) {
+        for (const char c : row.displayName.view())
+            nameBytes_.set(static_cast<std::uint8_t>(c));
+    }
     nameIndex_.assign(std::bit_ceil(rows_.size() * 2), freeSlot);
     const std::size_t mask = nameIndex_.size() - 1;
     for (std::size_t i = 0; i < rows_.size(); ++i) {

@@ -2,6 +2,7 @@
 
 #include "utilities/Variant.h"
 
+#include <bitset>
 #include <cstdint>
 #include <span>
 #include <string>
@@ -72,6 +73,11 @@ public:
     /// The position from 0 of the first row whose column holds the value, which becomes current;
     /// -1, and the current row stays, when there is none. A number compares by its decimal text.
     std::int32_t findInColumn(std::int16_t column, std::string_view value);
+    /// The position of the first row at or after `from` with this display name, -1 when there is none.
+    /// The current row stays.
+    std::int32_t positionOfDisplayName(std::string_view name, std::int32_t from = 0);
+    /// True when a display name holds the byte.
+    bool displayNamesHold(char byte);
     /// A column of the current row. No current row, or no such column, is run-time error 5.
     Variant getColumn(std::int16_t column) const;
     std::int32_t getCurrentKey() const { return current().key; }
@@ -84,13 +90,14 @@ public:
     void reserve(std::size_t count) { rows_.reserve(count); }
 
 private:
-    std::int32_t findDisplayName(std::string_view name);
     void indexDisplayNames();
 
     std::vector<FieldListRow> rows_;
     std::int32_t current_ = -1;
     /// Open-addressing hash table of row positions by display name, -1 free; empty until it is needed.
     std::vector<std::int32_t> nameIndex_;
+    /// The bytes of all display names; kept with `nameIndex_`.
+    std::bitset<256> nameBytes_;
 };
 
 } // namespace qncal

@@ -27,17 +27,6 @@ std::optional<Province> findProvince(const Matches& matches)
 
 constexpr std::string_view settingsRow = "SELECT GlobalGeneralSettings.* FROM GlobalGeneralSettings;";
 
-/// The date stamp's own defaults, which hold as long as there is no row.
-void addSettingsRow(DatabaseService& database)
-{
-    Rows rows = Rows::change(database, settingsRow);
-    rows.addNew();
-    rows.setNew("DateStampShowTime", booleanText(true));
-    rows.setNew("DateStampShowName", booleanText(true));
-    rows.setNew("DateStampShowNameOptions", "1");
-    rows.update();
-}
-
 } // namespace
 
 std::optional<std::int32_t> countryFromText(std::string_view text)
@@ -77,8 +66,11 @@ void readRegion(DatabaseService& database, Locale::Values& values)
 
 void storeRegion(DatabaseService& database, const Locale::Values& values)
 {
+    // A new row keeps the defaults of the date stamp, which hold as long as there is none.
     if (Rows::read(database, settingsRow).isEmpty())
-        addSettingsRow(database);
+        addRow(database, "GlobalGeneralSettings",
+               {{"DateStampShowTime", booleanText(true)}, {"DateStampShowName", booleanText(true)},
+                {"DateStampShowNameOptions", "1"}});
     Rows rows = Rows::change(database, settingsRow);
     rows.set("CountryCode", std::to_string(values.country));
     rows.set("ProvinceCode", std::to_string(values.province));

@@ -111,16 +111,9 @@ void NotificationRows::deleteNotification(std::int32_t notificationID)
 
 std::int32_t NotificationRows::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
 {
-    const std::string_view item = itemField(kind);
-    Rows rows = Rows::change(*database_, "SELECT ClientNotification.* FROM ClientNotification;");
-    rows.addNew();
-    rows.setNew(item, std::to_string(itemID));
-    rows.setNew(channelField, std::to_string(channel));
-    rows.setNew(dateField, defaultDateText(date));
-    rows.setNew("NotificationSent", booleanText(false));
-    const std::int32_t notificationID = rows.integer(keyField);
-    rows.update();
-    return notificationID;
+    return addRow(*database_, "ClientNotification",
+                  {{itemField(kind), std::to_string(itemID)}, {channelField, std::to_string(channel)},
+                   {dateField, defaultDateText(date)}, {"NotificationSent", booleanText(false)}});
 }
 
 void NotificationRows::set(std::int32_t notificationID, std::string_view field, const std::string& value)

@@ -1,5 +1,7 @@
 #include "services/Rows.h"
 
+#include "core/schema.h"
+
 namespace qncal::host {
 
 Rows::Rows(DatabaseService& database, std::string_view sql, std::int32_t lock)
@@ -31,6 +33,18 @@ bool Rows::boolean(std::string_view name) const
 {
     const Variant value = field(name);
     return !value.isNull() && value.toBoolean();
+}
+
+std::int32_t addRow(DatabaseService& database, std::string_view table, const std::vector<FieldText>& fields)
+{
+    const std::string name(table);
+    Rows rows = Rows::change(database, "SELECT " + name + ".* FROM " + name + ";");
+    rows.addNew();
+    for (const auto& [column, text] : fields)
+        rows.setNew(column, text);
+    const std::int32_t key = rows.integer(schema::findTable(table)->columns.front().name);
+    rows.update();
+    return key;
 }
 
 } // namespace qncal::host

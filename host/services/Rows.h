@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 namespace qncal::host {
 
@@ -56,5 +58,10 @@ private:
     DatabaseService& database_;
     std::int32_t handle_;
 };
+
+/// A column and what it is to hold, as the contract wants it in text.
+using FieldText = std::pair<std::string_view, std::string>;
+/// Adds a row to a table of the schema and gives its key. Columns that are not named start with their default.
+std::int32_t addRow(DatabaseService& database, std::string_view table, const std::vector<FieldText>& fields);
 
 } // namespace qncal::host

@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
                     CodeCase{"CorporationLevel1", corporationLevel, 1, "Federal Corporation"},
                     CodeCase{"CorporationLevel2", corporationLevel, 2, "Provincial Corporation"},
                     CodeCase{"CorporationLevelAbove", corporationLevel, 3, "Federal Corporation"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(ClientCodeTablesTest, CompanyType3DependsOnTheCountry)
 {

@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Provinces, ProvinceRulesTest,
                                          ProvinceCase{"PrinceEdwardIsland", 12, princeEdwardIsland, "P.E.I."},
                                          ProvinceCase{"Code13", 13, ontario, "ON"},
                                          ProvinceCase{"NegativeCode", -1, ontario, "ON"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& test) { return test.param.name; });
 
 class ConvertProvinceFieldsTest : public MergeEngineTest {};
 
@@ -240,7 +240,7 @@ INSTANTIATE_TEST_SUITE_P(
         LegacyCase{"CustomRemittance6", "«Custom Remitt Field 6»", "«Custom Remitt Field 6»"},
         LegacyCase{"BracketsBeforeNames", "<<(Due Date, Short Date)>>", "«(Task Due Date, dd/mm/yy)»"},
         LegacyCase{"NothingOld", "«Company Name» at 9", "«Company Name» at 9"}, LegacyCase{"Empty", "", ""}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(ConvertProvinceFieldsTest, OldNamesAreBroughtUpToDateBeforeTheRegionRules)
 {
@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(
                      "Northwest Territories"},
         SpellingCase{"Nunavut", {"Nunavut", "nu"}, "NU", "Nunavut"},
         SpellingCase{"Yukon", {"Yukon", "yt"}, "YT", "Yukon"}),
-    [](const auto& info) { return info.param.name; });
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(ConvertProvinceFieldsTest, AnUnknownProvinceComesBackAsItIs)
 {

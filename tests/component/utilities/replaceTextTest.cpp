@@ -35,7 +35,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReplaceNoCaseTest,
                                          Replacement{"NoOccurrence", "abc", "abd", "x", "abc"},
                                          Replacement{"LongerThanTheText", "ab", "abc", "x", "ab"},
                                          Replacement{"EmptyWanted", "ab", "", "x", "ab"}),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& test) { return test.param.name; });
 
 TEST(FindNoCase, StartsAtThePosition)
 {
