@@ -23,14 +23,14 @@ TEST_F(RecordSetTest, OpensWithTheFixedArguments)
         bool showError = false;
         std::string errorText = "?";
         bool keep = false;
-        std::int32_t openRecordset(std::string_view sql, std::int32_t cursorType, std::int32_t lock, bool show,
+        std::int32_t openRecordset(std::string_view sql, std::int32_t cursorGiven, std::int32_t lock, bool show,
                                    std::string_view text, bool kept) override
         {
-            cursor = cursorType;
+            cursor = cursorGiven;
             showError = show;
             errorText = text;
             keep = kept;
-            return ForwardingDatabaseService::openRecordset(sql, cursorType, lock, show, text, kept);
+            return ForwardingDatabaseService::openRecordset(sql, cursorGiven, lock, show, text, kept);
         }
     };
     const auto arguments = std::make_shared<Arguments>(database);

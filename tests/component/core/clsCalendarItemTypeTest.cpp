@@ -2,6 +2,7 @@
 
 #include "support/ComponentTest.h"
 #include "support/RecordingDatabase.h"
+#include "utilities/RunTimeError.h"
 
 namespace qncal {
 namespace {
