@@ -42,7 +42,7 @@ protected:
 };
 
 INSTANTIATE_TEST_SUITE_P(Stores, StoreContract, ::testing::ValuesIn(storeFactories()),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& store) { return store.param.name; });
 
 using Texts = std::vector<std::string>;
 
@@ -264,9 +264,11 @@ TEST_P(StoreContract, DeletingInALoopTakesEveryOtherRecord)
     for (const char* subject : {"A", "B", "C", "D"})
         addAppointment(subject);
     const auto handle = openUpdatable(allAppointments);
-    for (int i = 0; !store().isEOF(handle); store().moveNext(handle), ++i)
-        if (i % 2 == 0)
+    for (int i = 0; !store().isEOF(handle); store().moveNext(handle), ++i) {
+        if (i % 2 == 0) {
             EXPECT_TRUE(store().deleteRecord(handle));
+        }
+    }
     EXPECT_EQ(store().getRecordCount(handle), 2);
     EXPECT_EQ(store().getPosition(handle), 3) << "past the end is the count plus 1";
     store().movePrevious(handle);
@@ -380,7 +382,6 @@ TEST_P(StoreContract, ASqlDateFindsItsDate)
 struct Conversion {
     std::string name, column, text;
     Variant expected;
-    friend void PrintTo(const Conversion& row, std::ostream* out) { *out << row.name; }
 };
 
 TEST_P(StoreContract, TextsAreConvertedToTheColumnsType)
