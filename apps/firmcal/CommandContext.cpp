@@ -69,8 +69,8 @@ host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase
     database_ = database;
     host::HostServices services;
     services.database = database;
-    services.messages = std::make_shared<host::TerminalMessages>(streams_.in, streams_.err,
-                                                                 messageMode(options_, streams_));
+    services.messages =
+        std::make_shared<host::TerminalMessages>(streams_.in, streams_.err, messageMode(options_, streams_));
     services.locale = localeFor(options_, *database);
     host_.reset();
     host_ = std::make_unique<host::HostEnvironment>(std::move(services));

@@ -1,8 +1,8 @@
 #include "firmcal/Program.h"
 
 #include "firmcal/CommandContext.h"
-#include "firmcal/commands.h"
 #include "firmcal/Failure.h"
+#include "firmcal/commands.h"
 #include "utilities/RunTimeError.h"
 
 #include <algorithm>
@@ -18,8 +18,8 @@ constexpr int wrongUsage = 2;
 
 using AddCommands = void (*)(CLI::App&, CommandContext&);
 constexpr AddCommands commandGroups[] = {
-    addInitCommand,   addDemoCommand, addItemCommands, addAgendaCommand,
-    addClientCommands, addUserCommands, addSqlCommand,  addDoctorCommand,
+    addInitCommand,    addDemoCommand,  addItemCommands, addAgendaCommand,
+    addClientCommands, addUserCommands, addSqlCommand,   addDoctorCommand,
 };
 
 void addGlobalOptions(CLI::App& program, GlobalOptions& options)
