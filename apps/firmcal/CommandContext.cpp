@@ -5,6 +5,7 @@
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 
+#include <filesystem>
 #include <ostream>
 
 namespace qncal::firmcal {
@@ -55,6 +56,8 @@ host::HostEnvironment& CommandContext::host()
         return *host_;
     if (options_.database.empty())
         throw Failure("no database given; use --database FILE or set FIRMCAL_DATABASE");
+    if (!std::filesystem::exists(options_.database))
+        throw Failure("there is no file " + options_.database + "; 'firmcal init' and 'firmcal demo' make databases");
     return host(host::SqliteDatabase::open(options_.database));
 }
 

@@ -75,6 +75,7 @@ void setItem(CommandContext& context, const ItemReference& reference, const Item
     save(context, item, "Changed");
 }
 
+/// What is empty, off or none says nothing.
 bool isWorthShowing(const Json& value)
 {
     if (value.is_string())
@@ -106,7 +107,8 @@ void showItem(CommandContext& context, const ItemReference& reference, bool allF
         if (!known.get)
             continue;
         const Json value = known.get(item);
-        if (!allFields && !isWorthShowing(value))
+        const bool isIdle = known.name == "notifiedDate" && item.notifyType() == 0;
+        if (!allFields && (isIdle || !isWorthShowing(value)))
             continue;
         std::string shown = plainText(value);
         const auto withName = [&](const std::string& name) { shown += name.empty() ? "" : "  (" + name + ")"; };

@@ -114,7 +114,7 @@ bool readBoolean(std::string_view text)
         if (word == no)
             return false;
     }
-    refuse(text, "yes or no", "yes, no, true, false, on, off, 1, 0");
+    throw Failure("'" + std::string(text) + "' is neither yes nor no");
 }
 
 std::int32_t readInteger(std::string_view text)

@@ -115,11 +115,17 @@ private:
     std::set<std::string> used_;
 };
 
-/// Letters and digits of the first word of each part, without accents, as the name of a mailbox or domain.
+/// Letters and digits without accents, as the name of a mailbox or domain.
 std::string mailName(std::string_view text)
 {
+    constexpr std::pair<std::string_view, char> accented[] = {{"É", 'e'}, {"é", 'e'}, {"ø", 'o'}, {"ó", 'o'}};
+    std::string plain(text);
+    for (const auto& [letter, replacement] : accented) {
+        for (std::size_t place = plain.find(letter); place != std::string::npos; place = plain.find(letter))
+            plain.replace(place, letter.size(), 1, replacement);
+    }
     std::string name;
-    for (const char c : lowerAscii(text)) {
+    for (const char c : lowerAscii(plain)) {
         if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'))
             name += c;
     }
