@@ -61,6 +61,7 @@ public:
     std::optional<std::size_t> findColumn(std::string_view name) const;
     /// False when an earlier column has the same name.
     bool isUnique(std::size_t column) const { return unique_[column]; }
+    std::vector<std::string> fieldNames() const;
 
     /// The statements. Each comes with the literals bound; parameters of its own follow at `ownParameter`.
     /// The first record's columns and its key, in key order.
