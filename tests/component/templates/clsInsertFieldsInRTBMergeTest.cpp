@@ -130,7 +130,7 @@ INSTANTIATE_TEST_SUITE_P(Rows, BlankBeforeTest,
                                          BlankRow{"AfterABlank", "in «City»,«City»", "in Guelph,Guelph"},
                                          BlankRow{"AfterAControlWord", "\\b«City» «City»", "\\b Guelph  Guelph"},
                                          BlankRow{"EmptyValueLeavesTheBlank", "a«Empty»b", "a b"},
-                                         BlankRow{"BehindAnEmptiedExpression", "«Empty»«City»", "«» Guelph"},
+                                         BlankRow{"BehindAnExpressionOfALaterRow", "«Empty»«City»", " Guelph"},
                                          BlankRow{"BeforeAnEmptyOne", "«City»«Empty»", "Guelph "}),
                          rowName);
 
@@ -256,11 +256,11 @@ TEST_F(MergeEngineTest, WithoutIDsEveryMergeOnlyNormalises)
     }
 }
 
-TEST_F(MergeEngineTest, FailedMergeAfterTheEndIsEmpty)
+TEST_F(MergeEngineTest, AfterTheEndNothingIsMerged)
 {
     engine.TemplateText("«City»");
     engine.Terminate();
-    EXPECT_EQ(engine.parseRTBComment(), "«City»") << "the list cannot be asked for, and nothing is merged";
+    EXPECT_EQ(engine.parseRTBComment(), "«City»");
     EXPECT_FALSE(errors->takeErrors().empty());
 }
 
@@ -399,7 +399,7 @@ struct LongRow {
     const char* before;
     const char* repeated;
     const char* after;
-    const char* merged;
+    const char* beginning; ///< of the merged text
 };
 
 class LongTemplateTest : public SampleMergeTestWith<LongRow> {};
@@ -410,22 +410,22 @@ TEST_P(LongTemplateTest, IsMergedToTheEnd)
     addField("City", "Guelph");
     addField("Nest", "«City»");
     std::string text = GetParam().before;
-    std::string expected;
     while (text.size() < 1000000)
         text += GetParam().repeated;
     text += GetParam().after;
     engine.testRTBComment(text, false, false, true);
-    const std::string result = merged(text);
-    EXPECT_EQ(result.substr(0, 40), std::string(GetParam().merged).substr(0, 40));
+    EXPECT_TRUE(merged(text).starts_with(GetParam().beginning));
 }
 
 INSTANTIATE_TEST_SUITE_P(Rows, LongTemplateTest,
-                         testing::Values(LongRow{"Openings", "", "«", "", "««««««««««««««««««««"},
-                                         LongRow{"Closings", "", "»", "", "»»»»»»»»»»»»»»»»»»»»"},
-                                         LongRow{"Expressions", "", "«City»", "", "GuelphGuelphGuelphGuelphGuelphGuelphGuelph"},
+                         testing::Values(LongRow{"Openings", "", "«", "", "««««««««"},
+                                         LongRow{"Closings", "", "»", "", "»»»»»»»»"},
+                                         LongRow{"Expressions", "", "«City»", "", "GuelphGuelphGuelph"},
+                                         LongRow{"UnknownExpressions", "x", "«Q»", "y", "xy"},
                                          LongRow{"OpeningsAndOneEnd", "x", "«", "City»", "x"},
-                                         LongRow{"NestedExpressions", "«Q»", "««Q»Q»", "", "Q»Q»Q»Q»Q»Q»Q»Q»Q»Q»Q»Q»Q»Q»"},
-                                         LongRow{"LegacyOpenings", "", "<<", "", "««««««««««««««««««««"}),
+                                         LongRow{"NestedExpressions", "«Q»", "««Q»", "", "««««««««"},
+                                         LongRow{"RichOpenings", "", "\\'ab", "", "\\'ab\\'ab\\'ab"},
+                                         LongRow{"LegacyOpenings", "", "<<", "", "««««««««"}),
                          rowName);
 
 } // namespace qncal::test
