@@ -54,8 +54,8 @@ TEST_F(DemoFirmTest, HasWhatItWasAskedFor)
     EXPECT_GT(count("Appointments"), 200);
     EXPECT_GT(count("Tasks"), 50);
     EXPECT_GT(count("Dockets"), 50);
-    EXPECT_GT(count("Reminders"), 50);
-    EXPECT_GT(count("ClientNotification"), 5);
+    EXPECT_GT(count("Appointments WHERE Remind=True"), 50);
+    EXPECT_GT(count("Appointments WHERE notifyType>0"), 5);
     EXPECT_EQ(count("ColourSchemes"), 7);
     EXPECT_EQ(count("CustomFields"), 1);
 }
