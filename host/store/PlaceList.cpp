@@ -8,6 +8,11 @@ namespace qncal::host {
 void PlaceList::clear(std::size_t keyWidth)
 {
     width_ = keyWidth;
+    constexpr std::size_t worthKeeping = 4096; // memory of a larger set is not held for the next
+    if (keys_.capacity() > worthKeeping) {
+        keys_ = {};
+        states_ = {};
+    }
     keys_.clear();
     states_.clear();
     closed_ = gone_ = 0;

@@ -8,6 +8,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace qncal::host {
 
@@ -26,7 +27,8 @@ public:
     struct Options {
         std::span<const schema::Table> tables = schema::tables();
         std::int32_t version = schema::version;
-        int busyTimeout = 5000; ///< milliseconds to wait for another process
+        int busyTimeout = 5000;       ///< milliseconds to wait for another process
+        std::int64_t largestFile = 0; ///< bytes that the file may grow to; 0 for as many as the disk holds
     };
 
     /// Each throws `RunTimeError` that names the file: when it is missing (open), is no database, is of a newer
@@ -48,6 +50,9 @@ public:
     /// For quiet moments: writes the log back into the database file.
     void idle();
     const StoreStatistics& statistics() const;
+    /// The names by which `getField` knows the fields of a record set, in their order. A name that an earlier
+    /// field has comes with its table, as in "Companies.CompanyID".
+    std::vector<std::string> fieldNames(std::int32_t handle);
 
     bool isConnected() override;
     std::int32_t openRecordset(std::string_view sql, std::int32_t cursor, std::int32_t lock, bool showError,
@@ -80,6 +85,8 @@ private:
     StoreEngine& engine() const;
     RecordCursor& cursor(std::int32_t handle);
     RecordCursor& settledCursor(std::int32_t handle);
+    RecordCursor& ownSettledCursor(std::int32_t handle);
+    void flushToClose(std::int32_t handle);
 
     std::unique_ptr<StoreEngine> engine_; ///< none once closed
 };

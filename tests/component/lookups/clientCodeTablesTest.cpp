@@ -1,12 +1,7 @@
 #include "lookups/clientCodeTables.h"
 
-#include "core/ServiceRegistry.h"
-#include "services/Locale.h"
-#include "support/RecordingErrorControl.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
+#include "support/ComponentTest.h"
+#include "support/rowName.h"
 
 namespace qncal::modDatabaseFunctions {
 namespace {
@@ -20,18 +15,7 @@ struct CodeCase {
     std::string text;
 };
 
-class ClientCodeTablesTest : public testing::TestWithParam<CodeCase> {
-protected:
-    void SetUp() override
-    {
-        serviceRegistry().errorControl = errors;
-        serviceRegistry().locale = locale;
-    }
-    void TearDown() override { serviceRegistry() = {}; }
-
-    std::shared_ptr<test::RecordingErrorControl> errors = std::make_shared<test::RecordingErrorControl>();
-    std::shared_ptr<host::Locale> locale = std::make_shared<host::Locale>();
-};
+class ClientCodeTablesTest : public test::ComponentTestWith<CodeCase> {};
 
 constexpr Decoder companyType = getCompanyTypeStringFromCompanyTypeNum;
 constexpr Decoder statements = getFinancialStatementsStringFromFinancialStatementsNum;
@@ -86,15 +70,15 @@ INSTANTIATE_TEST_SUITE_P(
                     CodeCase{"CorporationLevel1", corporationLevel, 1, "Federal Corporation"},
                     CodeCase{"CorporationLevel2", corporationLevel, 2, "Provincial Corporation"},
                     CodeCase{"CorporationLevelAbove", corporationLevel, 3, "Federal Corporation"}),
-    [](const auto& test) { return test.param.name; });
+    test::rowName);
 
 TEST_F(ClientCodeTablesTest, CompanyType3DependsOnTheCountry)
 {
-    locale->values().country = LocaleService::canada;
+    locale->country = LocaleService::canada;
     EXPECT_EQ(companyType(3), "Partnership");
-    locale->values().country = LocaleService::unitedStates;
+    locale->country = LocaleService::unitedStates;
     EXPECT_EQ(companyType(3), "General Partnership");
-    locale->values().country = 0;
+    locale->country = 0;
     EXPECT_EQ(companyType(3), "Unknown");
 }
 

@@ -1,6 +1,6 @@
 #include "MergeEngineTest.h"
 
-namespace qncal {
+namespace qncal::test {
 namespace {
 
 constexpr std::int32_t canada = LocaleService::canada;
@@ -58,13 +58,13 @@ const std::vector<std::string> ontario{
 const std::vector<std::string> corpTaxWords{"ON",   "BC",   "Alberta", "Manitoba", "Sask.",
                                             "Que.", "N.B.", "N.S.",    "Nfld.",    "P.E.I."};
 
-class ProvinceRulesTest : public MergeEngineTest, public testing::WithParamInterface<ProvinceCase> {};
+class ProvinceRulesTest : public MergeEngineTestWith<ProvinceCase> {};
 
 TEST_P(ProvinceRulesTest, RenamesTheFieldsOfOtherProvincesOnBothSidesOfHarmonisation)
 {
     region(canada, GetParam().province);
-    for (const Date& day : {lastDayBeforeHarmonisation, firstDayOfHarmonisation}) {
-        clock = day;
+    for (const Date& moment : {lastMomentBeforeHarmonisation, firstMomentOfHarmonisation}) {
+        moveClockTo(moment);
         EXPECT_EQ(engine.convertProvinceFields(fields(provinceFields)), fields(GetParam().renamed));
     }
 }
@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(Provinces, ProvinceRulesTest,
                                          ProvinceCase{"PrinceEdwardIsland", 12, princeEdwardIsland, "P.E.I."},
                                          ProvinceCase{"Code13", 13, ontario, "ON"},
                                          ProvinceCase{"NegativeCode", -1, ontario, "ON"}),
-                         [](const auto& test) { return test.param.name; });
+                         rowName);
 
 class ConvertProvinceFieldsTest : public MergeEngineTest {};
 
@@ -108,7 +108,7 @@ TEST_F(ConvertProvinceFieldsTest, ManitobaTakesOverTheCorpTaxNumberOfOntario)
 
 TEST_F(ConvertProvinceFieldsTest, FromHarmonisationOnBritishColumbiaAndOntarioStillEndWithGstNumber)
 {
-    clock = firstDayOfHarmonisation;
+    moveClockTo(firstMomentOfHarmonisation);
     for (const std::int32_t province : {1, 3}) {
         region(canada, province);
         EXPECT_EQ(engine.convertProvinceFields("«GST Number» «HST Number»"), "«GST Number» «GST Number»");
@@ -188,7 +188,7 @@ struct LegacyCase {
     std::string converted;
 };
 
-class LegacyNamesTest : public MergeEngineTest, public testing::WithParamInterface<LegacyCase> {};
+class LegacyNamesTest : public MergeEngineTestWith<LegacyCase> {};
 
 TEST_P(LegacyNamesTest, BringsTheTextUpToDate)
 {
@@ -240,7 +240,7 @@ INSTANTIATE_TEST_SUITE_P(
         LegacyCase{"CustomRemittance6", "«Custom Remitt Field 6»", "«Custom Remitt Field 6»"},
         LegacyCase{"BracketsBeforeNames", "<<(Due Date, Short Date)>>", "«(Task Due Date, dd/mm/yy)»"},
         LegacyCase{"NothingOld", "«Company Name» at 9", "«Company Name» at 9"}, LegacyCase{"Empty", "", ""}),
-    [](const auto& test) { return test.param.name; });
+    rowName);
 
 TEST_F(ConvertProvinceFieldsTest, OldNamesAreBroughtUpToDateBeforeTheRegionRules)
 {
@@ -257,7 +257,7 @@ struct SpellingCase {
     std::string full;
 };
 
-class ProvinceSpellingTest : public MergeEngineTest, public testing::WithParamInterface<SpellingCase> {};
+class ProvinceSpellingTest : public MergeEngineTestWith<SpellingCase> {};
 
 TEST_P(ProvinceSpellingTest, GivesBothForms)
 {
@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(
                      "Northwest Territories"},
         SpellingCase{"Nunavut", {"Nunavut", "nu"}, "NU", "Nunavut"},
         SpellingCase{"Yukon", {"Yukon", "yt"}, "YT", "Yukon"}),
-    [](const auto& test) { return test.param.name; });
+    rowName);
 
 TEST_F(ConvertProvinceFieldsTest, AnUnknownProvinceComesBackAsItIs)
 {
@@ -296,4 +296,4 @@ TEST_F(ConvertProvinceFieldsTest, AnUnknownProvinceComesBackAsItIs)
 }
 
 } // namespace
-} // namespace qncal
+} // namespace qncal::test
