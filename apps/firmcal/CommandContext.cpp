@@ -5,6 +5,7 @@
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 
+#include <filesystem>
 #include <ostream>
 
 namespace qncal::firmcal {
@@ -55,6 +56,8 @@ host::HostEnvironment& CommandContext::host()
         return *host_;
     if (options_.database.empty())
         throw Failure("no database given; use --database FILE or set FIRMCAL_DATABASE");
+    if (!std::filesystem::exists(options_.database))
+        throw Failure("there is no file " + options_.database + "; 'firmcal init' and 'firmcal demo' make databases");
     return host(host::SqliteDatabase::open(options_.database));
 }
 
@@ -69,8 +72,8 @@ host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase
     database_ = database;
     host::HostServices services;
     services.database = database;
-    services.messages = std::make_shared<host::TerminalMessages>(streams_.in, streams_.err,
-                                                                 messageMode(options_, streams_));
+    services.messages =
+        std::make_shared<host::TerminalMessages>(streams_.in, streams_.err, messageMode(options_, streams_));
     services.locale = localeFor(options_, *database);
     host_.reset();
     host_ = std::make_unique<host::HostEnvironment>(std::move(services));

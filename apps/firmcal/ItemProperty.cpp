@@ -35,8 +35,9 @@ Value same(Value value)
 
 ItemProperty text(std::string_view name, const std::string& (Item::*get)() const, void (Item::*set)(std::string))
 {
-    return property(name, "text", get, set, [](std::string_view value) { return std::string(value); },
-                    [](const std::string& value) { return value; });
+    return property(
+        name, "text", get, set, [](std::string_view value) { return std::string(value); },
+        [](const std::string& value) { return value; });
 }
 
 ItemProperty number(std::string_view name, std::int32_t (Item::*get)() const, void (Item::*set)(std::int32_t))
@@ -79,7 +80,7 @@ std::uint8_t readChannels(std::string_view value)
 
 #define QNCAL_PROPERTY(make, name) make(#name, &Item::name, &Item::name)
 
-const std::vector<ItemProperty> properties {
+const std::vector<ItemProperty> properties{
     QNCAL_PROPERTY(text, Subject),
     QNCAL_PROPERTY(day, DateFrom),
     QNCAL_PROPERTY(time, TimeFrom),
@@ -139,7 +140,7 @@ const std::vector<ItemProperty> properties {
 std::size_t editDistance(std::string_view a, std::string_view b)
 {
     std::vector<std::size_t> row(b.size() + 1);
-    std::iota(row.begin(), row.end(), std::size_t {0});
+    std::iota(row.begin(), row.end(), std::size_t{0});
     for (std::size_t i = 0; i < a.size(); ++i) {
         std::size_t diagonal = row[0]++;
         for (std::size_t j = 0; j < b.size(); ++j) {
@@ -157,8 +158,8 @@ std::span<const ItemProperty> itemProperties() { return properties; }
 
 const ItemProperty& itemProperty(std::string_view name)
 {
-    const auto found = std::ranges::find_if(properties,
-                                            [&](const ItemProperty& known) { return equalsNoCase(known.name, name); });
+    const auto found =
+        std::ranges::find_if(properties, [&](const ItemProperty& known) { return equalsNoCase(known.name, name); });
     if (found != properties.end())
         return *found;
     const auto nearest = std::ranges::min_element(

@@ -1,8 +1,8 @@
 #include "firmcal/Program.h"
 
 #include "firmcal/CommandContext.h"
-#include "firmcal/commands.h"
 #include "firmcal/Failure.h"
+#include "firmcal/commands.h"
 #include "utilities/RunTimeError.h"
 
 #include <algorithm>
@@ -18,8 +18,8 @@ constexpr int wrongUsage = 2;
 
 using AddCommands = void (*)(CLI::App&, CommandContext&);
 constexpr AddCommands commandGroups[] = {
-    addInitCommand,   addDemoCommand, addItemCommands, addAgendaCommand,
-    addClientCommands, addUserCommands, addSqlCommand,  addDoctorCommand,
+    addInitCommand,    addDemoCommand,  addItemCommands, addAgendaCommand,
+    addClientCommands, addUserCommands, addSqlCommand,   addDoctorCommand,
 };
 
 void addGlobalOptions(CLI::App& program, GlobalOptions& options)
@@ -39,6 +39,19 @@ void addGlobalOptions(CLI::App& program, GlobalOptions& options)
     program.add_flag("--no", options.no, "Answer every question with no")->excludes(yes);
 }
 
+/// Leaves out which options exclude each other; the parser says so when it matters.
+class HelpFormatter : public CLI::Formatter {
+public:
+    HelpFormatter() { column_width(34); }
+    std::string make_option_opts(const CLI::Option* option) const override
+    {
+        const std::string type = option->get_type_name();
+        const std::string variable = option->get_envname();
+        return (type.empty() || option->get_positional() ? "" : " " + type)
+               + (variable.empty() ? "" : " (or " + variable + ")");
+    }
+};
+
 /// The command that the user was after, for the hint behind a wrong command line.
 std::string commandPath(const CLI::App& program)
 {
@@ -49,6 +62,20 @@ std::string commandPath(const CLI::App& program)
         path += " " + level->get_name();
     }
     return path;
+}
+
+/// What is wrong with a command line, in the words of this program.
+std::string usageText(const CLI::App& program, const CLI::ParseError& error)
+{
+    if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::RequiredError))
+        return error.what();
+    const CLI::App* level = &program;
+    while (!level->get_subcommands().empty())
+        level = level->get_subcommands().front();
+    const std::vector<std::string> unknown = program.remaining(true);
+    if (level->get_require_subcommand_min() == 0)
+        return error.what();
+    return unknown.empty() ? "a command is missing" : "there is no command '" + unknown.front() + "'";
 }
 
 int fail(const Streams& streams, const std::string& text, int status)
@@ -68,7 +95,7 @@ int run(const std::vector<std::string>& arguments, const Streams& streams)
     addGlobalOptions(program, context.options());
     program.fallthrough();
     program.require_subcommand(1);
-    program.get_formatter()->column_width(34);
+    program.formatter(std::make_shared<HelpFormatter>());
     program.footer("Examples:\n"
                    "  firmcal demo firm.db\n"
                    "  firmcal -d firm.db agenda --week\n"
@@ -85,7 +112,7 @@ int run(const std::vector<std::string>& arguments, const Streams& streams)
     } catch (const CLI::Success& help) {
         return program.exit(help, streams.out, streams.err);
     } catch (const CLI::ParseError& error) {
-        return fail(streams, std::string(error.what()) + "; see '" + commandPath(program) + " --help'", wrongUsage);
+        return fail(streams, usageText(program, error) + "; see '" + commandPath(program) + " --help'", wrongUsage);
     } catch (const UsageError& error) {
         return fail(streams, std::string(error.what()) + "; see '" + commandPath(program) + " --help'", wrongUsage);
     } catch (const std::exception& error) {

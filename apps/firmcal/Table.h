@@ -33,7 +33,8 @@ public:
 
 private:
     std::vector<std::size_t> widths(bool withHeaders) const;
-    void printLine(std::ostream& out, const std::vector<std::string>& cells, const std::vector<std::size_t>& widths) const;
+    void printLine(std::ostream& out, const std::vector<std::string>& cells,
+                   const std::vector<std::size_t>& widths) const;
 
     std::vector<Column> columns_;
     std::vector<std::vector<std::string>> rows_;

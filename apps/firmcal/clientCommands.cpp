@@ -1,9 +1,9 @@
 #include "core/schema.h"
-#include "firmcal/clientLookup.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/commands.h"
 #include "firmcal/Failure.h"
 #include "firmcal/Table.h"
+#include "firmcal/clientLookup.h"
+#include "firmcal/commands.h"
 #include "services/Rows.h"
 
 #include <nlohmann/json.hpp>
@@ -40,8 +40,12 @@ void listClients(CommandContext& context, const ListOptions& options)
     if (context.options().json) {
         Json json = Json::array();
         for (const ClientRow& client : clients)
-            json.push_back({{"kind", clientNoun(client.kind)}, {"id", client.id}, {"name", client.name},
-                            {"clientID", client.number}, {"phone", client.phone}, {"email", client.email}});
+            json.push_back({{"kind", clientNoun(client.kind)},
+                            {"id", client.id},
+                            {"name", client.name},
+                            {"clientID", client.number},
+                            {"phone", client.phone},
+                            {"email", client.email}});
         return context.printJson(json);
     }
     if (clients.empty()) {
@@ -66,13 +70,15 @@ std::vector<Link> linksOf(DatabaseService& database, ClientKind kind, std::int32
 {
     const bool company = kind == ClientKind::company;
     const std::string number = std::to_string(id);
-    const std::string sql = company
-        ? "SELECT Contacts.ContactID, Contacts.DisplayName, ContactLinks.DefaultContact FROM Contacts "
-          "INNER JOIN ContactLinks ON Contacts.ContactID = ContactLinks.ContactIDNum WHERE ContactLinks.CompanyNum = "
-            + number + " ORDER BY Contacts.DisplayName;"
-        : "SELECT Companies.CompanyID, Companies.CompanyName, ContactLinks.DefaultContact FROM Companies "
-          "INNER JOIN ContactLinks ON Companies.CompanyID = ContactLinks.CompanyNum WHERE ContactLinks.ContactIDNum = "
-            + number + " ORDER BY Companies.CompanyName;";
+    const std::string sql =
+        company ? "SELECT Contacts.ContactID, Contacts.DisplayName, ContactLinks.DefaultContact FROM Contacts "
+                  "INNER JOIN ContactLinks ON Contacts.ContactID = ContactLinks.ContactIDNum WHERE "
+                  "ContactLinks.CompanyNum = "
+                      + number + " ORDER BY Contacts.DisplayName;"
+                : "SELECT Companies.CompanyID, Companies.CompanyName, ContactLinks.DefaultContact FROM Companies "
+                  "INNER JOIN ContactLinks ON Companies.CompanyID = ContactLinks.CompanyNum WHERE "
+                  "ContactLinks.ContactIDNum = "
+                      + number + " ORDER BY Companies.CompanyName;";
     std::vector<Link> links;
     for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext())
         links.push_back({rows.integer(company ? "ContactID" : "CompanyID"),
@@ -83,7 +89,8 @@ std::vector<Link> linksOf(DatabaseService& database, ClientKind kind, std::int32
 Json fieldValue(const Variant& value)
 {
     if (value.isNumber())
-        return value.toReal() == static_cast<std::int32_t>(value.toReal()) ? Json(value.toInteger()) : Json(value.toReal());
+        return value.toReal() == static_cast<std::int32_t>(value.toReal()) ? Json(value.toInteger())
+                                                                           : Json(value.toReal());
     if (value.isBoolean())
         return value.toBoolean();
     return value.isNull() ? Json() : Json(value.toText());
@@ -100,7 +107,7 @@ void showClient(CommandContext& context, const ShowOptions& options)
                                                           + std::to_string(id) + ";");
     const std::vector<Link> links = linksOf(database, kind, id);
     if (context.options().json) {
-        Json json {{"kind", clientNoun(kind)}};
+        Json json{{"kind", clientNoun(kind)}};
         for (const schema::Column& column : table.columns)
             json[std::string(column.name)] = fieldValue(row.field(column.name));
         Json linked = Json::array();

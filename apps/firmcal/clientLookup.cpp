@@ -20,8 +20,8 @@ struct Columns {
     std::string_view email;
 };
 
-constexpr Columns companyColumns {"Companies", "CompanyID", "CompanyName", "OfficeNumber", "Email"};
-constexpr Columns contactColumns {"Contacts", "ContactID", "DisplayName", "BusinessPhone_Main", "BusinessEmail"};
+constexpr Columns companyColumns{"Companies", "CompanyID", "CompanyName", "OfficeNumber", "Email"};
+constexpr Columns contactColumns{"Contacts", "ContactID", "DisplayName", "BusinessPhone_Main", "BusinessEmail"};
 
 const Columns& columnsOf(ClientKind kind) { return kind == ClientKind::company ? companyColumns : contactColumns; }
 
@@ -41,7 +41,7 @@ std::vector<ClientRow> findClients(DatabaseService& database, ClientKind kind, s
     const Columns& columns = columnsOf(kind);
     const std::string name(columns.name);
     std::string sql = "SELECT " + std::string(columns.key) + ", ClientID, " + name + ", " + std::string(columns.phone)
-        + ", " + std::string(columns.email) + " FROM " + std::string(columns.table);
+                      + ", " + std::string(columns.email) + " FROM " + std::string(columns.table);
     if (!text.empty())
         sql += " WHERE " + name + " LIKE '%" + database.getSQLText(text) + "%'";
     std::vector<ClientRow> clients;
@@ -62,8 +62,8 @@ std::int32_t clientID(CommandContext& context, ClientKind kind, const std::strin
         return id;
     }
     std::vector<ClientRow> found = findClients(host.database(), kind, nameOrID);
-    if (const auto same = std::ranges::find_if(
-            found, [&](const ClientRow& client) { return equalsNoCase(client.name, nameOrID); });
+    if (const auto same =
+            std::ranges::find_if(found, [&](const ClientRow& client) { return equalsNoCase(client.name, nameOrID); });
         same != found.end())
         return same->id;
     if (found.empty())

@@ -1,9 +1,9 @@
 #include "firmcal/itemChanges.h"
 
-#include "firmcal/clientLookup.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Failure.h"
 #include "firmcal/ItemProperty.h"
+#include "firmcal/clientLookup.h"
 #include "firmcal/valueText.h"
 
 namespace qncal::firmcal {
@@ -36,9 +36,11 @@ void addChangeOptions(CLI::App& command, ItemChanges& changes)
     command.add_option("--date", changes.date, "The day: 2026-03-31, tomorrow, monday, +3d")->type_name("DATE");
     command.add_option("--start", changes.start, "When it begins: 9:30")->type_name("TIME");
     CLI::Option* end = command.add_option("--end", changes.end, "When it ends: 10:15")->type_name("TIME");
-    command.add_option("--hours", changes.hours, "How long it takes instead: 1.5, 1:30")->type_name("HOURS")->excludes(end);
-    CLI::Option* company = command.add_option("--company", changes.company, "The client company, by name or number")
-                               ->type_name("COMPANY");
+    command.add_option("--hours", changes.hours, "How long it takes instead: 1.5, 1:30")
+        ->type_name("HOURS")
+        ->excludes(end);
+    CLI::Option* company =
+        command.add_option("--company", changes.company, "The client company, by name or number")->type_name("COMPANY");
     command.add_option("--contact", changes.contact, "The client contact, by name or number")
         ->type_name("CONTACT")
         ->excludes(company);

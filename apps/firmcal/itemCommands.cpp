@@ -1,12 +1,12 @@
 #include "firmcal/itemCommands.h"
 
 #include "firmcal/CommandContext.h"
-#include "firmcal/commands.h"
 #include "firmcal/Failure.h"
-#include "firmcal/itemChanges.h"
-#include "firmcal/itemKind.h"
 #include "firmcal/ItemProperty.h"
 #include "firmcal/Table.h"
+#include "firmcal/commands.h"
+#include "firmcal/itemChanges.h"
+#include "firmcal/itemKind.h"
 #include "firmcal/valueText.h"
 
 #include <nlohmann/json.hpp>
@@ -30,16 +30,9 @@ void addReference(CLI::App& command, ItemReference& reference)
     addKindOption(command, reference.kind);
 }
 
-std::string describe(clsCalendarItem& item)
-{
-    return std::string(kindNoun(item.calendarItemType())) + " " + std::to_string(item.itemID()) + ": "
-        + readableDay(item.DateFrom()) + ", " + timeText(item.TimeFrom()) + "-" + timeText(item.TimeTo()) + ", "
-        + (item.Subject().empty() ? "(no subject)" : item.Subject());
-}
-
 Json itemJson(clsCalendarItem& item)
 {
-    Json json {{"kind", kindWord(item.calendarItemType())}, {"itemID", item.itemID()}};
+    Json json{{"kind", kindWord(item.calendarItemType())}, {"itemID", item.itemID()}};
     for (const ItemProperty& known : itemProperties()) {
         if (known.get)
             json[std::string(known.name)] = known.get(item);
@@ -82,6 +75,7 @@ void setItem(CommandContext& context, const ItemReference& reference, const Item
     save(context, item, "Changed");
 }
 
+/// What is empty, off or none says nothing.
 bool isWorthShowing(const Json& value)
 {
     if (value.is_string())
@@ -113,7 +107,8 @@ void showItem(CommandContext& context, const ItemReference& reference, bool allF
         if (!known.get)
             continue;
         const Json value = known.get(item);
-        if (!allFields && !isWorthShowing(value))
+        const bool isIdle = known.name == "notifiedDate" && item.notifyType() == 0;
+        if (!allFields && (isIdle || !isWorthShowing(value)))
             continue;
         std::string shown = plainText(value);
         const auto withName = [&](const std::string& name) { shown += name.empty() ? "" : "  (" + name + ")"; };
@@ -133,14 +128,18 @@ void listFields(CommandContext& context)
     if (context.options().json) {
         Json fields = Json::array();
         for (const ItemProperty& known : itemProperties())
-            fields.push_back({{"name", known.name}, {"type", known.type}, {"canRead", static_cast<bool>(known.get)},
+            fields.push_back({{"name", known.name},
+                              {"type", known.type},
+                              {"canRead", static_cast<bool>(known.get)},
                               {"canSet", static_cast<bool>(known.set)}});
         return context.printJson(fields);
     }
     Table table({{"Field"}, {"Takes"}, {""}});
     for (const ItemProperty& known : itemProperties())
         table.add({std::string(known.name), std::string(known.type),
-                   !known.set ? "can only be read" : !known.get ? "can only be set" : ""});
+                   !known.set   ? "can only be read"
+                   : !known.get ? "can only be set"
+                                : ""});
     table.print(context.out());
 }
 
@@ -210,6 +209,13 @@ void addArchiveCommand(CLI::App& item, CommandContext& context)
 }
 
 } // namespace
+
+std::string describe(clsCalendarItem& item)
+{
+    return std::string(kindNoun(item.calendarItemType())) + " " + std::to_string(item.itemID()) + ": "
+           + readableDay(item.DateFrom()) + ", " + timeText(item.TimeFrom()) + "-" + timeText(item.TimeTo()) + ", "
+           + (item.Subject().empty() ? "(no subject)" : item.Subject());
+}
 
 void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemType kind, std::int32_t id)
 {

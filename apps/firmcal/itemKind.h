@@ -10,8 +10,8 @@
 
 namespace qncal::firmcal {
 
-inline constexpr std::array allKinds {enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem,
-                                      enumLocalCalendarDocketItem};
+inline constexpr std::array allKinds{enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem,
+                                     enumLocalCalendarDocketItem};
 
 /// "appointment", "task", "docket"; also "time entry" and the first letters. Throws `UsageError` for others.
 enumLocalCalendarItemType readKind(std::string_view text);

@@ -1,10 +1,10 @@
-#include "firmcal/clientLookup.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Failure.h"
+#include "firmcal/Table.h"
+#include "firmcal/clientLookup.h"
 #include "firmcal/itemCommands.h"
 #include "firmcal/itemKind.h"
 #include "firmcal/itemRows.h"
-#include "firmcal/Table.h"
 #include "firmcal/valueText.h"
 
 #include <nlohmann/json.hpp>
@@ -84,8 +84,10 @@ void addListCommand(CLI::App& item, CommandContext& context)
         ->type_name("KIND");
     command->add_option("--from", options->from, "The first day")->type_name("DATE");
     command->add_option("--to", options->to, "The last day")->type_name("DATE");
-    command->add_option("--company", options->company, "Only for this company, by name or number")->type_name("COMPANY");
-    command->add_option("--contact", options->contact, "Only for this contact, by name or number")->type_name("CONTACT");
+    command->add_option("--company", options->company, "Only for this company, by name or number")
+        ->type_name("COMPANY");
+    command->add_option("--contact", options->contact, "Only for this contact, by name or number")
+        ->type_name("CONTACT");
     command->add_option("--subject", options->subject, "Only with this text in the subject")->type_name("TEXT");
     command->add_flag("--archived", options->archived, "The archived tasks instead");
     command->footer("With --user only that user's items.\n"

@@ -41,8 +41,8 @@ void deleteItem(CommandContext& context, enumLocalCalendarItemType kind, std::in
     clsCalendarItem item;
     load(context, item, kind, id);
     const std::string description = describe(item);
-    const std::int16_t answer = context.host().messages().askQuestion(
-        "Delete " + description + "?", MessageDialogService::informationStyle, nullptr);
+    const std::int16_t answer = context.host().messages().askQuestion("Delete " + description + "?",
+                                                                      MessageDialogService::informationStyle, nullptr);
     if (answer != MessageDialogService::answerYes)
         throw Failure("nothing deleted");
     deleteLoaded(context, item);

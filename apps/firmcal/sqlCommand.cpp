@@ -1,6 +1,6 @@
 #include "firmcal/CommandContext.h"
-#include "firmcal/commands.h"
 #include "firmcal/Table.h"
+#include "firmcal/commands.h"
 #include "services/Rows.h"
 #include "store/SqliteDatabase.h"
 
@@ -27,7 +27,7 @@ Json jsonValue(const Variant& value)
         return value.toText();
     const double number = value.toReal();
     return number == static_cast<double>(static_cast<std::int64_t>(number)) ? Json(static_cast<std::int64_t>(number))
-                                                                             : Json(number);
+                                                                            : Json(number);
 }
 
 void printAsJson(CommandContext& context, host::Rows& rows, const std::vector<std::string>& fields)

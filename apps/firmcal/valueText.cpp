@@ -2,9 +2,9 @@
 
 #include "firmcal/Failure.h"
 #include "utilities/Clock.h"
+#include "utilities/Variant.h"
 #include "utilities/dateText.h"
 #include "utilities/text.h"
-#include "utilities/Variant.h"
 
 #include <array>
 #include <charconv>
@@ -16,8 +16,8 @@ namespace qncal::firmcal {
 
 namespace {
 
-constexpr std::array<std::string_view, 7> weekdays {"sunday",   "monday", "tuesday", "wednesday",
-                                                    "thursday", "friday", "saturday"};
+constexpr std::array<std::string_view, 7> weekdays{"sunday",   "monday", "tuesday", "wednesday",
+                                                   "thursday", "friday", "saturday"};
 
 [[noreturn]] void refuse(std::string_view text, std::string_view what, std::string_view accepted)
 {
@@ -27,7 +27,7 @@ constexpr std::array<std::string_view, 7> weekdays {"sunday",   "monday", "tuesd
 template <class Integer>
 std::optional<Integer> wholeNumber(std::string_view text, int base = 10)
 {
-    Integer number {};
+    Integer number{};
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
     if (text.empty() || error != std::errc() || end != text.data() + text.size())
         return std::nullopt;
@@ -114,7 +114,7 @@ bool readBoolean(std::string_view text)
         if (word == no)
             return false;
     }
-    refuse(text, "yes or no", "yes, no, true, false, on, off, 1, 0");
+    throw Failure("'" + std::string(text) + "' is neither yes nor no");
 }
 
 std::int32_t readInteger(std::string_view text)

@@ -1,7 +1,7 @@
 #include "demo/demoClients.h"
 
-#include "demo/demoFirm.h"
 #include "demo/DemoRandom.h"
+#include "demo/demoFirm.h"
 #include "demo/demoWords.h"
 #include "services/HostEnvironment.h"
 #include "services/Rows.h"
@@ -29,14 +29,19 @@ struct Place {
     std::string_view areaCode;
 };
 
-constexpr Place canadianPlaces[] {
-    {0, "Calgary", "Alberta", "T2P 1J9", "403"},       {1, "Victoria", "British Columbia", "V8W 1P6", "250"},
-    {2, "Winnipeg", "Manitoba", "R3C 1S5", "204"},     {3, "Ottawa", "Ontario", "K1P 5M7", "613"},
-    {4, "Regina", "Saskatchewan", "S4P 3Y2", "306"},   {8, "Québec", "Quebec", "G1R 4P5", "418"},
-    {9, "Halifax", "Nova Scotia", "B3J 1S9", "902"},   {10, "Moncton", "New Brunswick", "E1C 1A1", "506"},
-    {11, "St. John's", "Newfoundland", "A1C 1A1", "709"}, {12, "Charlottetown", "Prince Edward Island", "C1A 1A1", "902"},
+constexpr Place canadianPlaces[]{
+    {0, "Calgary", "Alberta", "T2P 1J9", "403"},
+    {1, "Victoria", "British Columbia", "V8W 1P6", "250"},
+    {2, "Winnipeg", "Manitoba", "R3C 1S5", "204"},
+    {3, "Ottawa", "Ontario", "K1P 5M7", "613"},
+    {4, "Regina", "Saskatchewan", "S4P 3Y2", "306"},
+    {8, "Québec", "Quebec", "G1R 4P5", "418"},
+    {9, "Halifax", "Nova Scotia", "B3J 1S9", "902"},
+    {10, "Moncton", "New Brunswick", "E1C 1A1", "506"},
+    {11, "St. John's", "Newfoundland", "A1C 1A1", "709"},
+    {12, "Charlottetown", "Prince Edward Island", "C1A 1A1", "902"},
 };
-constexpr Place americanPlace {-1, "Springfield", "Illinois", "62701", "217"};
+constexpr Place americanPlace{-1, "Springfield", "Illinois", "62701", "217"};
 
 const Place& placeOf(const Locale& locale)
 {
@@ -67,8 +72,8 @@ public:
     {
         for (;;) {
             const bool woman = random_.chance(50);
-            const Person person {std::string(woman ? random_.pick(womensNames) : random_.pick(mensNames)),
-                                 std::string(random_.pick(familyNames))};
+            const Person person{std::string(woman ? random_.pick(womensNames) : random_.pick(mensNames)),
+                                std::string(random_.pick(familyNames))};
             if (used_.insert(person.name()).second)
                 return person;
         }
@@ -77,25 +82,28 @@ public:
     std::string companyName()
     {
         for (;;) {
-            std::string name = std::string(random_.pick(companyFirstWords)) + " " + std::string(random_.pick(companyTrades))
-                + " " + std::string(random_.pick(companyForms));
+            std::string name = std::string(random_.pick(companyFirstWords)) + " "
+                               + std::string(random_.pick(companyTrades)) + " "
+                               + std::string(random_.pick(companyForms));
             if (used_.insert(name).second)
                 return name;
         }
     }
 
     /// The numbers 555-0100 to 555-0199 belong to nobody.
-    std::string phone() { return "(" + std::string(place_.areaCode) + ") 555-01" + std::to_string(random_.between(10, 99)); }
-    std::string street()
+    std::string phone()
     {
-        return std::to_string(random_.between(1, 990)) + " " + std::string(random_.pick(streets));
+        return "(" + std::string(place_.areaCode) + ") 555-01" + std::to_string(random_.between(10, 99));
     }
+    std::string street() { return std::to_string(random_.between(1, 990)) + " " + std::string(random_.pick(streets)); }
     void addAddress(std::vector<FieldText>& fields, std::string_view addressField, std::string_view cityField,
                     std::string_view provinceField, std::string_view postalCodeField, std::string_view countryField)
     {
-        fields.insert(fields.end(), {{addressField, street()}, {cityField, std::string(place_.city)},
+        fields.insert(fields.end(), {{addressField, street()},
+                                     {cityField, std::string(place_.city)},
                                      {provinceField, std::string(place_.province)},
-                                     {postalCodeField, std::string(place_.postalCode)}, {countryField, country_}});
+                                     {postalCodeField, std::string(place_.postalCode)},
+                                     {countryField, country_}});
     }
 
     DemoRandom& random() { return random_; }
@@ -107,11 +115,17 @@ private:
     std::set<std::string> used_;
 };
 
-/// Letters and digits of the first word of each part, without accents, as the name of a mailbox or domain.
+/// Letters and digits without accents, as the name of a mailbox or domain.
 std::string mailName(std::string_view text)
 {
+    constexpr std::pair<std::string_view, char> accented[] = {{"É", 'e'}, {"é", 'e'}, {"ø", 'o'}, {"ó", 'o'}};
+    std::string plain(text);
+    for (const auto& [letter, replacement] : accented) {
+        for (std::size_t place = plain.find(letter); place != std::string::npos; place = plain.find(letter))
+            plain.replace(place, letter.size(), 1, replacement);
+    }
     std::string name;
-    for (const char c : lowerAscii(text)) {
+    for (const char c : lowerAscii(plain)) {
         if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9'))
             name += c;
     }
@@ -120,12 +134,13 @@ std::string mailName(std::string_view text)
 
 std::vector<FieldText> personFields(Inventor& inventor, const Person& person)
 {
-    std::vector<FieldText> fields {{"DisplayName", person.name()},
-                                   {"FirstName", person.first},
-                                   {"LastName", person.last},
-                                   {"BusinessPhone_Main", inventor.phone()},
-                                   {"HomePhone_Main", inventor.phone()},
-                                   {"BusinessEmail", mailName(person.first) + "." + mailName(person.last) + "@example.com"}};
+    std::vector<FieldText> fields{
+        {"DisplayName", person.name()},
+        {"FirstName", person.first},
+        {"LastName", person.last},
+        {"BusinessPhone_Main", inventor.phone()},
+        {"HomePhone_Main", inventor.phone()},
+        {"BusinessEmail", mailName(person.first) + "." + mailName(person.last) + "@example.com"}};
     inventor.addAddress(fields, "HomeAddress", "HomeCity", "HomeProvince", "HomePostalCode", "HomeCountry");
     return fields;
 }
@@ -143,11 +158,11 @@ std::vector<std::int32_t> addEmployees(DatabaseService& database, Inventor& inve
 
 std::vector<FieldText> companyFields(Inventor& inventor, const std::string& name)
 {
-    std::vector<FieldText> fields {{"CompanyName", name},
-                                   {"CorporateName", name},
-                                   {"OfficeNumber", inventor.phone()},
-                                   {"FaxNumber", inventor.phone()},
-                                   {"Email", "info@" + mailName(name) + ".example"}};
+    std::vector<FieldText> fields{{"CompanyName", name},
+                                  {"CorporateName", name},
+                                  {"OfficeNumber", inventor.phone()},
+                                  {"FaxNumber", inventor.phone()},
+                                  {"Email", "info@" + mailName(name) + ".example"}};
     inventor.addAddress(fields, "Address", "City", "Province", "PostalCode", "Country");
     return fields;
 }
@@ -213,7 +228,8 @@ void linkContacts(DatabaseService& database, const DemoPeople& people)
         const std::int32_t companyID = people.companies[i % people.companies.size()];
         const bool isDefault = i < people.companies.size();
         addRow(database, "ContactLinks",
-               {{"ContactIDNum", std::to_string(people.contacts[i])}, {"CompanyNum", std::to_string(companyID)},
+               {{"ContactIDNum", std::to_string(people.contacts[i])},
+                {"CompanyNum", std::to_string(companyID)},
                 {"DefaultContact", booleanText(isDefault)}});
         if (isDefault)
             copyDefaultContact(database, companyID, people.contacts[i]);

@@ -1,8 +1,8 @@
 #include "services/ClientDropDown.h"
 
-#include "services/personNames.h"
 #include "services/Rows.h"
 #include "services/WindowRegistry.h"
+#include "services/personNames.h"
 #include "utilities/text.h"
 
 #include <algorithm>
@@ -26,9 +26,9 @@ std::vector<UserEntry> ClientDropDown::getUsers()
     if (users_ || !database_->isConnected())
         return users_.value_or(std::vector<UserEntry>());
     std::vector<UserEntry> users;
-    for (Rows rows = Rows::read(*database_,
-                                "SELECT AccountantEmployeeInfo.ContactID, AccountantEmployeeInfo.DisplayName "
-                                "FROM AccountantEmployeeInfo ORDER BY AccountantEmployeeInfo.DisplayName;");
+    for (Rows rows =
+             Rows::read(*database_, "SELECT AccountantEmployeeInfo.ContactID, AccountantEmployeeInfo.DisplayName "
+                                    "FROM AccountantEmployeeInfo ORDER BY AccountantEmployeeInfo.DisplayName;");
          !rows.atEnd(); rows.moveNext())
         users.push_back({rows.integer("ContactID"), rows.text("DisplayName")});
     users_ = users;

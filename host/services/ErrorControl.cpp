@@ -32,7 +32,7 @@ ErrorPolicy askOnError(std::istream& in, std::ostream& out)
     };
 }
 
-ErrorControl::ErrorControl(ErrorPolicy policy) : policy_(std::move(policy)) { }
+ErrorControl::ErrorControl(ErrorPolicy policy) : policy_(std::move(policy)) {}
 
 void ErrorControl::logTo(std::ostream* log)
 {

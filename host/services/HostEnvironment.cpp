@@ -14,7 +14,7 @@ namespace qncal::host {
 namespace {
 
 /// The reference properties without the classes that carry them.
-struct References : HostReferences { };
+struct References : HostReferences {};
 
 HostServices completed(HostServices services)
 {
@@ -36,7 +36,7 @@ HostServices completed(HostServices services)
 } // namespace
 
 HostEnvironment::HostEnvironment(const std::string& databaseFile)
-    : HostEnvironment(HostServices {.database = SqliteDatabase::open(databaseFile)})
+    : HostEnvironment(HostServices{.database = SqliteDatabase::open(databaseFile)})
 {
 }
 

@@ -13,13 +13,13 @@ namespace qncal::host {
 /// The services that a host hands to the component. Whatever is left out is filled with this library's own.
 struct HostServices {
     /// The one service without a default.
-    std::shared_ptr<DatabaseService> database;
-    std::shared_ptr<ErrorControl> errors;
+    std::shared_ptr<DatabaseService> database = {};
+    std::shared_ptr<ErrorControl> errors = {};
     /// By default messages go to standard error and every question is answered No.
-    std::shared_ptr<MessageDialogService> messages;
-    std::shared_ptr<Locale> locale;
-    std::shared_ptr<ClientDropDown> clients;
-    std::shared_ptr<AutoNotifyService> notifications;
+    std::shared_ptr<MessageDialogService> messages = {};
+    std::shared_ptr<Locale> locale = {};
+    std::shared_ptr<ClientDropDown> clients = {};
+    std::shared_ptr<AutoNotifyService> notifications = {};
 };
 
 /// A host around the component: while it lives, the component on this thread works with its services.

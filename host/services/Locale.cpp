@@ -46,7 +46,7 @@ std::optional<Province> provinceFromText(std::string_view text)
 {
     return findProvince([&](const Province& province) {
         return equalsNoCase(text, province.letters) || equalsNoCase(text, province.name)
-            || text == std::to_string(province.code);
+               || text == std::to_string(province.code);
     });
 }
 
@@ -69,7 +69,8 @@ void storeRegion(DatabaseService& database, const Locale::Values& values)
     // A new row keeps the defaults of the date stamp, which hold as long as there is none.
     if (Rows::read(database, settingsRow).isEmpty())
         addRow(database, "GlobalGeneralSettings",
-               {{"DateStampShowTime", booleanText(true)}, {"DateStampShowName", booleanText(true)},
+               {{"DateStampShowTime", booleanText(true)},
+                {"DateStampShowName", booleanText(true)},
                 {"DateStampShowNameOptions", "1"}});
     Rows rows = Rows::change(database, settingsRow);
     rows.set("CountryCode", std::to_string(values.country));

@@ -20,7 +20,7 @@ public:
     };
 
     Locale() = default;
-    explicit Locale(Values values) : values_(std::move(values)) { }
+    explicit Locale(Values values) : values_(std::move(values)) {}
 
     const Values& values() const { return values_; }
     Values& values() { return values_; }

@@ -30,7 +30,7 @@ std::string_view itemField(std::int16_t kind)
 std::string rowByKey(std::int32_t notificationID)
 {
     return "SELECT ClientNotification.* FROM ClientNotification WHERE " + std::string(keyField) + "="
-        + std::to_string(notificationID) + ";";
+           + std::to_string(notificationID) + ";";
 }
 
 } // namespace
@@ -42,10 +42,10 @@ bool NotificationRows::notificationExists(std::int16_t kind, std::int32_t itemID
 
 std::int32_t NotificationRows::getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
 {
-    const Rows rows = Rows::read(*database_,
-                                 "SELECT ClientNotification.ClientNotificationID FROM ClientNotification WHERE "
-                                     + std::string(itemField(kind)) + "=" + std::to_string(itemID) + " AND "
-                                     + std::string(channelField) + "=" + std::to_string(channel) + ";");
+    const Rows rows =
+        Rows::read(*database_, "SELECT ClientNotification.ClientNotificationID FROM ClientNotification WHERE "
+                                   + std::string(itemField(kind)) + "=" + std::to_string(itemID) + " AND "
+                                   + std::string(channelField) + "=" + std::to_string(channel) + ";");
     return rows.isEmpty() ? -1 : rows.integer(keyField);
 }
 
@@ -112,8 +112,10 @@ void NotificationRows::deleteNotification(std::int32_t notificationID)
 std::int32_t NotificationRows::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
 {
     return addRow(*database_, "ClientNotification",
-                  {{itemField(kind), std::to_string(itemID)}, {channelField, std::to_string(channel)},
-                   {dateField, defaultDateText(date)}, {"NotificationSent", booleanText(false)}});
+                  {{itemField(kind), std::to_string(itemID)},
+                   {channelField, std::to_string(channel)},
+                   {dateField, defaultDateText(date)},
+                   {"NotificationSent", booleanText(false)}});
 }
 
 void NotificationRows::set(std::int32_t notificationID, std::string_view field, const std::string& value)

@@ -14,7 +14,7 @@ namespace qncal::host {
 /// An id without a row changes nothing.
 class NotificationRows : public AutoNotifyService {
 public:
-    explicit NotificationRows(std::shared_ptr<DatabaseService> database) : database_(std::move(database)) { }
+    explicit NotificationRows(std::shared_ptr<DatabaseService> database) : database_(std::move(database)) {}
 
     /// Raised with the item's kind when the notifications of that kind are to be shown anew.
     Event<std::int16_t> refreshed;

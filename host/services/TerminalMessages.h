@@ -15,13 +15,13 @@ namespace qncal::host {
 class TerminalMessages : public MessageDialogService {
 public:
     enum class Mode : std::uint8_t {
-        ask, ///< somebody sits at the terminal
-        yes, ///< every question is answered Yes
-        no, ///< every question is answered No
+        ask,        ///< somebody sits at the terminal
+        yes,        ///< every question is answered Yes
+        no,         ///< every question is answered No
         unattended, ///< nobody is there: No, and a line that says so
     };
 
-    TerminalMessages(std::istream& in, std::ostream& out, Mode mode) : in_(in), out_(out), mode_(mode) { }
+    TerminalMessages(std::istream& in, std::ostream& out, Mode mode) : in_(in), out_(out), mode_(mode) {}
 
     void setMode(Mode mode) { mode_ = mode; }
     /// Answers one later question: `answerYes` or `answerNo`. Scripted answers are used up in order.

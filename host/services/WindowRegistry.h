@@ -19,7 +19,7 @@ public:
 private:
     class Entry : public FormRegistryEntry {
     public:
-        explicit Entry(std::int32_t key) : key_(key) { }
+        explicit Entry(std::int32_t key) : key_(key) {}
         std::int32_t key() const override { return key_; }
         void key(std::int32_t key) override { key_ = key; }
         std::shared_ptr<Form> form() const override { return form_; }

@@ -11,10 +11,10 @@ namespace qncal::host {
 namespace {
 
 enum class When : std::uint8_t {
-    fixed, ///< month, day
-    nthWeekday, ///< month, weekday, n
+    fixed,         ///< month, day
+    nthWeekday,    ///< month, weekday, n
     weekdayBefore, ///< the last such weekday before month, day
-    easter, ///< days from Easter Sunday
+    easter,        ///< days from Easter Sunday
 };
 
 /// On a weekend: whether another day is taken off for a holiday of fixed date.
@@ -24,7 +24,7 @@ struct Rule {
     std::string_view name;
     When when;
     int month = 0;
-    int day = 0; ///< the day of the month, or the offset from Easter
+    int day = 0;     ///< the day of the month, or the offset from Easter
     int weekday = 0; ///< 1 Sunday to 7 Saturday
     int n = 0;
     std::string_view regions = {}; ///< the letters of provinces or states; empty for all
@@ -120,8 +120,8 @@ constexpr Rule americanRules[]{
 
 bool appliesTo(const Rule& rule, int year, std::string_view region)
 {
-    const bool inRegion
-        = rule.regions.empty() || (region.size() == 2 && rule.regions.find(region) != std::string_view::npos);
+    const bool inRegion =
+        rule.regions.empty() || (region.size() == 2 && rule.regions.find(region) != std::string_view::npos);
     return inRegion && year >= rule.firstYear && year <= rule.lastYear;
 }
 
@@ -162,8 +162,8 @@ Date dayOffInstead(Date date, std::int32_t country, const std::vector<StatutoryH
 /// All that belongs to a year by name, also when the day taken off lies in the year before.
 std::vector<StatutoryHoliday> holidaysNamedIn(int year, std::int32_t country, std::string_view region)
 {
-    const std::span<const Rule> rules = country == LocaleService::canada ? std::span<const Rule>(canadianRules)
-                                                                         : std::span<const Rule>(americanRules);
+    const std::span<const Rule> rules =
+        country == LocaleService::canada ? std::span<const Rule>(canadianRules) : std::span<const Rule>(americanRules);
     std::vector<StatutoryHoliday> holidays;
     std::vector<StatutoryHoliday> moving;
     for (const Rule& rule : rules) {

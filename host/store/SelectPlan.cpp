@@ -26,6 +26,16 @@ SelectPlan::SelectPlan(Parts parts, SqliteConnection& connection)
         allKeys_ = connection_.prepareToKeep(allKeysText());
 }
 
+std::vector<std::string> SelectPlan::fieldNames() const
+{
+    std::vector<std::string> names;
+    for (std::size_t column = 0; column < unique_.size(); ++column) {
+        const std::string& qualified = parts_.qualifiedNames.name(column);
+        names.push_back(unique_[column] || qualified.empty() ? parts_.columnNames.name(column) : qualified);
+    }
+    return names;
+}
+
 std::optional<std::size_t> SelectPlan::findColumn(std::string_view name) const
 {
     if (const auto place = parts_.columnNames.find(name))

@@ -63,6 +63,7 @@ public:
     bool isUnique(std::size_t column) const { return unique_[column]; }
     /// True when a column of a table stands in the set more than once.
     bool hasTwins() const { return hasTwins_; }
+    std::vector<std::string> fieldNames() const;
 
     /// The statements. Each comes with the literals bound; parameters of its own follow at `ownParameter`.
     /// The first record's columns and its key, in key order.

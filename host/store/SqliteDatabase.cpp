@@ -96,6 +96,8 @@ StoreEngine& SqliteDatabase::engine() const
 
 const StoreStatistics& SqliteDatabase::statistics() const { return engine().statistics(); }
 
+std::vector<std::string> SqliteDatabase::fieldNames(std::int32_t handle) { return cursor(handle).fieldNames(); }
+
 bool SqliteDatabase::isConnected() { return engine_ != nullptr; }
 
 void SqliteDatabase::flush() { engine().writes().flush(); }

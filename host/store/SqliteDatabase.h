@@ -8,6 +8,7 @@
 #include <memory>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace qncal::host {
 
@@ -49,6 +50,9 @@ public:
     /// For quiet moments: writes the log back into the database file.
     void idle();
     const StoreStatistics& statistics() const;
+    /// The names by which `getField` knows the fields of a record set, in their order. A name that an earlier
+    /// field has comes with its table, as in "Companies.CompanyID".
+    std::vector<std::string> fieldNames(std::int32_t handle);
 
     bool isConnected() override;
     std::int32_t openRecordset(std::string_view sql, std::int32_t cursor, std::int32_t lock, bool showError,

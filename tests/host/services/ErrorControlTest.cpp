@@ -1,7 +1,7 @@
 #include "services/ErrorControl.h"
 
-#include "core/routineScope.h"
 #include "core/ServiceRegistry.h"
+#include "core/routineScope.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 
@@ -75,10 +75,9 @@ TEST_F(ErrorControlTest, LogsTheStackInnermostFirst)
     std::ostringstream log;
     errors->logTo(&log);
     routine("Vestrel.exe-test-outer", [&] { succeedsAfter(1); });
-    EXPECT_EQ(log.str(),
-              "2026-03-02 09:15:00 error 13: Type mismatch\n"
-              "    in Vestrel.exe-test-inner\n"
-              "    in Vestrel.exe-test-outer\n");
+    EXPECT_EQ(log.str(), "2026-03-02 09:15:00 error 13: Type mismatch\n"
+                         "    in Vestrel.exe-test-inner\n"
+                         "    in Vestrel.exe-test-outer\n");
 }
 
 TEST_F(ErrorControlTest, LogsToTheEndOfAFile)

@@ -1,6 +1,6 @@
 #include "services/Locale.h"
 
-#include <gtest/gtest.h>
+#include "host/services/HostTest.h"
 
 namespace qncal::host {
 namespace {
@@ -37,6 +37,39 @@ TEST(Locale, ReadsProvinces)
         EXPECT_FALSE(provinceFromText(text)) << text;
     EXPECT_EQ(provinceFromCode(11)->letters, "NL");
     EXPECT_FALSE(provinceFromCode(7));
+}
+
+class RegionTest : public test::HostTest {};
+
+TEST_F(RegionTest, IsTheDefaultAsLongAsNothingIsStored)
+{
+    Locale::Values values;
+    readRegion(*database, values);
+    EXPECT_EQ(values.country, LocaleService::canada);
+    EXPECT_EQ(values.province, 3);
+}
+
+TEST_F(RegionTest, IsReadAsItWasStored)
+{
+    storeRegion(*database, {.country = LocaleService::canada, .province = 8});
+    storeRegion(*database, {.country = LocaleService::unitedStates, .province = 9});
+    Locale::Values values;
+    readRegion(*database, values);
+    EXPECT_EQ(values.country, LocaleService::unitedStates);
+    EXPECT_EQ(values.province, 9);
+    const Rows rows = Rows::read(*database, "SELECT GlobalGeneralSettings.* FROM GlobalGeneralSettings;");
+    EXPECT_EQ(rows.count(), 1);
+    EXPECT_TRUE(rows.boolean("DateStampShowTime")) << "the date stamp keeps its defaults";
+    EXPECT_TRUE(rows.boolean("DateStampShowName"));
+}
+
+TEST_F(RegionTest, NullLeavesTheValueAsItWas)
+{
+    addRow(*database, "GlobalGeneralSettings", {{"CountryCode", "2"}});
+    Locale::Values values{.province = 11};
+    readRegion(*database, values);
+    EXPECT_EQ(values.country, LocaleService::unitedStates);
+    EXPECT_EQ(values.province, 11);
 }
 
 } // namespace

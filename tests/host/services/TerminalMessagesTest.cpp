@@ -12,7 +12,7 @@ constexpr std::int16_t yes = MessageDialogService::answerYes;
 constexpr std::int16_t no = MessageDialogService::answerNo;
 
 struct Terminal {
-    explicit Terminal(Mode mode, const std::string& input = {}) : in(input), messages(in, out, mode) { }
+    explicit Terminal(Mode mode, const std::string& input = {}) : in(input), messages(in, out, mode) {}
     std::int16_t ask() { return service.askQuestion("Sure?", 3, nullptr); }
 
     std::istringstream in;
@@ -36,7 +36,7 @@ struct Answer {
     const char* output;
 };
 
-class TerminalAnswerTest : public testing::TestWithParam<Answer> { };
+class TerminalAnswerTest : public testing::TestWithParam<Answer> {};
 
 TEST_P(TerminalAnswerTest, AnswersTheQuestion)
 {

@@ -11,7 +11,7 @@ struct Case {
     const char* expected;
 };
 
-class ContactAndSpouseNameTest : public testing::TestWithParam<Case> { };
+class ContactAndSpouseNameTest : public testing::TestWithParam<Case> {};
 
 TEST_P(ContactAndSpouseNameTest, Composes) { EXPECT_EQ(contactAndSpouseName(GetParam().names), GetParam().expected); }
 

@@ -32,7 +32,7 @@ struct Case {
     const char* date;
 };
 
-class StatutoryHolidayTest : public testing::TestWithParam<Case> { };
+class StatutoryHolidayTest : public testing::TestWithParam<Case> {};
 
 TEST_P(StatutoryHolidayTest, FallsOnItsKnownDate)
 {
@@ -96,9 +96,9 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(StatutoryHolidays, EasterOfKnownYears)
 {
-    const std::pair<int, const char*> known[]
-        = {{1954, "1954-04-18"}, {1961, "1961-04-02"}, {2000, "2000-04-23"}, {2008, "2008-03-23"},
-           {2024, "2024-03-31"}, {2026, "2026-04-05"}, {2038, "2038-04-25"}, {2285, "2285-03-22"}};
+    const std::pair<int, const char*> known[] = {{1954, "1954-04-18"}, {1961, "1961-04-02"}, {2000, "2000-04-23"},
+                                                 {2008, "2008-03-23"}, {2024, "2024-03-31"}, {2026, "2026-04-05"},
+                                                 {2038, "2038-04-25"}, {2285, "2285-03-22"}};
     for (const auto& [year, date] : known)
         EXPECT_EQ(defaultDateText(easterSunday(year)), date);
 }
