@@ -65,12 +65,26 @@ struct World {
     ~World() { serviceRegistry() = {}; }
 };
 
-constexpr std::array<std::string_view, 20> fields{
-    "Appointment Name",      "Appointment Start Time", "Appointment End Time",  "Time Duration",
-    "Company Name",          "Client ID",              "Corporate Name",        "Industry Type",
-    "Address",               "City",                   "Province",              "Postal Code",
-    "Country",               "Office Number",          "Email",                 "Contact Display Name",
-    "Contact Business Phone", "Contact Business Email", "Supervising Partner",  "Your Company Name"};
+constexpr std::array<std::string_view, 20> fields{"Appointment Name",
+                                                  "Appointment Start Time",
+                                                  "Appointment End Time",
+                                                  "Time Duration",
+                                                  "Company Name",
+                                                  "Client ID",
+                                                  "Corporate Name",
+                                                  "Industry Type",
+                                                  "Address",
+                                                  "City",
+                                                  "Province",
+                                                  "Postal Code",
+                                                  "Country",
+                                                  "Office Number",
+                                                  "Email",
+                                                  "Contact Display Name",
+                                                  "Contact Business Phone",
+                                                  "Contact Business Email",
+                                                  "Supervising Partner",
+                                                  "Your Company Name"};
 
 std::string variableName(std::string_view field)
 {
