@@ -66,7 +66,13 @@ const test::TestWorld::Values fullRow = {
 
 class clsCalendarItemStorageTest : public test::ComponentTest {
 protected:
-    clsCalendarItemStorageTest() { serviceRegistry().database = recording; }
+    clsCalendarItemStorageTest()
+    {
+        // Templates without fields: rendering them asks the database for nothing.
+        addRow("UserCalendarSettings",
+               {{"UserIDNum", "-1"}, {"ApptTemplate", "text"}, {"TaskTemplate", "text"}, {"DocketTemplate", "text"}});
+        serviceRegistry().database = recording;
+    }
 
     /// The templates are loaded by then, so that the record holds what the routine under test does.
     void startRecording()
@@ -197,16 +203,48 @@ TEST_P(clsCalendarItemKindTest, SavesEveryColumnInTheOrderOfSaving)
     ASSERT_TRUE(item.loadCalendarItem());
     startRecording();
     ASSERT_TRUE(item.saveCalendarItem());
-    std::vector<std::string> expected = {
-        "UserIDNum=2", "CompanyIDNum=5", "ContactIDNum=-1", "ScheduleTypeIDNum=3", "ScheduleIDNum=4",
-        "CompanyProjectStepIDNum=6", "CommunicationLogIDNum=8", "SeriesNum=9", "RecurAnnually=True", "RepeatNum=12",
-        "UserGroupNum=13", "Subject=Budget", "DateFrom=2026-04-02", "TimeFrom=11:00:00", "TimeTo=12:30:00",
-        "BeforeAppointmentText=before", "AppointmentText=" + item.appointmentText(), "AfterAppointmentText=after",
-        "TextBody={\\rtf1 notes}", "TitleText=" + item.TitleText(), "SchemeID=21", "TitleBackColour=101",
-        "TitleForeColour=102", "BackColour=103", "ForeColour=104", "Remind=True", "ReminderPeriod=1 Hr",
-        "Private=True", "hideInTasks=True", "Custom1=c1", "Custom2=c2", "Custom3=c3", "Custom4=c4", "Custom5=c5",
-        "Status1=True", "Status2=False", "Status3=True", "Status4=False", "Status5=True",
-        "AppointmentText=" + item.appointmentText(), "TitleText=" + item.TitleText(), "notifyType=5"};
+    std::vector<std::string> expected = {"UserIDNum=2",
+                                         "CompanyIDNum=5",
+                                         "ContactIDNum=-1",
+                                         "ScheduleTypeIDNum=3",
+                                         "ScheduleIDNum=4",
+                                         "CompanyProjectStepIDNum=6",
+                                         "CommunicationLogIDNum=8",
+                                         "SeriesNum=9",
+                                         "RecurAnnually=True",
+                                         "RepeatNum=12",
+                                         "UserGroupNum=13",
+                                         "Subject=Budget",
+                                         "DateFrom=2026-04-02",
+                                         "TimeFrom=11:00:00",
+                                         "TimeTo=12:30:00",
+                                         "BeforeAppointmentText=before",
+                                         "AppointmentText=" + item.appointmentText(),
+                                         "AfterAppointmentText=after",
+                                         "TextBody={\\rtf1 notes}",
+                                         "TitleText=" + item.TitleText(),
+                                         "SchemeID=21",
+                                         "TitleBackColour=101",
+                                         "TitleForeColour=102",
+                                         "BackColour=103",
+                                         "ForeColour=104",
+                                         "Remind=True",
+                                         "ReminderPeriod=1 Hr",
+                                         "Private=True",
+                                         "hideInTasks=True",
+                                         "Custom1=c1",
+                                         "Custom2=c2",
+                                         "Custom3=c3",
+                                         "Custom4=c4",
+                                         "Custom5=c5",
+                                         "Status1=True",
+                                         "Status2=False",
+                                         "Status3=True",
+                                         "Status4=False",
+                                         "Status5=True",
+                                         "AppointmentText=" + item.appointmentText(),
+                                         "TitleText=" + item.TitleText(),
+                                         "notifyType=5"};
     if (kind != enumLocalCalendarTaskItem)
         std::erase(expected, "SeriesNum=9");
     recording->written.resize(std::min(recording->written.size(), expected.size())); // reminders may follow
@@ -237,7 +275,9 @@ TEST_P(clsCalendarItemKindTest, DeletesTheRowWithItsNotifications)
 {
     const auto& [kind, table, key] = GetParam();
     const std::int32_t id = addRow(table, {});
-    addRow("ClientNotification", {{table == "Appointments" ? "AppointmentNum" : table == "Tasks" ? "TaskNum" : "DocketNum",
+    addRow("ClientNotification", {{table == "Appointments" ? "AppointmentNum"
+                                   : table == "Tasks"      ? "TaskNum"
+                                                           : "DocketNum",
                                    std::to_string(id)},
                                   {"NotificationSent", "True"}});
     useKind(kind);
@@ -363,8 +403,8 @@ TEST_F(clsCalendarItemStorageTest, OpensItsRowItselfWhenTheCallersSetLacksIt)
     const std::int32_t first = addRow("Appointments", {{"Subject", "first"}});
     const std::int32_t second = addRow("Appointments", {{"Subject", "second"}});
     useKind(enumLocalCalendarAppointmentItem);
-    auto rst = RecordSet::openReadOnly("SELECT Appointments.* FROM Appointments WHERE AppointmentID="
-                                       + std::to_string(first) + ";");
+    auto rst = RecordSet::openReadOnly(
+        "SELECT Appointments.* FROM Appointments WHERE AppointmentID=" + std::to_string(first) + ";");
     item.itemID(second);
     ASSERT_TRUE(item.loadCalendarItem(rst.handle()));
     EXPECT_EQ(item.Subject(), "second");
@@ -412,7 +452,8 @@ TEST_F(clsCalendarItemStorageTest, SavingAVanishedRowAddsANewOne)
     ASSERT_TRUE(item.saveCalendarItem());
     EXPECT_NE(item.itemID(), 17);
     EXPECT_EQ(rowCount("Appointments"), 1);
-    EXPECT_EQ(recording->openedSql()[0], "SELECT Appointments.* FROM Appointments WHERE Appointments.AppointmentID=17;");
+    EXPECT_EQ(recording->openedSql()[0],
+              "SELECT Appointments.* FROM Appointments WHERE Appointments.AppointmentID=17;");
     EXPECT_EQ(recording->openedSql()[1], "SELECT Appointments.* FROM Appointments;");
     EXPECT_TRUE(recording->open.empty());
 }
@@ -502,9 +543,8 @@ TEST_F(clsCalendarItemStorageTest, AnArchivedTaskIsWrittenToTheArchivedTable)
     startRecording();
     item.Subject("changed");
     ASSERT_TRUE(item.saveCalendarItem());
-    EXPECT_EQ(recording->openedSql().front(),
-              "SELECT archivedTasks.* FROM archivedTasks WHERE archivedTasks.oldTaskID=" + std::to_string(item.itemID())
-                  + ";");
+    EXPECT_EQ(recording->openedSql().front(), "SELECT archivedTasks.* FROM archivedTasks WHERE archivedTasks.oldTaskID="
+                                                  + std::to_string(item.itemID()) + ";");
     EXPECT_EQ(cell("archivedTasks", item.itemID(), "Subject"), "changed");
     EXPECT_EQ(rowCount("archivedTasks"), 1);
     EXPECT_EQ(rowCount("Tasks"), 0);
@@ -604,8 +644,9 @@ TEST_F(clsCalendarItemStorageTest, DeletingTakesAllRemindersAlong)
     item.itemID(id);
     EXPECT_TRUE(item.deleteCalendarItem());
     EXPECT_EQ(rowCount("Reminders"), 1);
-    EXPECT_EQ(recording->openedSql()[1], "SELECT Reminders.TaskIDNum, Reminders.Completed FROM Reminders WHERE TaskIDNum = "
-                                             + std::to_string(id) + ";");
+    EXPECT_EQ(recording->openedSql()[1],
+              "SELECT Reminders.TaskIDNum, Reminders.Completed FROM Reminders WHERE TaskIDNum = " + std::to_string(id)
+                  + ";");
     EXPECT_EQ(recording->openedSql()[2],
               "SELECT ClientNotification.TaskNum, ClientNotification.NotificationSent FROM ClientNotification WHERE "
               "TaskNum = "
