@@ -310,7 +310,7 @@ private:
     std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
                                   bool withCompany);
     std::unique_ptr<clsInsertFieldsInRTB> newMergeEngine() const;
-    void mergeFromItem(clsInsertFieldsInRTB& engine, std::string& text);
+    std::string mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine);
     std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;
 
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);
