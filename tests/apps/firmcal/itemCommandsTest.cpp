@@ -49,7 +49,6 @@ TEST_F(ItemCommandsTest, AddsWithDateTimesClientAndOwner)
     EXPECT_EQ(added["userIDNum"], 1);
     EXPECT_EQ(added["Custom1"], "Slips");
     EXPECT_EQ(added["Status1"], true);
-    EXPECT_EQ(added["notifiedDate"], "2026-03-05") << "the day before the item, as for a new one";
 }
 
 TEST_F(ItemCommandsTest, TheSignedInUserOwnsANewItem)
@@ -84,6 +83,13 @@ TEST_F(ItemCommandsTest, ANewStartKeepsTheLength)
               "Changed appointment 1: Tue, Mar 3, 2026, 14:15-14:45, Call\n");
     EXPECT_EQ(output({"item", "set", "1", "--end", "16:00"}),
               "Changed appointment 1: Tue, Mar 3, 2026, 14:15-16:00, Call\n");
+}
+
+TEST_F(ItemCommandsTest, ChangesWhatDoesNotMarkTheItemDirty)
+{
+    succeed({"item", "add", "Call", "--contact", "1"});
+    succeed({"item", "set", "1", "--set", "Notified_ByEmail=yes", "--set", "Notified_ByPhone=yes"});
+    EXPECT_EQ(item("1")["notifyType"], 5);
 }
 
 TEST_F(ItemCommandsTest, ListsTheFieldsWithWhatTheyTake)
