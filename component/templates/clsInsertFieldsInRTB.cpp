@@ -2,15 +2,13 @@
 
 #include "core/routineScope.h"
 #include "templates/dateFormatKeywords.h"
+#include "templates/delimiters.h"
 #include "templates/mergeFieldCodes.h"
 #include "utilities/RunTimeError.h"
 
 namespace qncal {
 
 namespace {
-
-constexpr std::string_view openDelimiter = "«";
-constexpr std::string_view closeDelimiter = "»";
 
 /// What stands for a field in a template: its name, or a date expression that the user can edit further.
 std::string fieldExpression(const FieldListRow& row)
@@ -21,7 +19,7 @@ std::string fieldExpression(const FieldListRow& row)
 
 std::string inDelimiters(std::string_view expression)
 {
-    return std::string(openDelimiter).append(expression).append(closeDelimiter);
+    return std::string(plainDelimiters.open).append(expression).append(plainDelimiters.close);
 }
 
 std::int32_t caretPosition(const RichTextTarget* rtb)
@@ -49,9 +47,8 @@ void clsInsertFieldsInRTB::MergeFieldListUse(std::int32_t use)
 
 void clsInsertFieldsInRTB::resetAllItemIDs()
 {
-    routine("Vestrel.exe-clsInsertFieldsInRTB-resetAllItemIDs", [this] {
-        companyID_ = contactID_ = firmID_ = userID_ = appointmentID_ = docketId_ = taskID_ = -1;
-    });
+    routine("Vestrel.exe-clsInsertFieldsInRTB-resetAllItemIDs",
+            [this] { companyID_ = contactID_ = firmID_ = userID_ = appointmentID_ = docketId_ = taskID_ = -1; });
 }
 
 void clsInsertFieldsInRTB::Terminate()

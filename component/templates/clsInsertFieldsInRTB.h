@@ -180,16 +180,22 @@ public:
     std::string createDisplayTextByID2();
     std::string createTitleBarTextByID2();
 
+    // --- Inside the component ---
+
+    /// Both passes of the merge with values of the caller's own: « and » first, the rich form where that has
+    /// replaced nothing.
+    void mergeFields(std::string& text, const FieldValueSource& valueOf);
+
 private:
     /// The catalogue, or run-time error 91 after `Terminate`.
     FieldListCollection& fieldList() const;
     void addBlocksOfListType(FieldListCollection& list, bool noListBox);
     void addBlock(FieldListCollection& list, MergeFieldBlock block, bool noListBox);
-    /// Both passes of the merge: « and » first, the rich form where that replaced nothing.
-    void mergeFields(std::string& text, const FieldValueSource& valueOf);
     void buildListForIDs();
     bool showsContactForCompany() const;
 
+    /// The firm's template from a settings column with the kind's prefix, merged when the item has an id.
+    std::string mergeFirmTemplate(std::string_view settingsColumn, std::string_view defaultTemplate);
     MergeRecordSets& recordSets();
     MergeItemIDs itemIDs() const;
     /// The raw value of the current catalogue row's field, empty when its item has no id or no record.

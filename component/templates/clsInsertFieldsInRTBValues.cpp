@@ -6,20 +6,14 @@
 #include "core/ServiceRegistry.h"
 #include "core/routineScope.h"
 #include "templates/mergeValueText.h"
+#include "templates/richTextReplacement.h"
 #include "utilities/Clock.h"
 #include "utilities/dateText.h"
-#include "utilities/replaceText.h"
 #include "utilities/text.h"
 
 #include <cstdlib>
 
 namespace qncal {
-
-namespace {
-
-constexpr std::string_view lineBreak = "\r\n";
-
-} // namespace
 
 std::string clsInsertFieldsInRTB::getDataFieldInfo(std::int32_t key, const std::string& format)
 {
@@ -96,10 +90,8 @@ std::string clsInsertFieldsInRTB::getTimeDurationFieldValue(Date timeFrom, Date 
 
 std::string clsInsertFieldsInRTB::convertToRTF(std::string value)
 {
-    return routine("Vestrel.exe-clsInsertFieldsInRTB-convertToRTF", std::string(), [&] {
-        replaceNoCase(value, lineBreak, useWordWrap_ ? "\\par \r\n" : ", \r\n");
-        return std::move(value);
-    });
+    return routine("Vestrel.exe-clsInsertFieldsInRTB-convertToRTF", std::string(),
+                   [&] { return withParagraphMarks(std::move(value), useWordWrap_); });
 }
 
 } // namespace qncal

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "templates/delimiters.h"
 #include "utilities/ComposedText.h"
 #include "utilities/replaceText.h"
 
@@ -16,8 +17,8 @@ struct FieldRenaming {
 };
 
 /// A field in a plain template, and in a rich-text stream.
-constexpr ComposedText plainField(std::string_view name) { return {"«", name, "»"}; }
-constexpr ComposedText richField(std::string_view name) { return {"\\'ab", name, "\\'bb"}; }
+constexpr ComposedText plainField(std::string_view name) { return {plainDelimiters.open, name, plainDelimiters.close}; }
+constexpr ComposedText richField(std::string_view name) { return {richDelimiters.open, name, richDelimiters.close}; }
 
 /// Applies the lines in order, each to every occurrence and without regard to case.
 inline void renameFields(std::string& text, std::span<const FieldRenaming> lines)

@@ -20,16 +20,16 @@ constexpr FieldRenaming rich(std::string_view oldName, std::string_view newName)
 /// The beginning of a date expression, up to its format.
 constexpr FieldRenaming plainStart(std::string_view oldName, std::string_view newName)
 {
-    return {{"«(", oldName}, {"«(", newName}};
+    return {{plainDelimiters.open, "(", oldName}, {plainDelimiters.open, "(", newName}};
 }
 constexpr FieldRenaming richStart(std::string_view oldName, std::string_view newName)
 {
-    return {{"\\'ab(", oldName}, {"\\'ab(", newName}};
+    return {{richDelimiters.open, "(", oldName}, {richDelimiters.open, "(", newName}};
 }
 
 constexpr auto renamings = std::to_array<FieldRenaming>({
-    anywhere("<<", "«"),
-    anywhere(">>", "»"),
+    anywhere("<<", plainDelimiters.open),
+    anywhere(">>", plainDelimiters.close),
     plainStart("Due Date", "Task Due Date"),
     richStart("Due Date", "Task Due Date"),
     plainStart("in-House Due Date", "Task in-House Due Date"),

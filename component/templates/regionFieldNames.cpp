@@ -111,7 +111,10 @@ struct CorpTaxField {
     std::string_view word;
     ComposedText expression;
 };
-constexpr CorpTaxField corpTaxField(std::string_view word) { return {word, {"«", word, " Corp. Tax Number»"}}; }
+constexpr CorpTaxField corpTaxField(std::string_view word)
+{
+    return {word, {plainDelimiters.open, word, " Corp. Tax Number", plainDelimiters.close}};
+}
 constexpr std::array<CorpTaxField, 10> corpTaxFields{{
     corpTaxField("ON"),
     corpTaxField("BC"),

@@ -13,4 +13,10 @@ bool replaceInRichText(std::string& text, std::string_view wanted, std::string_v
     return replaceNoCase(text, wanted, blank ? " " + std::string(replacement) : std::string(replacement));
 }
 
+std::string withParagraphMarks(std::string value, bool wordWrap)
+{
+    replaceNoCase(value, "\r\n", wordWrap ? "\\par \r\n" : ", \r\n");
+    return value;
+}
+
 } // namespace qncal

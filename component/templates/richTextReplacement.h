@@ -13,4 +13,7 @@ constexpr bool needsBlankAfter(char before) { return before != ' '; }
 /// whether a blank goes before the replacement. False when there is no occurrence.
 bool replaceInRichText(std::string& text, std::string_view wanted, std::string_view replacement);
 
+/// A value's line breaks as paragraph marks of rich text, or without word wrap as commas; both keep the break.
+std::string withParagraphMarks(std::string value, bool wordWrap);
+
 } // namespace qncal

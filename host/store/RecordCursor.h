@@ -1,14 +1,14 @@
 #pragma once
 
-#include "store/PlaceList.h"
+#include "store/LazyPlaces.h"
+#include "store/NewRecord.h"
 #include "store/Row.h"
-#include "store/SelectPlan.h"
-#include "store/StoreStatistics.h"
-#include "store/dialect/shape.h"
 #include "utilities/Variant.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,7 +21,7 @@ namespace qncal::host {
 /// reached the engine before a call.
 class RecordCursor {
 public:
-    void open(std::shared_ptr<SelectPlan> plan, const dialect::ShapedText& text, bool updatable,
+    void open(std::shared_ptr<SelectPlan> plan, const dialect::Literals& literals, bool updatable,
               StoreStatistics& statistics);
     void close();
 
@@ -35,9 +35,9 @@ public:
     bool find(std::string_view field, std::string_view value);
 
     Variant field(std::string_view name);
-    std::vector<std::string> fieldNames() const { return plan_->fieldNames(); }
+    std::vector<std::string> fieldNames() const { return plan().fieldNames(); }
 
-    /// A write to a record of the database that the store may put off; its value stands in the current row.
+    /// A write to a record of the database that may be put off; its value stands in the current row.
     struct Write {
         StoreTable* table = nullptr;
         std::int64_t key = 0;
@@ -51,7 +51,7 @@ public:
     /// The copy counts as fresh again: its own write was the last.
     void acceptOwnWrite() { rowVersion_ = version(); }
 
-    bool isAdding() const { return adding_; }
+    bool isAdding() const { return newRecord_.isOpen(); }
     void beginRecord();
     void setNewField(std::string_view name, std::string_view value);
     void storeRecord();
@@ -60,48 +60,42 @@ public:
 private:
     static constexpr std::ptrdiff_t beforeFirst = -1;
 
-    const PlanColumn& columnOf(std::size_t place) const { return plan_->parts().columns[place]; }
+    SelectPlan& plan() const { return places_.plan(); }
+    bool isByKey() const { return plan().parts().byKey; }
     std::size_t requireColumn(std::string_view name);
+    const PlanColumn& requireTableColumn(std::string_view name, std::size_t& place);
     std::uint64_t version() const;
     void requireUpdatable() const;
 
     void start();
     void settle();
-    bool hasPlace(std::size_t index);
-    void loadMore();
-    void loadAll();
-    void noteDeletions();
-    bool isAtPlace() const { return index_ >= 0 && static_cast<std::size_t>(index_) < places_.size(); }
+    std::size_t index() const { return static_cast<std::size_t>(index_); }
+    bool isAtRecord() { return places_.list().isLive(index()) && readRow(); }
     void leaveRow();
     bool readRow();
+    bool isRowFresh() const { return rowLoaded_ && (!isByKey() || rowVersion_ == version()); }
     void requireRow();
-    bool findByWalk(std::size_t column, const StoredValue& value);
-    Variant newField(std::size_t place) const;
+    StoredValue value(std::size_t place) const;
+    void putIntoRow(std::size_t place, const StoredValue& value);
+    bool findPlace(std::size_t column, const StoredValue& wanted);
+    bool findByWalk(std::size_t column, const StoredValue& wanted);
 
-    std::shared_ptr<SelectPlan> plan_;
-    dialect::ShapedText text_;
+    LazyPlaces places_;
     StoreStatistics* statistics_ = nullptr;
     bool updatable_ = false;
 
-    PlaceList places_;
-    bool started_ = false;  ///< the first record has been looked for
-    bool complete_ = false; ///< all places are known
-    std::ptrdiff_t index_ = 0;
-    /// A current record that was found or added, whose place is not known yet.
-    bool detached_ = false;
-    std::vector<std::int64_t> detachedKeys_;
-    std::size_t deletionsSeen_ = 0;
+    std::ptrdiff_t index_ = 0; ///< of the current place; the number of places when past the last
+    /// The keys of a current record that was found or added, while its place is not known yet.
+    std::vector<std::int64_t> unplacedKeys_;
+    bool isUnplaced_ = false;
 
     Row row_;
     std::vector<std::int64_t> rowKeys_;
     bool rowLoaded_ = false;
     std::uint64_t rowVersion_ = 0;
-    std::vector<Row> copies_; ///< all records, when the plan is not by key
     std::size_t lastColumn_ = 0;
 
-    bool adding_ = false;
-    Row newRow_; ///< by table column
-    std::vector<bool> newSet_;
+    NewRecord newRecord_;
     std::string buffer_;
 };
 

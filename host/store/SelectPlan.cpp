@@ -2,16 +2,21 @@
 
 #include "store/dateStorage.h"
 
+#include <set>
 #include <utility>
 
 namespace qncal::host {
 
 SelectPlan::SelectPlan(Parts parts, SqliteConnection& connection)
-    : parts_(std::move(parts)), connection_(connection), finds_(parts_.columns.size()),
-      boundTexts_(parts_.bindings.size())
+    : parts_(std::move(parts)), connection_(connection), findFirst_(parts_.columns.size()),
+      findAll_(parts_.columns.size()), boundTexts_(parts_.bindings.size())
 {
     for (std::size_t column = 0; column < parts_.columns.size(); ++column)
         unique_.push_back(parts_.columnNames.find(parts_.columnNames.name(column)) == column);
+    std::set<std::pair<std::size_t, std::uint16_t>> seen;
+    for (const PlanColumn& column : parts_.columns)
+        if (column.table != PlanColumn::computed && !seen.emplace(column.table, column.column).second)
+            hasTwins_ = true;
     // Whatever the engine has to say against the statement is said when it is opened.
     if (!parts_.byKey)
         allRecords_ = connection_.prepareToKeep(allRecordsText());
@@ -124,13 +129,13 @@ std::string SelectPlan::countText() const
            + std::to_string(*parts_.top) + ")";
 }
 
-void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::ShapedText& text)
+void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::Literals& literals)
 {
     using dialect::Literal;
     const int last = statement.parameterCount();
     for (std::size_t i = 0; i < parts_.bindings.size() && static_cast<int>(i) < last; ++i) {
         const LiteralBinding& binding = parts_.bindings[i];
-        const Literal& literal = text.literal(binding.literal);
+        const Literal& literal = literals[binding.literal];
         const int index = static_cast<int>(i) + 1;
         const double real = (literal.kind == Literal::Kind::real ? literal.real : static_cast<double>(literal.integer))
                             * (binding.negative ? -1 : 1);
@@ -157,47 +162,57 @@ void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::ShapedT
 }
 
 SqliteStatement& SelectPlan::ready(SqliteStatement& statement, std::string (SelectPlan::*text)() const,
-                                   const dialect::ShapedText& values)
+                                   const dialect::Literals& literals)
 {
     if (!statement)
         statement = connection_.prepareToKeep((this->*text)());
-    bindLiterals(statement, values);
+    bindLiterals(statement, literals);
     return statement;
 }
 
-SqliteStatement& SelectPlan::firstRecord(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::firstRecord(const dialect::Literals& literals)
 {
-    return ready(firstRecord_, &SelectPlan::firstRecordText, text);
+    return ready(firstRecord_, &SelectPlan::firstRecordText, literals);
 }
-SqliteStatement& SelectPlan::moreKeys(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::moreKeys(const dialect::Literals& literals)
 {
-    return ready(moreKeys_, &SelectPlan::moreKeysText, text);
+    return ready(moreKeys_, &SelectPlan::moreKeysText, literals);
 }
-SqliteStatement& SelectPlan::allKeys(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::allKeys(const dialect::Literals& literals)
 {
-    return ready(allKeys_, &SelectPlan::allKeysText, text);
+    return ready(allKeys_, &SelectPlan::allKeysText, literals);
 }
-SqliteStatement& SelectPlan::record(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::record(const dialect::Literals& literals)
 {
-    return ready(record_, &SelectPlan::recordText, text);
+    return ready(record_, &SelectPlan::recordText, literals);
 }
-SqliteStatement& SelectPlan::allRecords(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::allRecords(const dialect::Literals& literals)
 {
-    return ready(allRecords_, &SelectPlan::allRecordsText, text);
+    return ready(allRecords_, &SelectPlan::allRecordsText, literals);
 }
-SqliteStatement& SelectPlan::count(const dialect::ShapedText& text)
+SqliteStatement& SelectPlan::count(const dialect::Literals& literals)
 {
-    return ready(count_, &SelectPlan::countText, text);
+    return ready(count_, &SelectPlan::countText, literals);
 }
 
-SqliteStatement& SelectPlan::find(const dialect::ShapedText& text, std::size_t column)
+SqliteStatement& SelectPlan::findFirst(const dialect::Literals& literals, std::size_t column)
 {
-    SqliteStatement& statement = finds_[column];
+    SqliteStatement& statement = findFirst_[column];
     if (!statement)
         statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from
                                               + whereClause(parts_.columns[column].sql + " = " + own(0)) + orderClause()
                                               + " LIMIT 1");
-    bindLiterals(statement, text);
+    bindLiterals(statement, literals);
+    return statement;
+}
+
+SqliteStatement& SelectPlan::findAll(const dialect::Literals& literals, std::size_t column)
+{
+    SqliteStatement& statement = findAll_[column];
+    if (!statement)
+        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from + " WHERE "
+                                              + parts_.columns[column].sql + " = " + own(0));
+    bindLiterals(statement, literals);
     return statement;
 }
 

@@ -61,30 +61,34 @@ public:
     std::optional<std::size_t> findColumn(std::string_view name) const;
     /// False when an earlier column has the same name.
     bool isUnique(std::size_t column) const { return unique_[column]; }
+    /// True when a column of a table stands in the set more than once.
+    bool hasTwins() const { return hasTwins_; }
     std::vector<std::string> fieldNames() const;
 
     /// The statements. Each comes with the literals bound; parameters of its own follow at `ownParameter`.
     /// The first record's columns and its key, in key order.
-    SqliteStatement& firstRecord(const dialect::ShapedText& text);
+    SqliteStatement& firstRecord(const dialect::Literals& literals);
     /// The next keys after one (own parameter 0), in key order.
-    SqliteStatement& moreKeys(const dialect::ShapedText& text);
+    SqliteStatement& moreKeys(const dialect::Literals& literals);
     /// The keys of all records in their order.
-    SqliteStatement& allKeys(const dialect::ShapedText& text);
+    SqliteStatement& allKeys(const dialect::Literals& literals);
     /// One record's columns by its keys (own parameters), followed by the keys that are still there.
-    SqliteStatement& record(const dialect::ShapedText& text);
+    SqliteStatement& record(const dialect::Literals& literals);
     /// All records' columns in their order.
-    SqliteStatement& allRecords(const dialect::ShapedText& text);
-    SqliteStatement& count(const dialect::ShapedText& text);
-    /// The keys of the first record whose column equals own parameter 0.
-    SqliteStatement& find(const dialect::ShapedText& text, std::size_t column);
+    SqliteStatement& allRecords(const dialect::Literals& literals);
+    SqliteStatement& count(const dialect::Literals& literals);
+    /// The key of the first record whose column equals own parameter 0, in key order.
+    SqliteStatement& findFirst(const dialect::Literals& literals, std::size_t column);
+    /// The keys of all records of the table whose column equals own parameter 0, whether or not they are in the set.
+    SqliteStatement& findAll(const dialect::Literals& literals, std::size_t column);
 
     int ownParameter(int place) const { return static_cast<int>(parts_.bindings.size()) + 1 + place; }
     static constexpr int blockSize = 256;
 
 private:
     SqliteStatement& ready(SqliteStatement& statement, std::string (SelectPlan::*text)() const,
-                           const dialect::ShapedText& values);
-    void bindLiterals(SqliteStatement& statement, const dialect::ShapedText& text);
+                           const dialect::Literals& literals);
+    void bindLiterals(SqliteStatement& statement, const dialect::Literals& literals);
     std::string own(int place) const { return "?" + std::to_string(ownParameter(place)); }
     std::string keyOf(std::size_t table) const;
     std::string keys() const;
@@ -102,8 +106,9 @@ private:
     SqliteConnection& connection_;
     SqliteStatement firstRecord_, moreKeys_, allKeys_, record_, allRecords_, count_;
     std::vector<bool> unique_;
-    std::vector<SqliteStatement> finds_;  ///< by column
-    std::vector<std::string> boundTexts_; ///< dates and times as bound, until the next binding
+    bool hasTwins_ = false;
+    std::vector<SqliteStatement> findFirst_, findAll_; ///< by column
+    std::vector<std::string> boundTexts_;              ///< dates and times as bound, until the next binding
 };
 
 } // namespace qncal::host

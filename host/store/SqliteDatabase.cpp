@@ -5,6 +5,8 @@
 #include "store/dialect/LikePattern.h"
 #include "store/storeError.h"
 
+#include <filesystem>
+#include <system_error>
 #include <utility>
 
 namespace qncal::host {
@@ -13,12 +15,43 @@ namespace {
 
 using Access = SqliteConnection::Access;
 
+constexpr const char* inMemory = ":memory:";
+
+/// What the engine would only call unable to open.
+void requirePlace(const std::string& path, Access access)
+{
+    const std::filesystem::path file(path);
+    const std::filesystem::path folder = file.parent_path();
+    std::error_code ignored;
+    if (!folder.empty() && !std::filesystem::is_directory(folder, ignored))
+        throw RunTimeError(storeError::cannotOpen, "There is no folder \"" + folder.string() + "\"");
+    if (access == Access::readWrite && !std::filesystem::exists(file, ignored))
+        throw RunTimeError(storeError::cannotOpen, "There is no such file");
+    if (std::filesystem::is_directory(file, ignored))
+        throw RunTimeError(storeError::cannotOpen, "It is a folder");
+}
+
 std::unique_ptr<StoreEngine> openEngine(const std::string& path, Access access, const SqliteDatabase::Options& options)
 {
     try {
-        return std::make_unique<StoreEngine>(path, access, options.tables, options.version, options.busyTimeout);
+        if (path != inMemory)
+            requirePlace(path, access);
+        return std::make_unique<StoreEngine>(path, access, options.tables, options.version,
+                                             StoreEngine::Limits{options.busyTimeout, options.largestFile});
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.number(), "Cannot open the database \"" + path + "\". " + error.what());
+    }
+}
+
+/// Whoever is told of an error finds all writes before it in the database.
+template <class Operation>
+auto orFlush(StoreEngine& engine, Operation&& operation)
+{
+    try {
+        return operation();
+    } catch (const RunTimeError&) {
+        engine.writes().flush();
+        throw;
     }
 }
 
@@ -47,7 +80,7 @@ std::unique_ptr<SqliteDatabase> SqliteDatabase::create(const std::string& path, 
 
 std::unique_ptr<SqliteDatabase> SqliteDatabase::openInMemory(const Options& options)
 {
-    return create(":memory:", options);
+    return create(inMemory, options);
 }
 
 std::unique_ptr<SqliteDatabase> SqliteDatabase::open(const std::string& path) { return open(path, Options{}); }
@@ -100,6 +133,17 @@ RecordCursor& SqliteDatabase::settledCursor(std::int32_t handle)
     return found;
 }
 
+/// The record set of an operation on its current record. Its own buffered writes may go on waiting: its copy of the
+/// record holds them.
+RecordCursor& SqliteDatabase::ownSettledCursor(std::int32_t handle)
+{
+    RecordCursor& found = cursor(handle);
+    WriteBuffer& writes = engine_->writes();
+    if (!writes.isEmpty() && !writes.isOf(found))
+        writes.flush();
+    return found;
+}
+
 std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, std::int32_t lock, bool,
                                            std::string_view, bool)
 {
@@ -107,7 +151,7 @@ std::int32_t SqliteDatabase::openRecordset(std::string_view sql, std::int32_t, s
     store.writes().flush();
     auto plan = store.plan(sql);
     const auto [handle, opened] = store.handles().open();
-    opened.open(std::move(plan), store.text(), lock != readOnly, store.statistics());
+    opened.open(std::move(plan), store.literals(), lock != readOnly, store.statistics());
     return handle;
 }
 
@@ -118,24 +162,30 @@ void SqliteDatabase::closeRecordset(std::int32_t handle)
     const RecordCursor* const closing = engine_->handles().find(handle);
     if (!closing)
         return;
+    const bool isWriter = engine_->writes().isOf(*closing);
+    if (isWriter)
+        flushToClose(handle);
+    engine_->handles().close(handle);
+    engine_->recordSetClosed();
+    if (!isWriter)
+        engine_->writes().flush();
+}
+
+/// A first failure leaves the record set open, so that closing can be tried again. A second one ends it all the
+/// same: a handle that cannot be closed would stand in the way of everything else.
+void SqliteDatabase::flushToClose(std::int32_t handle)
+{
     WriteBuffer& writes = engine_->writes();
-    if (writes.isOf(*closing)) {
-        // A first failure leaves the record set open, so that closing can be tried again. A second one ends it:
-        // a handle that cannot be closed would stand in the way of everything else.
-        const bool lastAttempt = writes.hasFailed();
-        try {
-            writes.flush();
-        } catch (const RunTimeError&) {
-            if (!lastAttempt && !writes.isEmpty())
-                throw;
+    const bool isLastAttempt = writes.hasFailed();
+    try {
+        writes.flush();
+    } catch (const RunTimeError&) {
+        if (isLastAttempt || writes.isEmpty()) {
             writes.discard();
             engine_->handles().close(handle);
-            throw;
         }
+        throw;
     }
-    engine_->handles().close(handle);
-    if (engine_->handles().openCount() == 0)
-        engine_->forgetDeletions();
 }
 
 bool SqliteDatabase::isRecordsetOpen(std::int32_t handle) { return engine_ && engine_->handles().find(handle); }
@@ -168,28 +218,21 @@ bool SqliteDatabase::findRecord(std::int32_t handle, std::string_view fieldName,
 
 Variant SqliteDatabase::getField(std::int32_t handle, std::string_view fieldName)
 {
-    RecordCursor& found = cursor(handle);
-    // The writer's own copy of the record holds what it wrote.
-    WriteBuffer& writes = engine_->writes();
-    if (!writes.isEmpty() && !writes.isOf(found))
-        writes.flush();
-    return found.field(fieldName);
+    RecordCursor& found = ownSettledCursor(handle);
+    return orFlush(*engine_, [&] { return found.field(fieldName); });
 }
 
 bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldName, std::string_view value, bool, bool,
                                    bool)
 {
-    RecordCursor& found = cursor(handle);
-    if (found.isAdding()) {
-        found.setNewField(fieldName, value);
-        return true;
-    }
-    WriteBuffer& writes = engine_->writes();
-    if (!writes.isEmpty() && !writes.isOf(found))
-        writes.flush();
-    const RecordCursor::Write write = found.writeField(fieldName, value);
-    if (write.changes)
-        writes.add(found, write);
+    RecordCursor& found = ownSettledCursor(handle);
+    orFlush(*engine_, [&] {
+        if (found.isAdding()) {
+            found.setNewField(fieldName, value);
+        } else if (const RecordCursor::Write write = found.writeField(fieldName, value); write.changes) {
+            engine_->writes().add(found, write);
+        }
+    });
     return true;
 }
 

@@ -27,7 +27,8 @@ public:
     struct Options {
         std::span<const schema::Table> tables = schema::tables();
         std::int32_t version = schema::version;
-        int busyTimeout = 5000; ///< milliseconds to wait for another process
+        int busyTimeout = 5000;       ///< milliseconds to wait for another process
+        std::int64_t largestFile = 0; ///< bytes that the file may grow to; 0 for as many as the disk holds
     };
 
     /// Each throws `RunTimeError` that names the file: when it is missing (open), is no database, is of a newer
@@ -84,6 +85,8 @@ private:
     StoreEngine& engine() const;
     RecordCursor& cursor(std::int32_t handle);
     RecordCursor& settledCursor(std::int32_t handle);
+    RecordCursor& ownSettledCursor(std::int32_t handle);
+    void flushToClose(std::int32_t handle);
 
     std::unique_ptr<StoreEngine> engine_; ///< none once closed
 };

@@ -4,6 +4,7 @@
 #include "store/dialect/LikePattern.h"
 #include "store/dialect/Parser.h"
 #include "store/planSelect.h"
+#include "store/storeError.h"
 
 #include <sqlite3.h>
 
@@ -15,6 +16,8 @@ namespace {
 
 /// Texts that differ in more than their literals are few; lists of IN may make many shapes.
 constexpr std::size_t mostPlans = 512;
+/// The log is written back in quiet moments; when none comes, a busy program does it at this length (64 MiB).
+constexpr int mostLogPages = 16384;
 
 std::string_view textArgument(sqlite3_value* value)
 {
@@ -46,9 +49,16 @@ void likeFunction(sqlite3_context* context, int, sqlite3_value** arguments)
 }
 
 SqliteConnection openConnection(const std::string& path, SqliteConnection::Access access,
-                                std::span<const schema::Table> tables, std::int32_t version, int busyTimeout)
+                                std::span<const schema::Table> tables, std::int32_t version,
+                                const StoreEngine::Limits& limits)
 {
-    SqliteConnection connection(path, access, busyTimeout);
+    SqliteConnection connection(path, access, limits.busyTimeout);
+    if (sqlite3_db_readonly(connection.raw(), "main") == 1)
+        throw RunTimeError(storeError::readOnly, "The file is read-only");
+    if (limits.largestFile > 0) {
+        const std::int64_t pages = limits.largestFile / connection.queryInteger("PRAGMA page_size");
+        connection.execute("PRAGMA max_page_count = " + std::to_string(pages));
+    }
     sqlite3_create_function(connection.raw(), "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC, nullptr, likeFunction,
                             nullptr, nullptr);
     prepareSchema(connection, tables, version);
@@ -61,9 +71,17 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 } // namespace
 
 StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
-                         std::span<const schema::Table> tables, std::int32_t version, int busyTimeout)
-    : connection_(openConnection(path, access, tables, version, busyTimeout)), catalogue_(tables, connection_)
+                         std::span<const schema::Table> tables, std::int32_t version, const Limits& limits)
+    : connection_(openConnection(path, access, tables, version, limits)), logPages_(std::make_unique<int>(0)),
+      catalogue_(tables, connection_)
 {
+    sqlite3_wal_hook(
+        connection_.raw(),
+        [](void* pages, sqlite3*, const char*, int count) {
+            *static_cast<int*>(pages) = count;
+            return SQLITE_OK;
+        },
+        logPages_.get());
 }
 
 std::shared_ptr<SelectPlan> StoreEngine::plan(std::string_view sql)
@@ -84,19 +102,30 @@ std::shared_ptr<SelectPlan> StoreEngine::plan(std::string_view sql)
 
 void StoreEngine::checkpoint()
 {
+    // Failure is no harm: the log stays and is written back another time.
     sqlite3_wal_checkpoint_v2(connection_.raw(), nullptr, SQLITE_CHECKPOINT_PASSIVE, nullptr, nullptr);
+    *logPages_ = 0;
 }
 
-void StoreEngine::forgetDeletions()
+void StoreEngine::recordSetClosed()
 {
+    if (*logPages_ > mostLogPages)
+        checkpoint();
+    if (handles_.openCount() > 0)
+        return;
+    // With no record set open nobody needs to hear of the records deleted so far.
     for (const auto& table : catalogue_.tables())
         table->forgetDeletions();
 }
 
 void StoreEngine::finish()
 {
-    for (const auto& table : catalogue_.tables())
-        table->returnKeys();
+    try {
+        for (const auto& table : catalogue_.tables())
+            table->returnKeys();
+    } catch (const RunTimeError&) {
+        // Keys that nobody used are lost, as a caller's abandoned ones are.
+    }
     checkpoint();
 }
 

@@ -34,10 +34,24 @@ void readDate(std::string_view sql, const Token& token, Literal& literal)
 
 } // namespace
 
+Literal& Literals::append()
+{
+    if (count_ == list_.size())
+        list_.emplace_back();
+    return list_[count_++];
+}
+
+void Literals::assign(const Literals& other)
+{
+    clear();
+    for (std::size_t i = 0; i < other.size(); ++i)
+        append() = other[i];
+}
+
 void ShapedText::read(std::string_view sql)
 {
     shape_.clear();
-    count_ = 0;
+    literals_.clear();
     Lexer lexer(sql);
     for (Token token = lexer.next(); token.kind != TokenKind::end; token = lexer.next()) {
         if (!token.isLiteral()) {
@@ -45,9 +59,7 @@ void ShapedText::read(std::string_view sql)
             shape_ += ' ';
             continue;
         }
-        if (count_ == literals_.size())
-            literals_.emplace_back();
-        Literal& literal = literals_[count_++];
+        Literal& literal = literals_.append();
         // The kind of a literal is part of the shape, its value is not.
         if (token.kind == TokenKind::number) {
             readNumber(sql, token, literal);

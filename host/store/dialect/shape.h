@@ -19,6 +19,22 @@ struct Literal {
     std::string text;
 };
 
+/// The literals of an SQL text in their order. Keeps the memory of longer lists for the next text.
+class Literals {
+public:
+    void clear() { count_ = 0; }
+    Literal& append();
+    /// Copies without giving memory back.
+    void assign(const Literals& other);
+
+    std::size_t size() const { return count_; }
+    const Literal& operator[](std::size_t index) const { return list_[index]; }
+
+private:
+    std::vector<Literal> list_; ///< the first `count_` hold
+    std::size_t count_ = 0;
+};
+
 /// An SQL text taken apart into its shape, which is the text with every literal and all spacing made alike, and
 /// the values of its literals. One shape is parsed and prepared once, whatever the values.
 class ShapedText {
@@ -27,13 +43,11 @@ public:
     void read(std::string_view sql);
 
     const std::string& shape() const { return shape_; }
-    std::size_t literalCount() const { return count_; }
-    const Literal& literal(std::size_t index) const { return literals_[index]; }
+    const Literals& literals() const { return literals_; }
 
 private:
     std::string shape_;
-    std::vector<Literal> literals_; ///< the first `count_` hold; the others keep their memory for the next text
-    std::size_t count_ = 0;
+    Literals literals_;
 };
 
 } // namespace qncal::host::dialect

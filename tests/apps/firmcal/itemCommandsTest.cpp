@@ -95,9 +95,8 @@ TEST_F(ItemCommandsTest, ChangesWhatDoesNotMarkTheItemDirty)
 TEST_F(ItemCommandsTest, ListsTheFieldsWithWhatTheyTake)
 {
     const std::string fields = output({"item", "fields"});
-    EXPECT_NE(fields.find("\nSubject                text\n"), std::string::npos) << fields;
-    EXPECT_NE(fields.find("\nNotified_ByFax         yes/no"), std::string::npos) << fields;
-    EXPECT_NE(fields.find("can only be read"), std::string::npos) << fields;
+    for (const char* part : {"\nSubject ", "\nNotified_ByFax ", " can only be read\n", " can only be set\n"})
+        EXPECT_NE(fields.find(part), std::string::npos) << part << fields;
 }
 
 TEST_F(ItemCommandsTest, ShowsWhatIsWorthShowing)

@@ -1,5 +1,7 @@
 #include "utilities/replaceText.h"
 
+#include "support/rowName.h"
+
 #include <gtest/gtest.h>
 
 namespace qncal {
@@ -35,7 +37,7 @@ INSTANTIATE_TEST_SUITE_P(Texts, ReplaceNoCaseTest,
                                          Replacement{"NoOccurrence", "abc", "abd", "x", "abc"},
                                          Replacement{"LongerThanTheText", "ab", "abc", "x", "ab"},
                                          Replacement{"EmptyWanted", "ab", "", "x", "ab"}),
-                         [](const auto& test) { return test.param.name; });
+                         test::rowName);
 
 TEST(FindNoCase, StartsAtThePosition)
 {
