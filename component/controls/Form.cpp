@@ -45,8 +45,10 @@ void Form::focus(Control* control)
 void Form::showModal()
 {
     const auto host = dialogHost();
-    if (!host)
+    if (!host) {
+        closeByUser();
         return;
+    }
     visible_ = modal_ = true;
     host->showModal(*this);
     visible_ = modal_ = false;

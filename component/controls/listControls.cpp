@@ -1,6 +1,8 @@
 #include "controls/listControls.h"
 
+#include "utilities/codePoints.h"
 #include "utilities/text.h"
+#include "utilities/utf8.h"
 
 #include <algorithm>
 
@@ -72,12 +74,14 @@ void ComboBox::text(std::string text)
         listIndex(row == rows().end() ? -1 : static_cast<std::int32_t>(row - rows().begin()));
         return;
     }
+    selLength_ = 0;
     if (store(text_, std::move(text)))
         raise(Change);
 }
 
 void ComboBox::autoComplete(std::string typed)
 {
+    const auto typedLength = static_cast<std::int32_t>(countCodePoints(typed));
     for (std::int32_t index = 0; index < listCount() && !typed.empty(); ++index) {
         const std::string& row = rows()[static_cast<std::size_t>(index)].text;
         if (row.size() < typed.size() || !equalsNoCase(std::string_view(row).substr(0, typed.size()), typed))
@@ -85,9 +89,31 @@ void ComboBox::autoComplete(std::string typed)
         if (row.size() == typed.size())
             listIndex(index);
         text(row);
+        select(typedLength, static_cast<std::int32_t>(countCodePoints(row)) - typedLength);
         return;
     }
     text(std::move(typed));
+    select(typedLength, 0);
+}
+
+void ComboBox::autoCompleteKey(std::int32_t& keyAscii)
+{
+    constexpr std::int32_t firstPrintable = 32;
+    if (keyAscii < firstPrintable)
+        return;
+    std::string typed = text_;
+    if (selLength_ > 0)
+        typed = truncatedToCodePoints(text_, static_cast<std::size_t>(selStart_));
+    appendUtf8(typed, static_cast<char32_t>(keyAscii));
+    keyAscii = 0;
+    autoComplete(std::move(typed));
+}
+
+void ComboBox::select(std::int32_t start, std::int32_t length)
+{
+    selStart_ = start;
+    selLength_ = length;
+    updated.raise();
 }
 
 void ComboBox::rowSelected()

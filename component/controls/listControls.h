@@ -70,8 +70,15 @@ public:
     bool isEditable() const { return editable_; }
     void editable(bool editable) { store(editable_, editable); }
     /// What the user typed: the text is completed from the first row that begins with it, without regard to
-    /// case; the row is not selected until the typed text is all of it.
+    /// case, and the completion is marked as selected, so that the next key replaces it. The row itself is not
+    /// selected until the typed text is all of it.
     void autoComplete(std::string typed);
+    /// For a KeyPress event: types the character into the text and completes it. A character taken becomes 0;
+    /// control characters are left to the toolkit.
+    void autoCompleteKey(std::int32_t& keyAscii);
+    /// The part of the text that was completed, in characters; none when the length is 0.
+    std::int32_t selStart() const { return selStart_; }
+    std::int32_t selLength() const { return selLength_; }
 
     std::function<void()> Change;
 
@@ -79,7 +86,11 @@ protected:
     void rowSelected() override;
 
 private:
+    void select(std::int32_t start, std::int32_t length);
+
     std::string text_;
+    std::int32_t selStart_ = 0;
+    std::int32_t selLength_ = 0;
     bool editable_ = true;
 };
 

@@ -299,6 +299,8 @@ private:
     void setNotifyBit(std::uint8_t bit, bool on);
     const std::string& templateOrDefault(std::string& own, std::string (clsCalendarItem::*defaultTemplate)());
 
+    /// A place for the item in its day as it stands in the database; none on a day without any.
+    std::optional<Date> findGapInDay();
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);
     std::optional<RecordSet> openRowToLoad();
     RecordSet openRowToSave(bool& isNewRow);
