@@ -24,20 +24,28 @@ public:
 protected:
     void show() override
     {
-        QComboBox& box = view();
-        if (box.isEditable() != model().isEditable()) {
-            box.setEditable(model().isEditable());
-            // The model completes what is typed.
-            box.setCompleter(nullptr);
-        }
+        showEditable();
         showRows();
-        if (box.currentIndex() != model().listIndex())
-            box.setCurrentIndex(model().listIndex());
-        if (box.isEditable())
-            showText(toQt(model().text()));
+        if (view().currentIndex() != model().listIndex())
+            view().setCurrentIndex(model().listIndex());
+        if (view().isEditable())
+            showText();
     }
 
 private:
+    void showEditable()
+    {
+        if (view().isEditable() == model().isEditable())
+            return;
+        view().setEditable(model().isEditable());
+        if (QLineEdit* edit = view().lineEdit()) {
+            // The model completes what is typed.
+            view().setCompleter(nullptr);
+            connect(edit, &QLineEdit::selectionChanged, this, [this] { fromUser([this] { caretMoved(); }); });
+            connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { fromUser([this] { caretMoved(); }); });
+        }
+    }
+
     void showRows()
     {
         QComboBox& box = view();
@@ -47,50 +55,64 @@ private:
             box.removeItem(box.count() - 1);
         for (int index = 0; index < count; ++index) {
             const ListRow& row = rows[static_cast<std::size_t>(index)];
+            const QString text = toQt(row.text);
             if (index == box.count())
-                box.addItem({});
-            if (const QString text = toQt(row.text); box.itemText(index) != text)
+                box.addItem(text);
+            else if (box.itemText(index) != text)
                 box.setItemText(index, text);
-            box.setItemData(index, row.itemData);
+            if (box.itemData(index) != row.itemData)
+                box.setItemData(index, row.itemData);
         }
     }
 
-    /// What code completes behind the caret stays selected, so that the next key replaces it.
-    void showText(const QString& text)
+    void showText()
     {
         QLineEdit& edit = *view().lineEdit();
-        const QString shown = edit.text();
-        if (shown == text)
-            return;
-        const QString kept = shown.left(edit.cursorPosition()) + pending_;
-        edit.setText(text);
-        if (edit.hasFocus() && !kept.isEmpty() && text.startsWith(kept, Qt::CaseInsensitive))
-            edit.setSelection(static_cast<int>(text.size()), static_cast<int>(kept.size() - text.size()));
+        const QString text = toQt(model().text());
+        if (edit.text() != text)
+            edit.setText(text);
+        const auto start = static_cast<int>(unitsOfCharacters(text, model().selStart()));
+        const auto end = static_cast<int>(unitsOfCharacters(text, model().selStart() + model().selLength()));
+        if (end > start)
+            edit.setSelection(start, end - start);
+        else
+            edit.setCursorPosition(start);
     }
 
     void picked(int row)
     {
         model().listIndex(row);
         // The row was selected already while another text stood in the box.
-        if (control() && model().isEditable() && row == model().listIndex())
+        if (control() && row == model().listIndex())
             model().text(model().list(row));
     }
 
+    /// Completes a text that grows at its end; what is deleted or put in between stays as the user wants it.
     void typed(const QString& text)
     {
-        const QLineEdit& edit = *view().lineEdit();
-        const QString before = toQt(model().text());
-        const bool grewAtEnd = edit.cursorPosition() == text.size() && text.size() > lastTyped_.size()
-                               && text.startsWith(lastTyped_) && !text.isEmpty();
-        lastTyped_ = text;
-        if (grewAtEnd)
+        const QString before = toQt(model().text()).left(unitsOfCharacters(toQt(model().text()), model().selStart()));
+        const bool grewAtEnd = view().lineEdit()->cursorPosition() == text.size() && text.size() > before.size()
+                               && text.startsWith(before);
+        if (grewAtEnd) {
             model().autoComplete(fromQt(text));
-        else
-            model().text(fromQt(text));
+            return;
+        }
+        const std::int32_t caret = charactersOfUnits(text, view().lineEdit()->cursorPosition());
+        takeOver([&, this] { model().text(fromQt(text)); });
+        model().select(caret, 0);
     }
 
-    QString lastTyped_;
-    QString pending_;
+    void caretMoved()
+    {
+        const QLineEdit& edit = *view().lineEdit();
+        const QString text = edit.text();
+        if (text != toQt(model().text()))
+            return;
+        const int start = edit.hasSelectedText() ? edit.selectionStart() : edit.cursorPosition();
+        const std::int32_t first = charactersOfUnits(text, start);
+        const std::int32_t last = charactersOfUnits(text, start + edit.selectedText().size());
+        takeOver([=, this] { model().select(first, last - first); });
+    }
 };
 
 } // namespace
