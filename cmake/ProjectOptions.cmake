@@ -23,7 +23,8 @@ endif()
 
 add_library(qncalOptions INTERFACE)
 target_compile_options(qncalOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
-                                              -Woverloaded-virtual -Wconversion -Wno-sign-conversion)
+                                              -Woverloaded-virtual -Wconversion -Wno-sign-conversion
+                                              -Wno-missing-field-initializers)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     # GCC 12 warns without cause on optimised string concatenation (GCC bugs 105329 and 105651).
     target_compile_options(qncalOptions INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)

@@ -144,7 +144,10 @@ bool RecordSet::deleteRecord()
     return statement([&] { return service_->deleteRecord(handle_); });
 }
 
-bool RecordSet::isNull(const Variant& value) { return utilityService().isNullValue(value); }
+bool RecordSet::isNull(const Variant& value)
+{
+    return statement([&] { return utilityService().isNullValue(value); });
+}
 
 std::int32_t RecordSet::checkedInteger(const Variant& value, std::int64_t lowest, std::int64_t highest)
 {

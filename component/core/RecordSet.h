@@ -56,13 +56,11 @@ public:
     template <class Value>
     bool read(std::string_view field, Value& target) const
     {
-        return statement([&] {
-            Variant value = service_->getField(handle_, field);
-            if (isNull(value))
-                return false;
-            convert(std::move(value), target);
-            return true;
-        });
+        Variant value = this->field(field);
+        if (isNull(value))
+            return false;
+        statement([&] { convert(std::move(value), target); });
+        return true;
     }
 
     /// The idiom of every writer: booleans as True and False, dates as date text, numbers as decimal text.

@@ -40,18 +40,28 @@ public:
 std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm();
 std::shared_ptr<ItemKindForm> newApptCustomFieldsForm();
 
-/// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
-class ApptForm : public Form {
+/// A dialog that lives in the host's registry of windows under a fixed key, see `registeredForm`.
+class RegisteredForm : public Form {
 public:
     using Form::Form;
+    /// Runs once, ahead of the first showing.
+    virtual void Initialize() = 0;
+};
+
+/// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
+class ApptForm : public RegisteredForm {
+public:
+    using RegisteredForm::RegisteredForm;
     /// The item to edit, or none. It stays its owner's and must outlive its time in the form.
     virtual void PassedClassRef(clsCalendarItem* item) = 0;
     virtual void showTaskNotes(bool show) = 0;
     virtual void setupForm() = 0;
+    /// True when the form was left after a save.
+    virtual bool itemSaved() const = 0;
 };
 std::shared_ptr<ApptForm> newApptForm();
 
 /// The duplicate removal wizard, modeless.
-std::shared_ptr<Form> newDuplicateAppointmentsForm();
+std::shared_ptr<RegisteredForm> newDuplicateAppointmentsForm();
 
 } // namespace qncal

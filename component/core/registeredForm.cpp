@@ -1,6 +1,7 @@
 #include "core/registeredForm.h"
 
 #include "core/ClientDropDownService.h"
+#include "core/forms.h"
 #include "core/routineScope.h"
 #include "core/ServiceRegistry.h"
 #include "utilities/RunTimeError.h"
@@ -24,16 +25,17 @@ FormRegistryEntry& currentEntry(FormRegistry& registry)
 
 } // namespace
 
-FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<Form>()>& create)
+FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<RegisteredForm>()>& create)
 {
     const auto registry = statement([] { return formRegistry(); });
     if (!statement([&] { return registry->isRegistered(key); })) {
-        auto form = create();
+        const auto form = create();
         statement([&] { registry->addKey(key); });
         FormRegistryEntry& entry = currentEntry(*registry);
         statement([&] { entry.key(key); });
         statement([&] { entry.form(form); });
         statement([&] { entry.initialize(); });
+        form->Initialize();
     }
     return currentEntry(*registry);
 }

@@ -5,6 +5,11 @@
 namespace qncal {
 
 /// The wizard that finds and deletes calendar rows which repeat an earlier row.
-class frmDuplicateAppointments : public Form {};
+class frmDuplicateAppointments : public RegisteredForm {
+public:
+    frmDuplicateAppointments() : RegisteredForm("frmDuplicateAppointments") {}
+
+    void Initialize() override {}
+};
 
 } // namespace qncal

@@ -64,7 +64,10 @@ bool clsCalendarItem::openApptForm(bool showTaskNotes)
         const PassedItem passed(*form, *this);
         form->showTaskNotes(showTaskNotes);
         form->setupForm();
+        statement([&] { entry.confirmed(false); });
         statement([&] { entry.show(true); });
+        if (form->itemSaved())
+            statement([&] { entry.confirmed(true); });
         return statement([&] { return entry.confirmed(); });
     });
 }

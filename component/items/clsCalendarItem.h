@@ -17,6 +17,8 @@
 namespace qncal {
 
 class RecordSet;
+class clsInsertFieldsInRTB;
+enum class ItemTextField : std::uint8_t;
 
 /// One appointment, task or time entry in memory: loads, saves and deletes its row, keeps its times in step and
 /// renders its texts.
@@ -252,6 +254,10 @@ public:
     std::string buildDisplayText(const std::string& templateResult);
     std::string parseCalendarItemComment(const std::string& newText);
 
+    /// The value of one merge field from the item itself or from the host's client lists, by its display name and
+    /// category; empty for a name that neither has. An empty `format` writes a date as "mmm d, yyyy".
+    std::string getApptDataFieldInfo(const std::string& displayName, const std::string& category, std::string format);
+
     // Reminders and notifications: reminders/clsCalendarItemReminders.cpp.
 
     void schedulePopupReminderForItem();
@@ -301,6 +307,11 @@ private:
 
     /// A place for the item in its day as it stands in the database; none on a day without any.
     std::optional<Date> findGapInDay();
+    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(), bool withCompany);
+    std::unique_ptr<clsInsertFieldsInRTB> newMergeEngine() const;
+    void mergeFromItem(clsInsertFieldsInRTB& engine, std::string& text);
+    std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;
+
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);
     std::optional<RecordSet> openRowToLoad();
     RecordSet openRowToSave(bool& isNewRow);

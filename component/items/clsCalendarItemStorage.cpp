@@ -24,6 +24,8 @@ template <class... Lambdas>
 struct Overloaded : Lambdas... {
     using Lambdas::operator()...;
 };
+template <class... Lambdas>
+Overloaded(Lambdas...) -> Overloaded<Lambdas...>;
 
 void readColumn(const RecordSet& row, const CalendarItemColumn& column, CalendarItemRecord& record)
 {

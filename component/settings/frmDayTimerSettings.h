@@ -7,6 +7,8 @@ namespace qncal {
 /// The options dialog of one calendar kind for one user.
 class frmDayTimerSettings : public DayTimerSettingsForm {
 public:
+    frmDayTimerSettings() : DayTimerSettingsForm("frmDayTimerSettings") {}
+
     void Initialize(enumLocalCalendarItemType kind, std::int32_t userIDNum, std::int16_t goToTab) override;
 
     enumLocalCalendarItemType calendarKind() const { return calendarKind_; }

@@ -45,7 +45,7 @@ std::chrono::year_month carriedMonth(std::int64_t year, std::int64_t month)
     if (carriedYear < 0 || carriedYear > 10000)
         leftTheCalendar();
     return std::chrono::year{static_cast<int>(carriedYear)}
-        / std::chrono::month{static_cast<unsigned>(index - carriedYear * 12 + 1)};
+           / std::chrono::month{static_cast<unsigned>(index - carriedYear * 12 + 1)};
 }
 
 int length(std::chrono::year_month month)
@@ -82,10 +82,7 @@ bool Date::isInCalendar() const
     return serial_ > static_cast<double>(firstDay - 1) && serial_ < static_cast<double>(lastDay + 1);
 }
 
-Date Date::dateOnly() const
-{
-    return Date(static_cast<double>(floorDivide(linearSeconds(), secondsPerDay)));
-}
+Date Date::dateOnly() const { return Date(static_cast<double>(floorDivide(linearSeconds(), secondsPerDay))); }
 
 Date Date::timeOnly() const
 {

@@ -1,8 +1,8 @@
 #include "utilities/DateTimeService.h"
 
+#include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
 #include "utilities/numberText.h"
-#include "utilities/RunTimeError.h"
 
 #include <algorithm>
 #include <array>

@@ -11,6 +11,7 @@ namespace errorNumber {
 inline constexpr std::int32_t invalidProcedureCall = 5;
 inline constexpr std::int32_t overflow = 6;
 inline constexpr std::int32_t outOfMemory = 7;
+inline constexpr std::int32_t subscriptOutOfRange = 9;
 inline constexpr std::int32_t typeMismatch = 13;
 inline constexpr std::int32_t internalError = 51;
 inline constexpr std::int32_t objectNotSet = 91;

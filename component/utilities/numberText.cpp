@@ -25,8 +25,8 @@ Digits digitsOf(double value)
 {
     // The smallest number has 1074 binary places, of which to_chars writes at most 17 significant ones.
     std::array<char, 400> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value),
-                                   std::chars_format::fixed);
+    const auto end =
+        std::to_chars(buffer.data(), buffer.data() + buffer.size(), std::fabs(value), std::chars_format::fixed);
     const std::string_view text(buffer.data(), static_cast<std::size_t>(end.ptr - buffer.data()));
     const auto point = std::min(text.find('.'), text.size());
     Digits digits{std::string(text.substr(0, point)), std::string(text.substr(std::min(point + 1, text.size())))};
@@ -64,7 +64,8 @@ Digits rounded(Digits digits, std::size_t places)
 struct Section {
     std::string_view before;
     std::string_view after;
-    std::size_t wholeDigits = 0;    ///< written at least
+    bool hasNumber = false;
+    std::size_t wholeDigits = 0; ///< written at least
     std::size_t fewestDecimals = 0;
     std::size_t mostDecimals = 0;
     bool grouped = false;
@@ -76,18 +77,20 @@ struct Section {
         before = pattern.substr(0, first);
         after = pattern.substr(end);
         const auto number = pattern.substr(first, end - first);
+        hasNumber = !number.empty();
         const auto point = std::min(number.find('.'), number.size());
         const auto whole = number.substr(0, point);
         const auto decimals = number.substr(point);
         wholeDigits = static_cast<std::size_t>(std::count(whole.begin(), whole.end(), '0'));
         grouped = whole.find(',') != std::string_view::npos;
         fewestDecimals = static_cast<std::size_t>(std::count(decimals.begin(), decimals.end(), '0'));
-        mostDecimals =
-            fewestDecimals + static_cast<std::size_t>(std::count(decimals.begin(), decimals.end(), '#'));
+        mostDecimals = fewestDecimals + static_cast<std::size_t>(std::count(decimals.begin(), decimals.end(), '#'));
     }
 
     std::string text(Digits digits, bool minus) const
     {
+        if (!hasNumber)
+            return std::string(before);
         if (digits.whole.size() < wholeDigits)
             digits.whole.insert(0, wholeDigits - digits.whole.size(), '0');
         if (digits.decimals.size() < fewestDecimals)
@@ -150,8 +153,9 @@ std::string numberText(double value)
 {
     std::array<char, 400> buffer{};
     const bool whole = value == std::trunc(value) && std::fabs(value) < 1e15;
-    const auto end = whole ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<std::int64_t>(value))
-                           : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+    const auto end = whole
+                         ? std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<std::int64_t>(value))
+                         : std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
     return {buffer.data(), end.ptr};
 }
 

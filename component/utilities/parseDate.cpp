@@ -105,6 +105,7 @@ int fullYear(Number year)
     return year.value + (year.value < 30 ? 2000 : 1900);
 }
 
+/// Month 0 stands for a name that is no month's.
 std::optional<CivilDate> checkedDate(int year, int month, int day)
 {
     if (year < 100 || year > 9999 || month < 1 || month > 12 || day < 1 || day > daysInMonth(year, month))
@@ -147,7 +148,7 @@ private:
         const int month = monthOfName(word);
         in_.skipBlanks();
         const auto day = in_.shortNumber();
-        return month != 0 && day && readYear(month, *day);
+        return day && readYear(month, *day);
     }
 
     /// A time, or a date that begins with a number.
@@ -187,7 +188,7 @@ private:
     {
         if (isLetter(in_.peek())) {
             const int month = monthOfName(in_.word());
-            if (month == 0 || first.digits > 2 || !in_.accept(separator))
+            if (first.digits > 2 || !in_.accept(separator))
                 return false;
             const auto year = in_.number();
             return year && setDate(*year, month, first.value);
@@ -250,7 +251,7 @@ private:
             return mayLack;
         const auto marker = in_.word();
         const bool afternoon = equalsNoCase(marker, "pm");
-        if ((!afternoon && !equalsNoCase(marker, "am")) || time.hour < 1 || time.hour > 12)
+        if ((!afternoon && !equalsNoCase(marker, "am")) || time.hour > 12)
             return false;
         time.hour = time.hour % 12 + (afternoon ? 12 : 0);
         return true;

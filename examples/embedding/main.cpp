@@ -1,23 +1,29 @@
-#include "core/RecordSet.h"
-#include "core/ServiceRegistry.h"
+#include "items/clsCalendarItem.h"
+#include "services/HostEnvironment.h"
+#include "store/SqliteDatabase.h"
+#include "utilities/dateText.h"
 
 #include <iostream>
 
-class PrintedErrors : public qncal::ErrorControlService {
-public:
-    void enterRoutine(std::string_view) override {}
-    void leaveRoutine() override {}
-    void setError(const qncal::ErrorState& error) override { error_ = error; }
-    void reportError() override { std::cout << "error " << error_.number << ": " << error_.text << '\n'; }
-    std::int16_t getErrorAction() override { return static_cast<std::int16_t>(qncal::ErrorAction::leave); }
-
-private:
-    qncal::ErrorState error_;
-};
-
 int main()
 {
-    qncal::serviceRegistry().errorControl = std::make_shared<PrintedErrors>();
-    const bool connected = qncal::routine("example-main", false, [] { return qncal::isDatabaseConnected(); });
-    std::cout << (connected ? "a database" : "no database") << '\n';
+    const qncal::host::HostEnvironment host({.database = qncal::host::SqliteDatabase::openInMemory()});
+
+    qncal::clsCalendarItem meeting;
+    meeting.calendarItemType(qncal::enumLocalCalendarAppointmentItem);
+    meeting.addNewItem();
+    meeting.Subject("Year end with Maple Leaf Bakery");
+    meeting.DateFrom(qncal::Date::of(2026, 3, 31));
+    meeting.TimeFrom(qncal::Date::timeOf(10, 30));
+    meeting.TimeTo(qncal::Date::timeOf(12, 0));
+    meeting.saveCalendarItem();
+
+    qncal::clsCalendarItem stored;
+    stored.calendarItemType(qncal::enumLocalCalendarAppointmentItem);
+    stored.itemID(meeting.itemID());
+    if (!stored.loadCalendarItem())
+        return 1;
+    std::cout << qncal::formatDate(stored.DateFrom(), "dddd, mmm d, ")
+              << qncal::formatDate(stored.TimeFrom(), "h:nn am/pm") << ", " << stored.timeduration()
+              << " hours: " << stored.Subject() << '\n';
 }

@@ -127,6 +127,9 @@ inline constexpr auto clientNotificationColumns = columns({
     {"AppointmentNum", id},
     {"TaskNum", id},
     {"DocketNum", id},
+    // A channel bit of the item's `notifyType`.
+    {"NotificationType", integer},
+    {"NotificationDate", date},
     {"NotificationSent", boolean},
 });
 inline constexpr Index clientNotificationIndexes[] = {{"AppointmentNum"}, {"TaskNum"}, {"DocketNum"}};
@@ -147,6 +150,7 @@ inline constexpr auto holidaysColumns = columns({
     {"HolidayID", key},
     {"HolidayDate", date},
     {"HolidayType", integer},
+    {"HolidayName", text},
 });
 inline constexpr Index holidaysIndexes[] = {{"HolidayDate"}};
 

@@ -84,6 +84,9 @@ inline constexpr auto globalGeneralSettingsColumns = columns({
     {"DateStampShowTime", boolean},
     {"DateStampShowName", boolean},
     {"DateStampShowNameOptions", integer},
+    // The firm's region, by the codes of `LocaleService`.
+    {"CountryCode", integer},
+    {"ProvinceCode", integer},
 });
 
 inline constexpr Table settingsTables[] = {
@@ -96,7 +99,7 @@ inline constexpr Table settingsTables[] = {
      "The one row of labels of custom fields, and of names, colours and icons of status fields"},
     {"CustomAddressFields", customAddressFieldsColumns,
      "The one row of labels of the custom fields of contacts and companies"},
-    {"GlobalGeneralSettings", globalGeneralSettingsColumns, "The one row of settings of the date stamp on notes"},
+    {"GlobalGeneralSettings", globalGeneralSettingsColumns, "The one row of firm-wide settings: the date stamp on notes, and the region"},
 };
 
 } // namespace qncal::schema

@@ -1,0 +1,116 @@
+#include "firmcal/CommandContext.h"
+
+#include "firmcal/Failure.h"
+#include "firmcal/valueText.h"
+#include "services/TerminalMessages.h"
+#include "store/SqliteDatabase.h"
+
+#include <filesystem>
+#include <ostream>
+
+namespace qncal::firmcal {
+
+namespace {
+
+host::TerminalMessages::Mode messageMode(const GlobalOptions& options, const Streams& streams)
+{
+    using Mode = host::TerminalMessages::Mode;
+    if (options.yes)
+        return Mode::yes;
+    if (options.no)
+        return Mode::no;
+    return streams.inIsTerminal ? Mode::ask : Mode::unattended;
+}
+
+std::shared_ptr<host::Locale> localeFor(const GlobalOptions& options, DatabaseService& database)
+{
+    host::Locale::Values values;
+    values.productName = "firmcal";
+    host::readRegion(database, values);
+    if (!options.country.empty()) {
+        const auto country = host::countryFromText(options.country);
+        if (!country)
+            throw Failure("'" + options.country + "' is no country (CA, US)");
+        values.country = *country;
+    }
+    if (!options.province.empty()) {
+        const auto province = host::provinceFromText(options.province);
+        if (!province)
+            throw Failure("'" + options.province + "' is no province (AB, BC, MB, NB, NL, NS, ON, PE, QC, SK)");
+        values.province = province->code;
+    }
+    return std::make_shared<host::Locale>(std::move(values));
+}
+
+} // namespace
+
+void CommandContext::applyClock()
+{
+    if (!options_.now.empty())
+        clock_.emplace(readMoment(options_.now));
+}
+
+host::HostEnvironment& CommandContext::host()
+{
+    if (host_)
+        return *host_;
+    if (options_.database.empty())
+        throw Failure("no database given; use --database FILE or set FIRMCAL_DATABASE");
+    if (!std::filesystem::exists(options_.database))
+        throw Failure("there is no file " + options_.database + "; 'firmcal init' and 'firmcal demo' make databases");
+    return host(host::SqliteDatabase::open(options_.database));
+}
+
+host::SqliteDatabase& CommandContext::database()
+{
+    host();
+    return *database_;
+}
+
+host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase> database)
+{
+    database_ = database;
+    host::HostServices services;
+    services.database = database;
+    services.messages =
+        std::make_shared<host::TerminalMessages>(streams_.in, streams_.err, messageMode(options_, streams_));
+    services.locale = localeFor(options_, *database);
+    host_.reset();
+    host_ = std::make_unique<host::HostEnvironment>(std::move(services));
+    errorsSeen_ = 0;
+    if (!options_.errorLog.empty())
+        host_->errors().logTo(std::filesystem::path(options_.errorLog));
+    if (const auto signedIn = user())
+        host_->locale().values().signedInUserID = signedIn->id;
+    return *host_;
+}
+
+std::optional<UserEntry> CommandContext::user()
+{
+    if (options_.user.empty())
+        return std::nullopt;
+    return userNamed(options_.user);
+}
+
+UserEntry CommandContext::userNamed(const std::string& nameOrID)
+{
+    if (const auto found = host().clients().findUser(nameOrID))
+        return *found;
+    throw Failure("no user '" + nameOrID + "'; 'firmcal user list' shows them");
+}
+
+void CommandContext::throwIfComponentFailed()
+{
+    const host::ErrorControl& errors = host().errors();
+    if (errors.reportCount() == errorsSeen_)
+        return;
+    errorsSeen_ = errors.reportCount();
+    throw Failure(errors.reports().back().error.text);
+}
+
+void CommandContext::printJson(const nlohmann::ordered_json& value) const
+{
+    out() << value.dump(2, ' ', false, nlohmann::ordered_json::error_handler_t::replace) << '\n';
+}
+
+} // namespace qncal::firmcal

@@ -1,0 +1,119 @@
+#include "firmcal/CommandContext.h"
+#include "firmcal/Failure.h"
+#include "firmcal/Table.h"
+#include "firmcal/commands.h"
+#include "firmcal/itemKind.h"
+#include "firmcal/itemRows.h"
+#include "firmcal/valueText.h"
+#include "services/Rows.h"
+#include "utilities/Clock.h"
+#include "utilities/dateText.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <ostream>
+
+namespace qncal::firmcal {
+
+namespace {
+
+struct AgendaOptions {
+    std::string from = "today";
+    bool day = false;
+    bool week = false;
+    int days = 1;
+};
+
+struct Span {
+    Date from;
+    Date to;
+};
+
+Span spanOf(const AgendaOptions& options)
+{
+    constexpr int monday = 2;
+    const Date from = readDay(options.from);
+    if (options.week) {
+        const Date start = from.addDays(-((from.weekday() - monday + 7) % 7));
+        return {start, start.addDays(6)};
+    }
+    return {from, from.addDays(options.day ? 0 : options.days - 1)};
+}
+
+/// The names of the holidays of a day, joined by commas.
+std::string holidaysOn(DatabaseService& database, Date day)
+{
+    std::string names;
+    for (host::Rows rows = host::Rows::read(database, "SELECT Holidays.HolidayName FROM Holidays WHERE HolidayDate=#"
+                                                          + database.getSQLDate(day) + "#;");
+         !rows.atEnd(); rows.moveNext()) {
+        const std::string name = rows.text("HolidayName");
+        names += (names.empty() ? "" : ", ") + (name.empty() ? "holiday" : name);
+    }
+    return names;
+}
+
+void printDay(CommandContext& context, Date day, std::span<const ItemRow> items, bool withUser)
+{
+    host::HostEnvironment& host = context.host();
+    const std::string holidays = holidaysOn(host.database(), day);
+    context.out() << formatDate(day, "dddd, mmmm d, yyyy") << (holidays.empty() ? "" : "  [" + holidays + "]") << '\n';
+    Table table({{"Time"}, {"Kind"}, {"ID", Table::Align::right}, {"Subject"}, {"Client"}, {"User"}});
+    for (const ItemRow& row : items)
+        table.add({timesText(row), std::string(kindNoun(row.kind)), std::to_string(row.id), row.subject,
+                   clientName(host.clients(), row.companyID, row.contactID),
+                   withUser ? host.clients().getUserName(row.userID) : std::string()});
+    table.printRows(context.out(), "  ");
+    if (items.empty())
+        context.out() << "  nothing\n";
+}
+
+void printAgenda(CommandContext& context, const AgendaOptions& options)
+{
+    const Span span = spanOf(options);
+    host::HostEnvironment& host = context.host();
+    ItemFilter filter;
+    filter.kinds.assign(allKinds.begin(), allKinds.end());
+    filter.from = span.from;
+    filter.to = span.to;
+    if (const auto user = context.user())
+        filter.userID = user->id;
+    const std::vector<ItemRow> items = readItems(host.database(), filter);
+    if (context.options().json) {
+        auto json = nlohmann::ordered_json::array();
+        for (const ItemRow& row : items)
+            json.push_back(rowJson(row, host.clients()));
+        return context.printJson(json);
+    }
+    for (Date day = span.from; day <= span.to; day = day.addDays(1)) {
+        if (day != span.from)
+            context.out() << '\n';
+        const auto ofDay =
+            std::ranges::equal_range(items, day.serial(), {}, [](const ItemRow& row) { return row.date.serial(); });
+        printDay(context, day, {ofDay.begin(), ofDay.end()}, !filter.userID);
+    }
+}
+
+} // namespace
+
+void addAgendaCommand(CLI::App& program, CommandContext& context)
+{
+    CLI::App* command = program.add_subcommand("agenda", "Show the items of a day, a week or some days");
+    auto options = std::make_shared<AgendaOptions>();
+    command->add_option("--from", options->from, "The first day; today without it")->type_name("DATE");
+    CLI::Option* day = command->add_flag("--day", options->day, "That day alone (the default)");
+    CLI::Option* week = command->add_flag("--week", options->week, "Monday to Sunday of its week")->excludes(day);
+    command->add_option("--days", options->days, "So many days")
+        ->type_name("COUNT")
+        ->check(CLI::Range(1, 366))
+        ->excludes(day)
+        ->excludes(week);
+    command->footer("Without --user the items of all users.\n"
+                    "Examples:\n"
+                    "  firmcal agenda --user \"Maya Singh\" --week\n"
+                    "  firmcal agenda --from monday --days 3");
+    command->callback([&context, options] { printAgenda(context, *options); });
+}
+
+} // namespace qncal::firmcal

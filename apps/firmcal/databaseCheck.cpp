@@ -1,0 +1,155 @@
+#include "firmcal/databaseCheck.h"
+
+#include "core/calendarItemKinds.h"
+#include "firmcal/itemKind.h"
+#include "services/Rows.h"
+#include "store/SqliteConnection.h"
+
+#include <functional>
+#include <map>
+#include <unordered_set>
+
+namespace qncal::firmcal {
+
+namespace {
+
+using host::Rows;
+using Keys = std::unordered_set<std::int32_t>;
+
+/// A column that holds the key of a row in another table.
+struct Reference {
+    std::string_view column;
+    std::string_view table;
+    std::string_view key;
+};
+
+constexpr Reference reminderReferences[]{{"AppointmentIDNum", "Appointments", "AppointmentID"},
+                                         {"TaskIDNum", "Tasks", "TaskID"}};
+constexpr Reference notificationReferences[]{{"AppointmentNum", "Appointments", "AppointmentID"},
+                                             {"TaskNum", "Tasks", "TaskID"},
+                                             {"DocketNum", "Dockets", "DocketID"}};
+constexpr Reference linkReferences[]{{"ContactIDNum", "Contacts", "ContactID"},
+                                     {"ContactNum", "Contacts", "ContactID"},
+                                     {"CompanyNum", "Companies", "CompanyID"}};
+constexpr Reference clientReferences[]{{"CompanyIDNum", "Companies", "CompanyID"},
+                                       {"ContactIDNum", "Contacts", "ContactID"}};
+constexpr Reference userReferences[]{{"UserIDNum", "AccountantEmployeeInfo", "ContactID"}};
+
+std::string allOf(std::string_view table) { return "SELECT * FROM " + std::string(table) + ";"; }
+
+std::string plural(enumLocalCalendarItemType kind)
+{
+    return kind == enumLocalCalendarDocketItem ? "time entries" : std::string(kindNoun(kind)) + "s";
+}
+
+class Checker {
+public:
+    Checker(DatabaseService& database, bool repair) : database_(database), repair_(repair) {}
+
+    /// Rows of which any reference leads nowhere; they are mended by deleting them.
+    void orphans(std::string check, std::string_view table, std::span<const Reference> references)
+    {
+        walk(std::move(check), table, true, [&](Rows& rows) {
+            for (const Reference& reference : references) {
+                if (leadsNowhere(rows, reference))
+                    return Mending([&rows] { rows.deleteCurrent(); });
+            }
+            return Mending();
+        });
+    }
+
+    /// Items of which a reference leads nowhere; it is mended by becoming -1.
+    void danglingItems(std::string check, std::string_view table, std::span<const Reference> references, bool canMend)
+    {
+        walk(std::move(check), table, canMend, [&](Rows& rows) {
+            for (const Reference& reference : references) {
+                if (leadsNowhere(rows, reference))
+                    return Mending([&rows, &reference] { rows.set(reference.column, "-1"); });
+            }
+            return Mending();
+        });
+    }
+
+    void seriesOfOne(std::string check, std::string_view table)
+    {
+        std::map<std::int32_t, int> sizes;
+        for (Rows rows = Rows::read(database_, allOf(table)); !rows.atEnd(); rows.moveNext())
+            ++sizes[rows.integer("RepeatNum", 0)];
+        walk(std::move(check), table, true, [&](Rows& rows) {
+            const std::int32_t series = rows.integer("RepeatNum", 0);
+            return series > 0 && sizes[series] == 1 ? Mending([&rows] { rows.set("RepeatNum", "0"); }) : Mending();
+        });
+    }
+
+    std::vector<CheckResult> take() { return std::move(results_); }
+
+private:
+    /// Mends the current row; empty for a row that is well.
+    using Mending = std::function<void()>;
+
+    void walk(std::string check, std::string_view table, bool canMend, const std::function<Mending(Rows&)>& examine)
+    {
+        CheckResult result{std::move(check), 0, 0, canMend};
+        for (Rows rows = Rows::change(database_, allOf(table)); !rows.atEnd(); rows.moveNext()) {
+            const Mending mend = examine(rows);
+            if (!mend)
+                continue;
+            ++result.found;
+            if (repair_ && canMend) {
+                mend();
+                ++result.mended;
+            }
+        }
+        results_.push_back(std::move(result));
+    }
+
+    bool leadsNowhere(const Rows& rows, const Reference& reference)
+    {
+        const std::int32_t id = rows.integer(reference.column);
+        return id > 0 && !keysOf(reference).contains(id);
+    }
+
+    const Keys& keysOf(const Reference& reference)
+    {
+        const auto [known, isNew] = keys_.try_emplace(std::string(reference.table));
+        if (isNew) {
+            const std::string key(reference.key);
+            for (Rows rows = Rows::read(database_, "SELECT " + key + " FROM " + std::string(reference.table) + ";");
+                 !rows.atEnd(); rows.moveNext())
+                known->second.insert(rows.integer(key));
+        }
+        return known->second;
+    }
+
+    DatabaseService& database_;
+    bool repair_;
+    std::map<std::string, Keys, std::less<>> keys_;
+    std::vector<CheckResult> results_;
+};
+
+} // namespace
+
+std::vector<CheckResult> checkRows(DatabaseService& database, bool repair)
+{
+    Checker checker(database, repair);
+    checker.orphans("reminders of items that are gone", "Reminders", reminderReferences);
+    checker.orphans("notifications of items that are gone", "ClientNotification", notificationReferences);
+    checker.orphans("links of clients that are gone", "ContactLinks", linkReferences);
+    for (const enumLocalCalendarItemType kind : allKinds) {
+        const std::string_view table = calendarItemKind(kind).tableName;
+        checker.danglingItems(plural(kind) + " of clients that are gone", table, clientReferences, true);
+        checker.danglingItems(plural(kind) + " of users that are gone", table, userReferences, false);
+        checker.seriesOfOne("series of one among the " + plural(kind), table);
+    }
+    return checker.take();
+}
+
+std::string checkFile(const std::string& file)
+{
+    constexpr int busyTimeout = 5000;
+    host::SqliteConnection connection(file, host::SqliteConnection::Access::readWrite, busyTimeout);
+    const std::string verdict = connection.queryText("PRAGMA integrity_check");
+    return verdict == "ok" ? std::string() : verdict;
+}
+
+} // namespace qncal::firmcal

@@ -1,0 +1,31 @@
+#include "firmcal/itemKind.h"
+
+#include "core/calendarItemKinds.h"
+#include "firmcal/Failure.h"
+#include "utilities/text.h"
+
+namespace qncal::firmcal {
+
+enumLocalCalendarItemType readKind(std::string_view text)
+{
+    for (const enumLocalCalendarItemType kind : allKinds) {
+        if (equalsNoCase(text, kindWord(kind)) || equalsNoCase(text, kindNoun(kind))
+            || equalsNoCase(text, kindWord(kind).substr(0, 1)))
+            return kind;
+    }
+    throw UsageError("no kind '" + std::string(text) + "' (appointment, task, docket)");
+}
+
+std::string_view kindNoun(enumLocalCalendarItemType kind)
+{
+    return kind == enumLocalCalendarDocketItem ? "time entry" : kindWord(kind);
+}
+
+std::string_view kindWord(enumLocalCalendarItemType kind) { return calendarItemKind(kind).typeName; }
+
+CLI::Option* addKindOption(CLI::App& command, std::string& kind)
+{
+    return command.add_option("-k,--kind", kind, "appointment (the default), task or docket")->type_name("KIND");
+}
+
+} // namespace qncal::firmcal

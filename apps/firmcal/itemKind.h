@@ -1,0 +1,25 @@
+#pragma once
+
+#include "core/enumerations.h"
+
+#include <CLI/App.hpp>
+
+#include <array>
+#include <string>
+#include <string_view>
+
+namespace qncal::firmcal {
+
+inline constexpr std::array allKinds{enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem,
+                                     enumLocalCalendarDocketItem};
+
+/// "appointment", "task", "docket"; also "time entry" and the first letters. Throws `UsageError` for others.
+enumLocalCalendarItemType readKind(std::string_view text);
+/// "appointment", "task", "time entry"
+std::string_view kindNoun(enumLocalCalendarItemType kind);
+/// As it is written behind `--kind`: "appointment", "task", "docket".
+std::string_view kindWord(enumLocalCalendarItemType kind);
+/// The option `--kind`.
+CLI::Option* addKindOption(CLI::App& command, std::string& kind);
+
+} // namespace qncal::firmcal

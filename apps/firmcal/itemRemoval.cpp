@@ -1,0 +1,62 @@
+#include "core/schema.h"
+#include "firmcal/CommandContext.h"
+#include "firmcal/Failure.h"
+#include "firmcal/itemCommands.h"
+#include "services/Rows.h"
+
+#include <ostream>
+
+namespace qncal::firmcal {
+
+namespace {
+
+void deleteLoaded(CommandContext& context, clsCalendarItem& item)
+{
+    const bool deleted = item.deleteCalendarItem();
+    context.throwIfComponentFailed();
+    if (!deleted)
+        throw Failure("the item was not deleted");
+}
+
+void copyToArchive(DatabaseService& database, std::int32_t taskID)
+{
+    const schema::Table& archive = *schema::findTable("archiveTasks");
+    const std::string id = std::to_string(taskID);
+    const host::Rows task = host::Rows::read(database, "SELECT Tasks.* FROM Tasks WHERE Tasks.TaskID=" + id + ";");
+    host::Rows archived = host::Rows::change(database, "SELECT archiveTasks.* FROM archiveTasks;");
+    archived.addNew();
+    archived.setNew(archive.columns.front().name, id);
+    for (const schema::Column& column : archive.columns.subspan(1)) {
+        const Variant value = task.field(column.name);
+        if (!value.isNull())
+            archived.setNew(column.name, value.toText());
+    }
+    archived.update();
+}
+
+} // namespace
+
+void deleteItem(CommandContext& context, enumLocalCalendarItemType kind, std::int32_t id)
+{
+    clsCalendarItem item;
+    load(context, item, kind, id);
+    const std::string description = describe(item);
+    const std::int16_t answer = context.host().messages().askQuestion("Delete " + description + "?",
+                                                                      MessageDialogService::informationStyle, nullptr);
+    if (answer != MessageDialogService::answerYes)
+        throw Failure("nothing deleted");
+    deleteLoaded(context, item);
+    context.out() << "Deleted " << description << '\n';
+}
+
+void archiveTask(CommandContext& context, std::int32_t id)
+{
+    clsCalendarItem item;
+    load(context, item, enumLocalCalendarTaskItem, id);
+    const std::string description = describe(item);
+    copyToArchive(context.host().database(), id);
+    deleteLoaded(context, item);
+    context.out() << "Archived " << description << '\n';
+}
+
+} // namespace qncal::firmcal

@@ -1,0 +1,43 @@
+// clsInsertFieldsInRTB: field names and provinces by region.
+
+#include "templates/clsInsertFieldsInRTB.h"
+
+#include "core/LocaleService.h"
+#include "core/routineScope.h"
+#include "templates/legacyFieldNames.h"
+#include "templates/provinceNames.h"
+#include "templates/regionFieldNames.h"
+#include "templates/regionWords.h"
+
+namespace qncal {
+
+std::string clsInsertFieldsInRTB::convertProvinceFields(std::string text)
+{
+    return routine("Vestrel.exe-clsInsertFieldsInRTB-convertProvinceFields", std::string(), [&] {
+        renameLegacyFields(text);
+        const std::int32_t country = currentCountry();
+        if (country == LocaleService::unitedStates)
+            renameFieldsForUnitedStates(text);
+        else if (country == LocaleService::canada)
+            renameFieldsForCanada(text, currentProvince());
+        return std::move(text);
+    });
+}
+
+std::string clsInsertFieldsInRTB::getAbbreviatedProvince(const std::string& province)
+{
+    return routine("Vestrel.exe-clsInsertFieldsInRTB-getAbbreviatedProvince", std::string(), [&] {
+        const ProvinceName* name = findProvince(province);
+        return name ? std::string(name->abbreviated) : province;
+    });
+}
+
+std::string clsInsertFieldsInRTB::getFullProvinceString(const std::string& province)
+{
+    return routine("Vestrel.exe-clsInsertFieldsInRTB-getFullProvinceString", std::string(), [&] {
+        const ProvinceName* name = findProvince(province);
+        return name ? std::string(name->full) : province;
+    });
+}
+
+} // namespace qncal

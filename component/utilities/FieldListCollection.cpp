@@ -1,0 +1,157 @@
+#include "utilities/FieldListCollection.h"
+
+#include "utilities/RunTimeError.h"
+#include "utilities/text.h"
+
+#include <bit>
+
+namespace qncal {
+
+namespace {
+
+constexpr std::int32_t freeSlot = -1;
+
+/// FNV-1a over the text without regard to ASCII case.
+std::size_t hashNoCase(std::string_view text)
+{
+    std::uint64_t hash = 14695981039346656037ULL;
+    for (const char c : text)
+        hash = (hash ^ static_cast<unsigned char>(lowerAscii(c))) * 1099511628211ULL;
+    return static_cast<std::size_t>(hash);
+}
+
+bool holds(const FieldListRow& row, std::int16_t column, std::string_view value)
+{
+    switch (column) {
+    case FieldListCollection::databaseField:
+        return equalsNoCase(row.databaseField.view(), value);
+    case FieldListCollection::category:
+        return equalsNoCase(row.category.view(), value);
+    case FieldListCollection::dataType:
+        return std::to_string(static_cast<int>(row.dataType)) == value;
+    case FieldListCollection::sampleText:
+        return equalsNoCase(row.sampleText.view(), value);
+    case FieldListCollection::maximumLength:
+        return std::to_string(row.maximumLength) == value;
+    default:
+        throw RunTimeError(errorNumber::invalidProcedureCall, "No column " + std::to_string(column));
+    }
+}
+
+} // namespace
+
+void FieldListCollection::clearRows()
+{
+    rows_.clear();
+    nameIndex_.clear();
+    current_ = -1;
+}
+
+void FieldListCollection::addRow(FieldListRow row)
+{
+    rows_.push_back(std::move(row));
+    nameIndex_.clear();
+    current_ = getCount() - 1;
+}
+
+bool FieldListCollection::moveToKey(std::int32_t key)
+{
+    // The catalogue numbers its rows 1, 2, 3 ..., so the guess is nearly always right.
+    if (key >= 1 && key <= getCount() && rows_[static_cast<std::size_t>(key - 1)].key == key) {
+        current_ = key - 1;
+        return true;
+    }
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        if (rows_[i].key == key) {
+            current_ = static_cast<std::int32_t>(i);
+            return true;
+        }
+    }
+    return false;
+}
+
+std::int32_t FieldListCollection::findInColumn(std::int16_t column, std::string_view value)
+{
+    std::int32_t position = -1;
+    if (column == displayName) {
+        position = positionOfDisplayName(value);
+    } else {
+        for (std::size_t i = 0; i < rows_.size() && position < 0; ++i) {
+            if (holds(rows_[i], column, value))
+                position = static_cast<std::int32_t>(i);
+        }
+    }
+    if (position >= 0)
+        current_ = position;
+    return position;
+}
+
+Variant FieldListCollection::getColumn(std::int16_t column) const
+{
+    const FieldListRow& row = current();
+    switch (column) {
+    case databaseField:
+        return row.databaseField.str();
+    case displayName:
+        return row.displayName.str();
+    case category:
+        return row.category.str();
+    case dataType:
+        return static_cast<std::int32_t>(row.dataType);
+    case sampleText:
+        return row.sampleText.str();
+    case maximumLength:
+        return static_cast<std::int32_t>(row.maximumLength);
+    default:
+        throw RunTimeError(errorNumber::invalidProcedureCall, "No column " + std::to_string(column));
+    }
+}
+
+const FieldListRow& FieldListCollection::current() const
+{
+    if (current_ < 0)
+        throw RunTimeError(errorNumber::invalidProcedureCall, "The field list has no current row");
+    return rows_[static_cast<std::size_t>(current_)];
+}
+
+std::int32_t FieldListCollection::positionOfDisplayName(std::string_view name, std::int32_t from)
+{
+    if (rows_.empty())
+        return -1;
+    if (nameIndex_.empty())
+        indexDisplayNames();
+    const std::size_t mask = nameIndex_.size() - 1;
+    for (std::size_t slot = hashNoCase(name) & mask;; slot = (slot + 1) & mask) {
+        const std::int32_t position = nameIndex_[slot];
+        if (position == freeSlot)
+            return -1;
+        if (position >= from && equalsNoCase(rows_[static_cast<std::size_t>(position)].displayName.view(), name))
+            return position;
+    }
+}
+
+bool FieldListCollection::displayNamesHold(char byte)
+{
+    if (nameIndex_.empty())
+        indexDisplayNames();
+    return nameBytes_[static_cast<std::uint8_t>(byte)];
+}
+
+void FieldListCollection::indexDisplayNames()
+{
+    nameBytes_.reset();
+    for (const FieldListRow& row : rows_) {
+        for (const char c : row.displayName.view())
+            nameBytes_.set(static_cast<std::uint8_t>(c));
+    }
+    nameIndex_.assign(std::bit_ceil(rows_.size() * 2), freeSlot);
+    const std::size_t mask = nameIndex_.size() - 1;
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        std::size_t slot = hashNoCase(rows_[i].displayName.view()) & mask;
+        while (nameIndex_[slot] != freeSlot)
+            slot = (slot + 1) & mask; // an equal name stays behind the first in its chain
+        nameIndex_[slot] = static_cast<std::int32_t>(i);
+    }
+}
+
+} // namespace qncal

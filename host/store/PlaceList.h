@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace qncal::host {
+
+/// The places of a record set in their order, each with the keys that identify its record.
+///
+/// A place whose record was deleted through the record set itself closes up: later records move up by one. A
+/// record deleted by someone else leaves its place behind, so that saved positions stay right.
+class PlaceList {
+public:
+    void clear(std::size_t keyWidth);
+    void append(std::span<const std::int64_t> keys);
+
+    std::size_t size() const { return states_.size(); }
+    std::span<const std::int64_t> keys(std::size_t index) const
+    {
+        return std::span(keys_).subspan(index * width_, width_);
+    }
+    bool isLive(std::size_t index) const { return states_[index] == State::live; }
+    bool isClosed(std::size_t index) const { return states_[index] == State::closed; }
+    void close(std::size_t index);
+    void markGone(std::size_t index);
+    /// Marks the places of deleted records, given by their first keys.
+    void markGone(std::span<const std::int64_t> deleted);
+
+    /// Records that are still there, as far as known.
+    std::size_t liveCount() const { return size() - closed_ - gone_; }
+    /// Position of an index, from 1; of `size()` the position past the last.
+    std::int64_t position(std::size_t index) const;
+    /// Index of a position; `size()` for one past the last.
+    std::size_t index(std::int64_t position) const;
+    std::optional<std::size_t> find(std::span<const std::int64_t> keys) const;
+
+private:
+    enum class State : std::uint8_t { live, gone, closed };
+
+    std::size_t width_ = 1;
+    std::vector<std::int64_t> keys_;
+    std::vector<State> states_;
+    std::size_t closed_ = 0;
+    std::size_t gone_ = 0;
+    bool ascending_ = true; ///< one key to a place, each greater than the one before
+};
+
+} // namespace qncal::host

@@ -1,0 +1,101 @@
+#include "core/clsCalendarSetCtrl.h"
+
+#include "core/forms.h"
+#include "support/ComponentTest.h"
+
+namespace qncal {
+namespace {
+
+class clsCalendarSetCtrlTest : public test::ComponentTest {
+protected:
+    /// The labels pushed by what the opener itself did: its own comes first.
+    std::string openerLabel() const { return errors->labels().empty() ? std::string() : errors->labels().front(); }
+
+    clsCalendarSetCtrl control;
+};
+
+TEST_F(clsCalendarSetCtrlTest, OpensTheSettingsDialogModally)
+{
+    bool modal = false;
+    dialogs->whenShown("frmDayTimerSettings", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    control.openDayTimerSettingsForm(enumFormShowTasks, 7, 2);
+    EXPECT_TRUE(modal);
+    EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openDayTimerSettingsForm");
+}
+
+TEST_F(clsCalendarSetCtrlTest, OpensTheStatusOptionsDialogModally)
+{
+    bool modal = false;
+    dialogs->whenShown("frmApptStatusOptions", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    control.openApptStatusOptionsForm(enumFormShowDockets, "Completed", 3);
+    EXPECT_TRUE(modal);
+    EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openApptStatusOptionsForm");
+}
+
+TEST_F(clsCalendarSetCtrlTest, OpensTheStatusFieldsDialogModally)
+{
+    bool modal = false;
+    dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    control.openChangeApptStatusFieldsForm(enumFormShowAppointments);
+    EXPECT_TRUE(modal);
+    EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openChangeApptStatusFieldsForm");
+}
+
+TEST_F(clsCalendarSetCtrlTest, AViewOutsideOfTheThreeOpensNothing)
+{
+    for (const int view : {3, 4, -1}) {
+        control.openDayTimerSettingsForm(static_cast<enumFormDayTimerType>(view), 7);
+        control.openApptStatusOptionsForm(static_cast<enumFormDayTimerType>(view), "Completed", 3);
+        control.openChangeApptStatusFieldsForm(static_cast<enumFormDayTimerType>(view));
+    }
+    EXPECT_TRUE(dialogs->shownForms().empty());
+}
+
+TEST_F(clsCalendarSetCtrlTest, OpensTheDuplicatesWindowOnceAndBringsItToTheFrontAgain)
+{
+    dialogs->whenAnyShown([](host::Hand&) {});
+    control.openDuplicateAppointmentsForm();
+    auto& entry = clientDropDown->formRegistry->entries.at(29);
+    const auto form = entry.form();
+    ASSERT_NE(form, nullptr);
+    EXPECT_EQ(entry.key(), 29);
+
+    control.openDuplicateAppointmentsForm();
+    EXPECT_EQ(entry.form(), form);
+    EXPECT_EQ(clientDropDown->formRegistry->entries.size(), 1u);
+    EXPECT_EQ(entry.initialized, 1);
+    EXPECT_EQ(entry.shownModeless, 2);
+    EXPECT_EQ(entry.shownModal, 0);
+    EXPECT_EQ(entry.broughtToFront, 2);
+    EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openDuplicateAppointmentsForm");
+}
+
+TEST_F(clsCalendarSetCtrlTest, WithoutAClientServiceTheDuplicatesWindowIsReportedAndNotOpened)
+{
+    serviceRegistry().clientDropDown.reset();
+    control.openDuplicateAppointmentsForm();
+    const auto reported = errors->takeErrors();
+    ASSERT_EQ(reported.size(), 1u);
+    EXPECT_EQ(reported[0].number, 91);
+    EXPECT_TRUE(dialogs->shownForms().empty());
+}
+
+TEST_F(clsCalendarSetCtrlTest, AFormRegistryThatIsMissingIsReported)
+{
+    clientDropDown->formRegistry.reset();
+    control.openDuplicateAppointmentsForm();
+    const auto reported = errors->takeErrors();
+    ASSERT_EQ(reported.size(), 1u);
+    EXPECT_EQ(reported[0].number, 91);
+}
+
+TEST_F(clsCalendarSetCtrlTest, RaisesExitProgramToItsSubscribers)
+{
+    int raised = 0;
+    control.ExitProgram.subscribe([&] { ++raised; });
+    control.raiseExitProgram();
+    EXPECT_EQ(raised, 1);
+}
+
+} // namespace
+} // namespace qncal

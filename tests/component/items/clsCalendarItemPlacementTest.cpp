@@ -1,0 +1,237 @@
+#include "items/clsCalendarItem.h"
+
+#include "controls/rangeControls.h"
+#include "support/ComponentTest.h"
+#include "support/rowName.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <set>
+
+namespace qncal {
+namespace {
+
+std::string timeText(Date time) { return defaultDateText(time.timeOnly()); }
+
+/// An appointment of user 1 on the day of the tests.
+class PlacementTest : public test::ComponentTest {
+protected:
+    PlacementTest()
+    {
+        item.calendarItemType(enumLocalCalendarAppointmentItem);
+        item.userIDNum(1);
+        item.DateFrom(today());
+    }
+
+    std::int32_t addAppointment(const std::string& from, const std::string& to, int user = 1)
+    {
+        return addRow("Appointments", {{"UserIDNum", std::to_string(user)},
+                                       {"DateFrom", defaultDateText(today())},
+                                       {"TimeFrom", from},
+                                       {"TimeTo", to}});
+    }
+
+    std::string bestTime(float hours)
+    {
+        item.timeduration(hours);
+        item.getBestTimeInCalendarForSpecificDayAndUser();
+        return timeText(item.TimeFrom());
+    }
+
+    clsCalendarItem item;
+};
+
+struct DayRow {
+    const char* name;
+    std::vector<std::pair<const char*, const char*>> booked;
+    float hours;
+    const char* best;
+
+    friend void PrintTo(const DayRow& row, std::ostream* out) { *out << row.name; }
+};
+
+class BestTimeTest : public test::ComponentTestWith<DayRow> {};
+
+TEST_P(BestTimeTest, IsTheFirstGapThatHoldsTheItem)
+{
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.userIDNum(1);
+    item.DateFrom(today());
+    item.timeduration(GetParam().hours);
+    for (const auto& [from, to] : GetParam().booked)
+        addRow("Appointments",
+               {{"UserIDNum", "1"}, {"DateFrom", defaultDateText(today())}, {"TimeFrom", from}, {"TimeTo", to}});
+    item.getBestTimeInCalendarForSpecificDayAndUser();
+    EXPECT_EQ(timeText(item.TimeFrom()), GetParam().best);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Days, BestTimeTest,
+    testing::Values(
+        DayRow{"EmptyDay", {}, 2, "09:00:00"},
+        DayRow{"BetweenTwo", {{"9:00", "10:00"}, {"11:00", "12:00"}}, 1, "10:00:00"},
+        DayRow{"ARowToTheEndOfTheDayIsPassedOver", {{"9:00", "10:00"}, {"10:30", "17:00"}}, 1, "10:00:00"},
+        DayRow{"AnEarlyRowIsPassedOver", {{"8:00", "8:30"}}, 1, "09:00:00"},
+        DayRow{"ARowThatEndsAtNineIsPassedOver", {{"8:00", "9:00"}}, 1, "09:00:00"},
+        DayRow{"ARowIntoTheMorning", {{"8:00", "9:30"}}, 1, "09:30:00"},
+        DayRow{"TheGapIsTooSmall", {{"9:30", "10:00"}, {"11:30", "12:00"}}, 1, "10:00:00"},
+        DayRow{"AGapOfJustTheLength", {{"9:00", "10:00"}, {"10:20", "16:50"}}, 1.0F / 3, "10:00:00"},
+        DayRow{"AfterTheLastRow", {{"9:00", "12:00"}, {"12:10", "15:00"}}, 2, "15:00:00"},
+        DayRow{"NoRoomTakesTheFirstGap", {{"9:00", "11:00"}, {"11:30", "16:30"}}, 4, "11:00:00"},
+        DayRow{"NoRoomTakesTheGapBeforeTheFirstRow", {{"9:30", "16:30"}}, 3, "09:00:00"},
+        DayRow{"OverlappingRows", {{"9:00", "11:00"}, {"9:30", "12:00"}}, 1, "12:00:00"}),
+    test::rowName);
+
+TEST_F(PlacementTest, RowsOfOtherUsersAndDaysDoNotCount)
+{
+    addAppointment("9:00", "12:00", 2);
+    const auto other = addAppointment("9:00", "12:00");
+    setCell("Appointments", other, "DateFrom", defaultDateText(today().addDays(1)));
+    EXPECT_EQ(bestTime(1), "09:00:00");
+}
+
+TEST_F(PlacementTest, RowsWithoutTimesArePassedOver)
+{
+    addAppointment("", "");
+    EXPECT_EQ(bestTime(1), "09:00:00");
+}
+
+TEST_F(PlacementTest, NineHoursOnAnEmptyDayLandOnAFullHourOfTheWorkingDay)
+{
+    std::set<std::string> drawn;
+    for (int minute = 0; minute < 200; ++minute) {
+        const ClockOverride later(now().addSeconds(minute * 61));
+        drawn.insert(bestTime(9));
+    }
+    const std::set<std::string> possible{"09:00:00", "10:00:00", "11:00:00", "12:00:00", "13:00:00",
+                                         "14:00:00", "15:00:00", "16:00:00", "17:00:00"};
+    EXPECT_EQ(drawn, possible);
+}
+
+TEST_F(PlacementTest, TheSearchLeavesTheEndAlone)
+{
+    addAppointment("9:00", "10:00");
+    const Date end = item.TimeTo();
+    EXPECT_EQ(bestTime(1), "10:00:00");
+    EXPECT_EQ(item.TimeTo(), end);
+}
+
+TEST_F(PlacementTest, AFailedSearchLeavesTheStartAlone)
+{
+    item.TimeFrom(Date::timeOf(8, 15));
+    database->close();
+    EXPECT_EQ(bestTime(1), "08:15:00");
+    EXPECT_FALSE(errors->takeErrors().empty());
+}
+
+TEST_F(PlacementTest, AnUnknownKindIsPlacedWithoutLooking)
+{
+    clsCalendarItem unknown;
+    unknown.timeduration(2);
+    unknown.getBestTimeInCalendarForSpecificDayAndUser();
+    EXPECT_EQ(timeText(unknown.TimeFrom()), "09:00:00");
+}
+
+TEST_F(PlacementTest, BestStartIsTheLatestEndWithinTheRange)
+{
+    addAppointment("9:00", "9:30");
+    addAppointment("9:45", "11:15");
+    addAppointment("11:30", "12:30");
+    item.getBestStartTime(Date::timeOf(9), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "11:15:00");
+    item.getBestStartTime(Date::timeOf(13), Date::timeOf(17));
+    EXPECT_EQ(timeText(item.TimeFrom()), "13:00:00");
+}
+
+TEST_F(PlacementTest, BestStartCountsTheItemsOwnRowAndTheEndsOfTheRange)
+{
+    item.TimeFrom(Date::timeOf(14));
+    item.TimeTo(Date::timeOf(15));
+    ASSERT_TRUE(item.saveCalendarItem());
+    item.getBestStartTime(Date::timeOf(15), Date::timeOf(15));
+    EXPECT_EQ(timeText(item.TimeFrom()), "15:00:00");
+}
+
+TEST_F(PlacementTest, BestStartWithoutAConnectionIsTheStartOfTheRange)
+{
+    database->close();
+    item.getBestStartTime(Date::timeOf(10), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "10:00:00");
+}
+
+TEST_F(PlacementTest, AMoveKeepsTheMinutesAndTheHoursBetween)
+{
+    item.TimeFrom(Date::timeOf(9, 30));
+    item.TimeTo(Date::timeOf(10, 45));
+    item.moveCalendarItemToNewDateAndHourSlot(Date::of(2026, 4, 2), Date::timeOf(14));
+    EXPECT_EQ(item.DateFrom(), Date::of(2026, 4, 2));
+    EXPECT_EQ(timeText(item.TimeFrom()), "14:30:00");
+    EXPECT_EQ(timeText(item.TimeTo()), "15:45:00");
+    EXPECT_FLOAT_EQ(item.timeduration(), 1.25F);
+    EXPECT_TRUE(item.IsDirty());
+}
+
+TEST_F(PlacementTest, NoDateKeepsTheDateAndStillMovesTheTime)
+{
+    item.moveCalendarItemToNewDateAndHourSlot(noDate, Date::timeOf(14));
+    EXPECT_EQ(item.DateFrom(), today());
+    EXPECT_EQ(timeText(item.TimeFrom()), "14:00:00");
+}
+
+TEST_F(PlacementTest, AMoveOverMidnightComesRound)
+{
+    item.TimeFrom(Date::timeOf(9));
+    item.TimeTo(Date::timeOf(12));
+    item.moveCalendarItemToNewDateAndHourSlot(noDate, Date::timeOf(23));
+    EXPECT_EQ(timeText(item.TimeFrom()), "23:00:00");
+    EXPECT_EQ(timeText(item.TimeTo()), "02:00:00");
+}
+
+TEST_F(PlacementTest, AMoveToTheBestTimeTakesTheNewDay)
+{
+    addAppointment("9:00", "10:00");
+    item.DateFrom(today().addDays(5));
+    item.moveCalendarItemToNewDateAndBestTimeInCalendar(today());
+    EXPECT_EQ(item.DateFrom(), today());
+    EXPECT_EQ(timeText(item.TimeFrom()), "10:00:00");
+    item.TimeFrom(Date::timeOf(8));
+    item.moveCalendarItemToNewDateAndBestTimeInCalendar(noDate);
+    EXPECT_EQ(timeText(item.TimeFrom()), "08:00:00");
+}
+
+TEST_F(PlacementTest, ThePromptTakesTheTimeChosen)
+{
+    dialogs->whenShown("frmSelectStartTime", [](host::Hand& hand) {
+        EXPECT_EQ(hand.form().caption(), "Select Start Time");
+        hand.pickDate("dtpTime", Date::timeOf(14, 20));
+        hand.click("cmdOpts(0)");
+    });
+    EXPECT_TRUE(item.promptFormToChangeStartTime());
+    EXPECT_EQ(timeText(item.TimeFrom()), "14:20:00");
+
+    dialogs->whenShown("frmSelectStartTime", [](host::Hand& hand) {
+        EXPECT_EQ(hand.form().caption(), "Select End Time");
+        hand.pickDate("dtpTime", Date::timeOf(16));
+        hand.click("cmdOpts(0)");
+    });
+    EXPECT_TRUE(item.promptFormToChangeEndTime());
+    EXPECT_EQ(timeText(item.TimeTo()), "16:00:00");
+}
+
+TEST_F(PlacementTest, ACancelledPromptChangesNothing)
+{
+    for (const auto& leave : {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
+                              +[](host::Hand& hand) { hand.pressEscape(); }}) {
+        dialogs->whenShown("frmSelectStartTime", [&](host::Hand& hand) {
+            hand.pickDate("dtpTime", Date::timeOf(14, 20));
+            leave(hand);
+        });
+        EXPECT_FALSE(item.promptFormToChangeStartTime());
+        EXPECT_EQ(timeText(item.TimeFrom()), "09:00:00");
+    }
+}
+
+} // namespace
+} // namespace qncal
