@@ -89,9 +89,10 @@ void printAgenda(CommandContext& context, const AgendaOptions& options)
     for (Date day = span.from; day <= span.to; day = day.addDays(1)) {
         if (day != span.from)
             context.out() << '\n';
-        const auto ofDay =
-            std::ranges::equal_range(items, day.serial(), {}, [](const ItemRow& row) { return row.date.serial(); });
-        printDay(context, day, {ofDay.begin(), ofDay.end()}, !filter.userID);
+        const auto dayOf = [](const ItemRow& row) { return row.date.serial(); };
+        const auto first = std::ranges::lower_bound(items, day.serial(), {}, dayOf);
+        const auto last = std::ranges::upper_bound(items, day.serial(), {}, dayOf);
+        printDay(context, day, {first, last}, !filter.userID);
     }
 }
 

@@ -5,7 +5,7 @@
 
 namespace qncal {
 
-/// A list on a dialog that code fills line by line. Each line carries a number of the filler's own.
+/// A list on a dialog that code fills line by line. Each line carries a number of the filler's own, its `ItemData`.
 /// A call may throw `RunTimeError`; the line is then not added.
 class ListTarget {
 public:

@@ -111,8 +111,8 @@ std::string getCorporationTypeStringFromCorporationTypeNum(std::int32_t code)
 
 std::string getCorporationLevelStringFromCorporationLevelNum(std::int32_t code)
 {
-    return routine("Vestrel.exe-modDatabaseFunctions-getCorporationLevelStringFromCorporationLevelNum",
-                   std::string(), [&] { return textOfCode(corporationLevels, code, "Federal Corporation"); });
+    return routine("Vestrel.exe-modDatabaseFunctions-getCorporationLevelStringFromCorporationLevelNum", std::string(),
+                   [&] { return textOfCode(corporationLevels, code, "Federal Corporation"); });
 }
 
 } // namespace qncal::modDatabaseFunctions

@@ -10,30 +10,30 @@ namespace qncal::modFormatAddresses {
 
 namespace {
 
-constexpr std::string_view canadaSelect
-    = "SELECT Clients.ClientID, AccountingServices.*, ClientData.*, ClientOptions.*, Companies.*, CorpTaxInfo.*, "
-      "LawInfo.*, OtherInfo.*, WSIB_EHTInfo.*, CompaniesNotes.BusinessNotes, CompaniesNotes.ContactNotes ";
-constexpr std::string_view canadaFrom
-    = "FROM ((((((((ClientData INNER JOIN Companies ON ClientData.CompanyIDNum = Companies.CompanyID) "
-      "INNER JOIN AccountingServices ON ClientData.ClientDataID = AccountingServices.ClientDataIDNum) "
-      "INNER JOIN ClientOptions ON ClientData.ClientDataID = ClientOptions.ClientDataIDNum) "
-      "INNER JOIN CorpTaxInfo ON ClientData.ClientDataID = CorpTaxInfo.ClientDataIDNum) "
-      "INNER JOIN LawInfo ON ClientData.ClientDataID = LawInfo.ClientDataIDNum) "
-      "INNER JOIN OtherInfo ON ClientData.ClientDataID = OtherInfo.ClientDataIDNum) "
-      "INNER JOIN WSIB_EHTInfo ON ClientData.ClientDataID = WSIB_EHTInfo.ClientDataIDNum) "
-      "INNER JOIN CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum) "
-      "INNER JOIN Clients ON Companies.CompanyID = Clients.CompanyIDNum ";
+constexpr std::string_view canadaSelect =
+    "SELECT Clients.ClientID, AccountingServices.*, ClientData.*, ClientOptions.*, Companies.*, CorpTaxInfo.*, "
+    "LawInfo.*, OtherInfo.*, WSIB_EHTInfo.*, CompaniesNotes.BusinessNotes, CompaniesNotes.ContactNotes ";
+constexpr std::string_view canadaFrom =
+    "FROM ((((((((ClientData INNER JOIN Companies ON ClientData.CompanyIDNum = Companies.CompanyID) "
+    "INNER JOIN AccountingServices ON ClientData.ClientDataID = AccountingServices.ClientDataIDNum) "
+    "INNER JOIN ClientOptions ON ClientData.ClientDataID = ClientOptions.ClientDataIDNum) "
+    "INNER JOIN CorpTaxInfo ON ClientData.ClientDataID = CorpTaxInfo.ClientDataIDNum) "
+    "INNER JOIN LawInfo ON ClientData.ClientDataID = LawInfo.ClientDataIDNum) "
+    "INNER JOIN OtherInfo ON ClientData.ClientDataID = OtherInfo.ClientDataIDNum) "
+    "INNER JOIN WSIB_EHTInfo ON ClientData.ClientDataID = WSIB_EHTInfo.ClientDataIDNum) "
+    "INNER JOIN CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum) "
+    "INNER JOIN Clients ON Companies.CompanyID = Clients.CompanyIDNum ";
 
-constexpr std::string_view unitedStatesSelect
-    = "SELECT Clients.ClientID, AccountingServices.*, ClientData.*, ClientOptions.*, Companies.*, ClientUSInfo.*, "
-      "CompaniesNotes.BusinessNotes, CompaniesNotes.ContactNotes ";
-constexpr std::string_view unitedStatesFrom
-    = "FROM (((((ClientData INNER JOIN Companies ON ClientData.CompanyIDNum = Companies.CompanyID) "
-      "INNER JOIN ClientUSInfo ON ClientData.ClientDataID = ClientUSInfo.ClientDataIDNum) "
-      "INNER JOIN AccountingServices ON ClientData.ClientDataID = AccountingServices.ClientDataIDNum) "
-      "INNER JOIN ClientOptions ON ClientData.ClientDataID = ClientOptions.ClientDataIDNum) "
-      "INNER JOIN CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum) "
-      "INNER JOIN Clients ON Companies.CompanyID = Clients.CompanyIDNum ";
+constexpr std::string_view unitedStatesSelect =
+    "SELECT Clients.ClientID, AccountingServices.*, ClientData.*, ClientOptions.*, Companies.*, ClientUSInfo.*, "
+    "CompaniesNotes.BusinessNotes, CompaniesNotes.ContactNotes ";
+constexpr std::string_view unitedStatesFrom =
+    "FROM (((((ClientData INNER JOIN Companies ON ClientData.CompanyIDNum = Companies.CompanyID) "
+    "INNER JOIN ClientUSInfo ON ClientData.ClientDataID = ClientUSInfo.ClientDataIDNum) "
+    "INNER JOIN AccountingServices ON ClientData.ClientDataID = AccountingServices.ClientDataIDNum) "
+    "INNER JOIN ClientOptions ON ClientData.ClientDataID = ClientOptions.ClientDataIDNum) "
+    "INNER JOIN CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum) "
+    "INNER JOIN Clients ON Companies.CompanyID = Clients.CompanyIDNum ";
 
 constexpr std::int16_t activeClients = 1;
 constexpr std::int16_t inactiveClients = 2;

@@ -47,9 +47,8 @@ void clsInsertFieldsInRTB::MergeFieldListUse(std::int32_t use)
 
 void clsInsertFieldsInRTB::resetAllItemIDs()
 {
-    routine("Vestrel.exe-clsInsertFieldsInRTB-resetAllItemIDs", [this] {
-        companyID_ = contactID_ = firmID_ = userID_ = appointmentID_ = docketId_ = taskID_ = -1;
-    });
+    routine("Vestrel.exe-clsInsertFieldsInRTB-resetAllItemIDs",
+            [this] { companyID_ = contactID_ = firmID_ = userID_ = appointmentID_ = docketId_ = taskID_ = -1; });
 }
 
 void clsInsertFieldsInRTB::Terminate()

@@ -13,8 +13,8 @@ constexpr CustomFieldTexts::Five five(std::string_view text)
 
 constexpr std::array<CustomFieldTexts, 8> groups{{
     {CustomFieldGroup::client,
-     "SELECT CustomName1, CustomName2, CustomName3, CustomName4, CustomName5 FROM CustomFields;",
-     five("CustomName"), five("ClientCustom"), five("Custom Field "), five("Custom Info "), ""},
+     "SELECT CustomName1, CustomName2, CustomName3, CustomName4, CustomName5 FROM CustomFields;", five("CustomName"),
+     five("ClientCustom"), five("Custom Field "), five("Custom Info "), ""},
     {CustomFieldGroup::contact,
      "SELECT ContactLabel1, ContactLabel2, ContactLabel3, ContactLabel4, ContactLabel5 FROM CustomAddressFields;",
      five("ContactLabel"), five("ContactCustom"), five("Contact Custom Field "), five("Contact Custom Info "), ""},
@@ -34,8 +34,8 @@ constexpr std::array<CustomFieldTexts, 8> groups{{
     {CustomFieldGroup::timeEntry,
      "SELECT DocketCustomName1, DocketCustomName2, DocketCustomName3, DocketCustomName4, DocketCustomName5 "
      "FROM CustomFields;",
-     five("DocketCustomName"), five("DocketCustom"), five("Custom Time Entry Field "),
-     five("Custom Time Entry Info "), ""},
+     five("DocketCustomName"), five("DocketCustom"), five("Custom Time Entry Field "), five("Custom Time Entry Info "),
+     ""},
     {CustomFieldGroup::firm,
      "SELECT CompanyLabel1, CompanyLabel2, CompanyLabel3, CompanyLabel4, CompanyLabel5 FROM CustomAddressFields;",
      five("CompanyLabel"), five("FirmCustom"), five("Your Company Custom Field "), five("Company Custom Info "),

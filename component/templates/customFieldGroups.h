@@ -9,7 +9,17 @@
 namespace qncal {
 
 /// The groups of five user-defined fields, by what they belong to.
-enum class CustomFieldGroup : std::uint8_t { none, client, contact, company, appointment, schedule, task, timeEntry, firm };
+enum class CustomFieldGroup : std::uint8_t {
+    none,
+    client,
+    contact,
+    company,
+    appointment,
+    schedule,
+    task,
+    timeEntry,
+    firm
+};
 
 inline constexpr int customFieldCount = 5;
 

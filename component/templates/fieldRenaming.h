@@ -17,10 +17,7 @@ struct FieldRenaming {
 };
 
 /// A field in a plain template, and in a rich-text stream.
-constexpr ComposedText plainField(std::string_view name)
-{
-    return {plainDelimiters.open, name, plainDelimiters.close};
-}
+constexpr ComposedText plainField(std::string_view name) { return {plainDelimiters.open, name, plainDelimiters.close}; }
 constexpr ComposedText richField(std::string_view name) { return {richDelimiters.open, name, richDelimiters.close}; }
 
 /// Applies the lines in order, each to every occurrence and without regard to case.

@@ -27,12 +27,12 @@ constexpr std::array companyPlan{companyStep, defaultContactStep, accountingStep
 constexpr std::array contactPlan{contactStep, accountingStep, softwareStep, moreContactStep};
 constexpr std::array contactAddressPlan{contactStep, moreContactStep, companyStepAfterContact};
 constexpr std::array appointmentPlan{appointmentStep, companyStepAfterBlank, defaultContactStep,
-                                     accountingStep, softwareStep, moreContactStep};
+                                     accountingStep,  softwareStep,          moreContactStep};
 // No blank line before the company, unlike the lists of an appointment and of a task: meant.
-constexpr std::array timeEntryPlan{timeEntryStep, companyStep, defaultContactStep,
+constexpr std::array timeEntryPlan{timeEntryStep,  companyStep,  defaultContactStep,
                                    accountingStep, softwareStep, moreContactStep};
-constexpr std::array taskPlan{taskStep, companyStepAfterBlank, defaultContactStep,
-                              accountingStep, softwareStep, moreContactStep};
+constexpr std::array taskPlan{taskStep,       companyStepAfterBlank, defaultContactStep,
+                              accountingStep, softwareStep,          moreContactStep};
 
 } // namespace
 

@@ -86,8 +86,9 @@ private:
     {
         if (cuts_.empty() || cuts_.back().at != result_.size())
             return 0;
-        for (std::size_t after = 1; after < width_ && width_ - after <= result_.size(); ++after) {
-            if (isDelimiter(result_.substr(result_.size() - (width_ - after)).append(text_, at, after)))
+        for (std::size_t before = std::min(width_ - 1, result_.size()); before > 0; --before) {
+            const std::size_t after = width_ - before;
+            if (isDelimiter(result_.substr(result_.size() - before).append(text_, at, after)))
                 return after;
         }
         return 0;

@@ -35,7 +35,7 @@ public:
     bool find(std::string_view field, std::string_view value);
 
     Variant field(std::string_view name);
-    std::vector<std::string> fieldNames() const { return plan_->fieldNames(); }
+    std::vector<std::string> fieldNames() const { return plan().fieldNames(); }
 
     /// A write to a record of the database that may be put off; its value stands in the current row.
     struct Write {

@@ -5,8 +5,8 @@
 
 namespace qncal::test {
 
-/// Compares a text with a file of the source tree, character for character. With QNCAL_REWRITE=1 the file is written anew
-/// unless the test has failed already, and the test fails since it has proved nothing.
+/// Compares a text with a file of the source tree, character for character. With QNCAL_REWRITE=1 the file is written
+/// anew unless the test has failed already, and the test fails since it has proved nothing.
 void expectGolden(const std::string& path, const std::string& text);
 
 /// What turns one list of lines into another, in order: "- line" for a line that goes, "+ line" for one that comes.

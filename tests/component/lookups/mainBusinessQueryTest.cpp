@@ -2,6 +2,7 @@
 
 #include "core/RecordSet.h"
 #include "support/ComponentTest.h"
+#include "support/RoutineSweep.h"
 #include "support/rowName.h"
 
 namespace qncal::modFormatAddresses {
@@ -17,8 +18,7 @@ protected:
                            const std::string& clientID, bool shown, int activeStatus)
     {
         const std::string company = std::to_string(addRow(
-            "Companies",
-            {{"CompanyName", companyName}, {"CorporateName", corporateName}, {"ClientID", clientID}}));
+            "Companies", {{"CompanyName", companyName}, {"CorporateName", corporateName}, {"ClientID", clientID}}));
         addRow("CompaniesNotes", {{"CompanyNum", company}, {"BusinessNotes", "Notes on " + companyName}});
         addRow("Clients", {{"CompanyIDNum", company}});
         const std::int32_t client = addRow("ClientData", {{"CompanyIDNum", company},
@@ -63,8 +63,8 @@ TEST_P(MainBusinessFilterTest, SelectsAndSortsInBothCountries)
     addClient("Dogwood", "Delta Inc.", "10", false, 0);
     for (const std::int32_t country : {canada, unitedStates, 0}) {
         locale->country = country;
-        const std::string sql
-            = getMainBusinessSQLString(GetParam().filterClients, GetParam().activeFilter, GetParam().sortOrder);
+        const std::string sql =
+            getMainBusinessSQLString(GetParam().filterClients, GetParam().activeFilter, GetParam().sortOrder);
         EXPECT_EQ(companiesOf(sql), GetParam().companies) << sql;
     }
 }
@@ -130,8 +130,8 @@ TEST_F(MainBusinessQueryTest, BeginsWithTheColumnsAndEndsWithTheOrder)
     EXPECT_TRUE(american.starts_with(
         "SELECT Clients.ClientID, AccountingServices.*, ClientData.*, ClientOptions.*, Companies.*, ClientUSInfo.*, "
         "CompaniesNotes.BusinessNotes, CompaniesNotes.ContactNotes FROM "));
-    EXPECT_TRUE(american.ends_with(
-        "WHERE ClientData.ClientDataID=7 ORDER BY Companies.ClientID, Companies.CompanyName;"));
+    EXPECT_TRUE(
+        american.ends_with("WHERE ClientData.ClientDataID=7 ORDER BY Companies.ClientID, Companies.CompanyName;"));
 }
 
 TEST_F(MainBusinessQueryTest, WithoutALocaleTheTextIsEmpty)
@@ -141,6 +141,20 @@ TEST_F(MainBusinessQueryTest, WithoutALocaleTheTextIsEmpty)
     EXPECT_EQ(errors->takeErrors().size(), 1u);
     EXPECT_EQ(errors->labels().back(), "Vestrel.exe-modFormatAddresses-getMainBusinessSQLString");
 }
+
+const test::SweptRoutine composition{"getMainBusinessSQLString", "",
+                                     [](test::TestWorld&) -> std::function<std::string()> {
+                                         return [] { return getMainBusinessSQLString(true, 1, 1, 7); };
+                                     },
+                                     false};
+
+TEST(MainBusinessQueryFaults, LeavingGivesNothing)
+{
+    test::expectFaultsLeave(composition);
+    test::expectEmptySlotsLeave(composition);
+}
+
+TEST(MainBusinessQueryFaults, RetryingGivesTheSameText) { test::expectFaultsRetry(composition); }
 
 } // namespace
 } // namespace qncal::modFormatAddresses

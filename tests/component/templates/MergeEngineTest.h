@@ -26,7 +26,10 @@ public:
     int clears = 0;
     int refreshes = 0;
 
-    void addLine(std::string_view text, std::int32_t itemData) override { lines.push_back({std::string(text), itemData}); }
+    void addLine(std::string_view text, std::int32_t itemData) override
+    {
+        lines.push_back({std::string(text), itemData});
+    }
     void clear() override { ++clears; }
     void refresh() override { ++refreshes; }
 };
@@ -85,6 +88,7 @@ protected:
 };
 
 template <class Parameter>
-class MergeEngineTestWith : public MergeEngineTest, public testing::WithParamInterface<Parameter> {};
+class MergeEngineTestWith : public MergeEngineTest, public testing::WithParamInterface<Parameter> {
+};
 
 } // namespace qncal::test

@@ -20,8 +20,8 @@ std::string goldenFile(std::string_view name)
 std::string rowText(const FieldListRow& row)
 {
     return row.displayName.str() + " | " + row.databaseField.str() + " | " + row.category.str() + " | "
-        + std::to_string(static_cast<int>(row.dataType)) + " | " + row.sampleText.str() + " | "
-        + std::to_string(row.maximumLength);
+           + std::to_string(static_cast<int>(row.dataType)) + " | " + row.sampleText.str() + " | "
+           + std::to_string(row.maximumLength);
 }
 
 struct ListCase {

@@ -76,7 +76,10 @@ TEST_F(CatalogueTest, AListKeepsItsRegionUntilItIsBuiltAgain)
 /// A firm that moves to the United States once its country has been asked for a number of times.
 class MovingLocale : public ForwardingLocaleService {
 public:
-    MovingLocale(std::shared_ptr<LocaleService> target, int reads) : ForwardingLocaleService(std::move(target)), reads_(reads) {}
+    MovingLocale(std::shared_ptr<LocaleService> target, int reads)
+        : ForwardingLocaleService(std::move(target)), reads_(reads)
+    {
+    }
     std::int32_t getCountryCode() override { return reads_-- > 0 ? canada : unitedStates; }
 
 private:
@@ -147,7 +150,8 @@ TEST_F(CatalogueTest, OfTheTwoTaskCalendarDatesTheFirstIsFound)
     build(8);
     EXPECT_EQ(fieldOf("Task Calendar Date"), "CalendarDate");
     const auto rows = engine.FieldList()->rows();
-    EXPECT_EQ(std::ranges::count(rows, "Task Calendar Date", [](const auto& row) { return row.displayName.view(); }), 2);
+    EXPECT_EQ(std::ranges::count(rows, "Task Calendar Date", [](const auto& row) { return row.displayName.view(); }),
+              2);
 }
 
 TEST_F(CatalogueTest, TheSpousesBirthdayIsATextUnlikeTheContacts)
@@ -274,20 +278,25 @@ TEST_P(ListHeadersTest, StandBeforeTheBlocks)
 INSTANTIATE_TEST_SUITE_P(
     Lists, ListHeadersTest,
     testing::Values(
-        HeaderCase{"Company", 1,
+        HeaderCase{"Company",
+                   1,
                    {"[Company Address Info]", "", "[Default Contact Name]", "", "[Company Accounting Info]", "",
                     "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"Contact", 2,
+        HeaderCase{"Contact",
+                   2,
                    {"", "[Contact Name]", "", "[Company Accounting Info]", "", "[Company Software Info]", "",
                     "[More Contact Info]"}},
         HeaderCase{"ContactAddress", 3, {"", "[Contact Name]", "", "[More Contact Info]", "", "[Company Info]"}},
-        HeaderCase{"Appointment", 5,
+        HeaderCase{"Appointment",
+                   5,
                    {"[Appointment Info]", "", "[Company Address Info]", "", "[Default Contact Name]", "",
                     "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"TimeEntry", 6,
+        HeaderCase{"TimeEntry",
+                   6,
                    {"[Time Entry Info]", "[Company Address Info]", "", "[Default Contact Name]", "",
                     "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"Task", 8,
+        HeaderCase{"Task",
+                   8,
                    {"[Task Info]", "", "[Company Address Info]", "", "[Default Contact Name]", "",
                     "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}}),
     rowName);
@@ -345,12 +354,11 @@ TEST_F(CatalogueTest, EachBlockOfItsOwnAddsItsRows)
     engine.createAccountantFieldListStructure(list, true);
     EXPECT_EQ(list.getCount(), 18);
     EXPECT_EQ(errors->labels(),
-              (std::vector<std::string>{
-                  "Vestrel.exe-clsInsertFieldsInRTB-createAppointmentInfoFieldListStructure",
-                  "Vestrel.exe-clsInsertFieldsInRTB-createTaskInfoFieldListStructure",
-                  "Vestrel.exe-clsInsertFieldsInRTB-createDocketInfoFieldListStructure",
-                  "Vestrel.exe-clsInsertFieldsInRTB-createCompanyInfoFieldListStructure",
-                  "Vestrel.exe-clsInsertFieldsInRTB-createAccountantFieldListStructure"}));
+              (std::vector<std::string>{"Vestrel.exe-clsInsertFieldsInRTB-createAppointmentInfoFieldListStructure",
+                                        "Vestrel.exe-clsInsertFieldsInRTB-createTaskInfoFieldListStructure",
+                                        "Vestrel.exe-clsInsertFieldsInRTB-createDocketInfoFieldListStructure",
+                                        "Vestrel.exe-clsInsertFieldsInRTB-createCompanyInfoFieldListStructure",
+                                        "Vestrel.exe-clsInsertFieldsInRTB-createAccountantFieldListStructure"}));
 }
 
 // --- Custom fields ---
@@ -433,22 +441,22 @@ TEST_P(CustomGroupTest, TakesTheLabelsOfTheRecord)
 
 INSTANTIATE_TEST_SUITE_P(
     Groups, CustomGroupTest,
-    testing::Values(
-        CustomGroupCase{"Client", 2, "CustomFields", "CustomName", "ClientCustom", "Custom Field ", "Custom Info ", ""},
-        CustomGroupCase{"Contact", 3, "CustomAddressFields", "ContactLabel", "ContactCustom", "Contact Custom Field ",
-                        "Contact Custom Info ", ""},
-        CustomGroupCase{"Company", 1, "CustomAddressFields", "CompanyLabel", "CompanyCustom", "Company Custom Field ",
-                        "Company Custom Info ", ""},
-        CustomGroupCase{"Appointment", 5, "CustomFields", "ApptCustomName", "ApptCustom", "Custom Appt Field ",
-                        "Custom Appt Info ", ""},
-        CustomGroupCase{"Schedule", 8, "CustomFields", "RemittanceLabel", "ScheduleCustom", "Custom Task Field ",
-                        "Custom Task Info ", ""},
-        CustomGroupCase{"Task", 8, "CustomFields", "TaskCustomName", "TaskCustom", "Custom Task Calendar Field ",
-                        "Custom Task Info ", ""},
-        CustomGroupCase{"TimeEntry", 6, "CustomFields", "DocketCustomName", "DocketCustom", "Custom Time Entry Field ",
-                        "Custom Time Entry Info ", ""},
-        CustomGroupCase{"Firm", 4, "CustomAddressFields", "CompanyLabel", "FirmCustom", "Your Company Custom Field ",
-                        "Company Custom Info ", "Your "}),
+    testing::Values(CustomGroupCase{"Client", 2, "CustomFields", "CustomName", "ClientCustom", "Custom Field ",
+                                    "Custom Info ", ""},
+                    CustomGroupCase{"Contact", 3, "CustomAddressFields", "ContactLabel", "ContactCustom",
+                                    "Contact Custom Field ", "Contact Custom Info ", ""},
+                    CustomGroupCase{"Company", 1, "CustomAddressFields", "CompanyLabel", "CompanyCustom",
+                                    "Company Custom Field ", "Company Custom Info ", ""},
+                    CustomGroupCase{"Appointment", 5, "CustomFields", "ApptCustomName", "ApptCustom",
+                                    "Custom Appt Field ", "Custom Appt Info ", ""},
+                    CustomGroupCase{"Schedule", 8, "CustomFields", "RemittanceLabel", "ScheduleCustom",
+                                    "Custom Task Field ", "Custom Task Info ", ""},
+                    CustomGroupCase{"Task", 8, "CustomFields", "TaskCustomName", "TaskCustom",
+                                    "Custom Task Calendar Field ", "Custom Task Info ", ""},
+                    CustomGroupCase{"TimeEntry", 6, "CustomFields", "DocketCustomName", "DocketCustom",
+                                    "Custom Time Entry Field ", "Custom Time Entry Info ", ""},
+                    CustomGroupCase{"Firm", 4, "CustomAddressFields", "CompanyLabel", "FirmCustom",
+                                    "Your Company Custom Field ", "Company Custom Info ", "Your "}),
     rowName);
 
 class SqlLog : public ForwardingDatabaseService {

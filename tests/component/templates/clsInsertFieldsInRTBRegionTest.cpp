@@ -1,5 +1,7 @@
 #include "MergeEngineTest.h"
 
+#include "support/RoutineSweep.h"
+
 namespace qncal::test {
 namespace {
 
@@ -26,7 +28,7 @@ struct ProvinceCase {
 };
 
 const std::vector<std::string> provinceFields{
-    "WSIB Number",      "NEQ Number",     "WCB Number", "WHSCC Number", "WSIB Premium Rate",    "WCB Premium Rate",
+    "WSIB Number",      "NEQ Number",      "WCB Number", "WHSCC Number", "WSIB Premium Rate",    "WCB Premium Rate",
     "WSIB Firm Number", "WCB Firm Number", "GST Number", "HST Number",   "ON Corp. MCBS Number", "Quebec ID Number",
 };
 
@@ -51,8 +53,9 @@ const std::vector<std::string> princeEdwardIsland{
     "WSIB Firm Number", "WCB Firm Number", "GST Number", "GST Number", "ON Corp. MCBS Number", "Quebec ID Number",
 };
 const std::vector<std::string> ontario{
-    "WSIB Number",      "WSIB Number",      "WSIB Number", "WSIB Number", "WSIB Premium Rate",    "WSIB Premium Rate",
-    "WSIB Firm Number", "WSIB Firm Number", "GST Number",  "GST Number",  "ON Corp. MCBS Number", "ON Corp. MCBS Number",
+    "WSIB Number",       "WSIB Number",       "WSIB Number",          "WSIB Number",
+    "WSIB Premium Rate", "WSIB Premium Rate", "WSIB Firm Number",     "WSIB Firm Number",
+    "GST Number",        "GST Number",        "ON Corp. MCBS Number", "ON Corp. MCBS Number",
 };
 
 const std::vector<std::string> corpTaxWords{"ON",   "BC",   "Alberta", "Manitoba", "Sask.",
@@ -80,23 +83,18 @@ TEST_P(ProvinceRulesTest, RenamesTheCorpTaxNumbersOfOtherProvinces)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Provinces, ProvinceRulesTest,
-                         testing::Values(ProvinceCase{"Alberta", 0, prairies, "Alberta"},
-                                         ProvinceCase{"BritishColumbia", 1, prairies, "BC"},
-                                         ProvinceCase{"Manitoba", 2, prairies, "Manitoba"},
-                                         ProvinceCase{"Ontario", 3, ontario, "ON"},
-                                         ProvinceCase{"Saskatchewan", 4, prairies, "Sask."},
-                                         ProvinceCase{"Code5", 5, ontario, "ON"},
-                                         ProvinceCase{"Code6", 6, ontario, "ON"},
-                                         ProvinceCase{"Code7", 7, ontario, "ON"},
-                                         ProvinceCase{"Quebec", 8, quebec, "Que."},
-                                         ProvinceCase{"NovaScotia", 9, novaScotia, "N.S."},
-                                         ProvinceCase{"NewBrunswick", 10, newBrunswick, "N.B."},
-                                         ProvinceCase{"Newfoundland", 11, newBrunswick, "Nfld."},
-                                         ProvinceCase{"PrinceEdwardIsland", 12, princeEdwardIsland, "P.E.I."},
-                                         ProvinceCase{"Code13", 13, ontario, "ON"},
-                                         ProvinceCase{"NegativeCode", -1, ontario, "ON"}),
-                         rowName);
+INSTANTIATE_TEST_SUITE_P(
+    Provinces, ProvinceRulesTest,
+    testing::Values(ProvinceCase{"Alberta", 0, prairies, "Alberta"}, ProvinceCase{"BritishColumbia", 1, prairies, "BC"},
+                    ProvinceCase{"Manitoba", 2, prairies, "Manitoba"}, ProvinceCase{"Ontario", 3, ontario, "ON"},
+                    ProvinceCase{"Saskatchewan", 4, prairies, "Sask."}, ProvinceCase{"Code5", 5, ontario, "ON"},
+                    ProvinceCase{"Code6", 6, ontario, "ON"}, ProvinceCase{"Code7", 7, ontario, "ON"},
+                    ProvinceCase{"Quebec", 8, quebec, "Que."}, ProvinceCase{"NovaScotia", 9, novaScotia, "N.S."},
+                    ProvinceCase{"NewBrunswick", 10, newBrunswick, "N.B."},
+                    ProvinceCase{"Newfoundland", 11, newBrunswick, "Nfld."},
+                    ProvinceCase{"PrinceEdwardIsland", 12, princeEdwardIsland, "P.E.I."},
+                    ProvinceCase{"Code13", 13, ontario, "ON"}, ProvinceCase{"NegativeCode", -1, ontario, "ON"}),
+    rowName);
 
 class ConvertProvinceFieldsTest : public MergeEngineTest {};
 
@@ -147,14 +145,32 @@ TEST_F(ConvertProvinceFieldsTest, WithoutALocaleTheResultIsEmpty)
 // --- Countries ---
 
 const std::vector<std::string> canadianNames{
-    "Province",           "Postal Code",          "Contact Business Province", "Contact Business Postal Code",
-    "Contact Home Province", "Contact Home Postal Code", "Spouse Home Province",   "Spouse Home Postal Code",
-    "Your Province",      "Your Postal Code",     "Contact SIN",               "Spouse SIN",
+    "Province",
+    "Postal Code",
+    "Contact Business Province",
+    "Contact Business Postal Code",
+    "Contact Home Province",
+    "Contact Home Postal Code",
+    "Spouse Home Province",
+    "Spouse Home Postal Code",
+    "Your Province",
+    "Your Postal Code",
+    "Contact SIN",
+    "Spouse SIN",
 };
 const std::vector<std::string> americanNames{
-    "State",              "Zip Code",             "Contact Business State",    "Contact Business Zip Code",
-    "Contact Home State", "Contact Home Zip Code", "Spouse Home State",        "Spouse Home Zip Code",
-    "Your State",         "Your Zip Code",        "Contact SSN",               "Spouse SSN",
+    "State",
+    "Zip Code",
+    "Contact Business State",
+    "Contact Business Zip Code",
+    "Contact Home State",
+    "Contact Home Zip Code",
+    "Spouse Home State",
+    "Spouse Home Zip Code",
+    "Your State",
+    "Your Zip Code",
+    "Contact SSN",
+    "Spouse SSN",
 };
 
 TEST_F(ConvertProvinceFieldsTest, TheUnitedStatesTakeTheirNames)
@@ -199,8 +215,7 @@ TEST_P(LegacyNamesTest, BringsTheTextUpToDate)
 INSTANTIATE_TEST_SUITE_P(
     Rows, LegacyNamesTest,
     testing::Values(
-        LegacyCase{"Brackets", "<<City>>", "«City»"},
-        LegacyCase{"DueDate", "«(Due Date, d)»", "«(Task Due Date, d)»"},
+        LegacyCase{"Brackets", "<<City>>", "«City»"}, LegacyCase{"DueDate", "«(Due Date, d)»", "«(Task Due Date, d)»"},
         LegacyCase{"DueDateRich", R"(\'ab(Due Date, d)\'bb)", R"(\'ab(Task Due Date, d)\'bb)"},
         LegacyCase{"DueDateWithoutDelimiter", "(Due Date, d)", "(Due Date, d)"},
         LegacyCase{"InHouseDueDate", "«(in-House Due Date, d)»", "«(Task in-House Due Date, d)»"},
@@ -231,8 +246,9 @@ INSTANTIATE_TEST_SUITE_P(
         LegacyCase{"TaskWeekdayRich", R"(\'abTask Weekday Due Date\'bb)", R"(\'abTask Calendar Date\'bb)"},
         LegacyCase{"RemittanceYear", "«Remittance Year»", "«Task Year»"},
         LegacyCase{"RemittanceYearRich", R"(\'abRemittance Year\'bb)", R"(\'abTask Year\'bb)"},
-        LegacyCase{"CustomRemittances", "«Custom Remitt Field 1»«Custom Remitt Field 2»«Custom Remitt Field 3»"
-                                        "«Custom Remitt Field 4»«Custom Remitt Field 5»",
+        LegacyCase{"CustomRemittances",
+                   "«Custom Remitt Field 1»«Custom Remitt Field 2»«Custom Remitt Field 3»"
+                   "«Custom Remitt Field 4»«Custom Remitt Field 5»",
                    "«Custom Task Field 1»«Custom Task Field 2»«Custom Task Field 3»"
                    "«Custom Task Field 4»«Custom Task Field 5»"},
         LegacyCase{"CustomRemittancesRich", R"(\'abCustom Remitt Field 1\'bb\'abCustom Remitt Field 5\'bb)",
@@ -271,7 +287,8 @@ INSTANTIATE_TEST_SUITE_P(
     Provinces, ProvinceSpellingTest,
     testing::Values(
         SpellingCase{"Alberta", {"ALBERTA", "Alberta", "alta.", "Alta", "ab"}, "AB", "Alberta"},
-        SpellingCase{"BritishColumbia", {"BritishColumbia", "British Columbia", "b.c.", "BC"}, "BC", "British Columbia"},
+        SpellingCase{
+            "BritishColumbia", {"BritishColumbia", "British Columbia", "b.c.", "BC"}, "BC", "British Columbia"},
         SpellingCase{"Manitoba", {"Manitoba", "Man.", "man", "mb"}, "MB", "Manitoba"},
         SpellingCase{"Ontario", {"Ontario", "Ont.", "ont", "on"}, "ON", "Ontario"},
         SpellingCase{"Saskatchewan", {"Saskatchewan", "Sask.", "sask", "sk"}, "SK", "Saskatchewan"},
@@ -280,8 +297,8 @@ INSTANTIATE_TEST_SUITE_P(
         SpellingCase{"NewBrunswick", {"NewBrunswick", "New Brunswick", "N.B.", "nb"}, "NB", "New Brunswick"},
         SpellingCase{"Newfoundland", {"Newfoundland", "Newfoundland & Labrador", "nl"}, "NL", "Newfoundland"},
         SpellingCase{"PrinceEdwardIsland", {"Prince Edward Island", "pei", "P.E.I."}, "PEI", "Prince Edward Island"},
-        SpellingCase{"NorthwestTerritories", {"Northwest Territories", "N.W.T.", "nwt", "nt"}, "NT",
-                     "Northwest Territories"},
+        SpellingCase{
+            "NorthwestTerritories", {"Northwest Territories", "N.W.T.", "nwt", "nt"}, "NT", "Northwest Territories"},
         SpellingCase{"Nunavut", {"Nunavut", "nu"}, "NU", "Nunavut"},
         SpellingCase{"Yukon", {"Yukon", "yt"}, "YT", "Yukon"}),
     rowName);
@@ -294,6 +311,23 @@ TEST_F(ConvertProvinceFieldsTest, AnUnknownProvinceComesBackAsItIs)
         EXPECT_EQ(engine.getFullProvinceString(province), province);
     }
 }
+
+// --- Faults ---
+
+const SweptRoutine conversion{"convertProvinceFields", "",
+                              [](TestWorld&) -> std::function<std::string()> {
+                                  auto engine = std::make_shared<clsInsertFieldsInRTB>();
+                                  return [engine] { return engine->convertProvinceFields("<<State>> «WCB Number»"); };
+                              },
+                              false};
+
+TEST(ConvertProvinceFieldsFaults, LeavingGivesNothing)
+{
+    expectFaultsLeave(conversion);
+    expectEmptySlotsLeave(conversion);
+}
+
+TEST(ConvertProvinceFieldsFaults, RetryingGivesTheSameText) { expectFaultsRetry(conversion); }
 
 } // namespace
 } // namespace qncal::test

@@ -168,10 +168,20 @@ TEST_F(FieldInsertionTest, TheControlsOfADialogAreTargets)
 
 TEST_F(FieldInsertionTest, TodaysDateTakesTheFormatOfItsIndex)
 {
-    const std::vector<std::string> keywords{"dddd, mmmm d yyyy", "dddd mmmm d yyyy", "mmmm d, yyyy", "mmmm d yyyy",
-                                            "mmm d yyyy",        "dd/mm/yy",         "mm/dd/yy",     "d",
-                                            "dddd",              "mmmm",             "mmm",          "yyyy",
-                                            "mmmm yyyy",         "mmmm d"};
+    const std::vector<std::string> keywords{"dddd, mmmm d yyyy",
+                                            "dddd mmmm d yyyy",
+                                            "mmmm d, yyyy",
+                                            "mmmm d yyyy",
+                                            "mmm d yyyy",
+                                            "dd/mm/yy",
+                                            "mm/dd/yy",
+                                            "d",
+                                            "dddd",
+                                            "mmmm",
+                                            "mmm",
+                                            "yyyy",
+                                            "mmmm yyyy",
+                                            "mmmm d"};
     for (std::int32_t index = 1; index <= 14; ++index) {
         const std::string expression = "(Todays Date, " + keywords[static_cast<std::size_t>(index - 1)] + ")";
         EXPECT_EQ(engine.insertCurrentDateMergeField(index, false), expression);

@@ -364,8 +364,8 @@ TEST_P(StoreContract, AQuotedTextMatchesItselfAndNothingElse)
     for (const char* subject : {"100%", "100x", "a_b", "axb", "a*b", "a[b", "a?b", "a]b", "O'Brien"})
         addAppointment(subject);
     for (const char* subject : {"100%", "a_b", "a*b", "a[b", "a?b", "a]b", "O'Brien"})
-        EXPECT_EQ(subjects("SELECT Appointments.* FROM Appointments WHERE Subject LIKE '%" + store().getSQLText(subject) +
-                           "%';"),
+        EXPECT_EQ(subjects("SELECT Appointments.* FROM Appointments WHERE Subject LIKE '%" + store().getSQLText(subject)
+                           + "%';"),
                   Texts{subject});
 }
 
@@ -424,10 +424,9 @@ TEST_P(StoreContract, ATextThatDoesNotConvertIsRefusedAtOnce)
 {
     const auto id = addAppointment("A", {{"UserIDNum", "5"}});
     const auto handle = openUpdatable(byKey(id));
-    const std::pair<const char*, const char*> rows[] = {{"UserIDNum", "abc"},      {"UserIDNum", "99999999999"},
-                                                        {"DateFrom", "not a day"}, {"DateFrom", "2026-02-30"},
-                                                        {"TimeFrom", "25:00:00"},  {"Remind", "maybe"},
-                                                        {"BackColour", "red"}};
+    const std::pair<const char*, const char*> rows[] = {
+        {"UserIDNum", "abc"},     {"UserIDNum", "99999999999"}, {"DateFrom", "not a day"}, {"DateFrom", "2026-02-30"},
+        {"TimeFrom", "25:00:00"}, {"Remind", "maybe"},          {"BackColour", "red"}};
     for (const auto& [field, text] : rows) {
         try {
             set(handle, field, text);
