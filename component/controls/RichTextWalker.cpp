@@ -11,9 +11,10 @@ namespace qncal {
 namespace {
 
 /// Windows code page 1252 from 0x80 to 0x9F; 0 where it has no character.
-constexpr std::array<std::uint16_t, 32> cp1252High{
-    0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0, 0x017D, 0,
-    0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0, 0x017E, 0x0178};
+constexpr std::array<std::uint16_t, 32> cp1252High{0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                                   0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                   0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
 
 char32_t fromCp1252(unsigned char byte)
 {
@@ -192,7 +193,8 @@ void RichTextWalker::utf16Unit(std::uint16_t unit, std::size_t start)
         highSurrogateStart_ = start;
     } else if (unit >= 0xDC00 && unit < 0xE000) {
         const char32_t high = std::exchange(highSurrogate_, char32_t{0});
-        character(high ? 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00u) : 0xFFFD, high ? highSurrogateStart_ : start);
+        character(high ? 0x10000 + ((high - 0xD800) << 10) + (unit - 0xDC00u) : 0xFFFD,
+                  high ? highSurrogateStart_ : start);
     } else {
         character(unit, start);
     }

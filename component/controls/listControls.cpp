@@ -62,7 +62,8 @@ void RowList::listIndex(std::int32_t index)
 
 bool RowList::selectItemData(std::int32_t itemData)
 {
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [=](const ListRow& row) { return row.itemData == itemData; });
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [=](const ListRow& row) { return row.itemData == itemData; });
     listIndex(found == rows_.end() ? -1 : static_cast<std::int32_t>(found - rows_.begin()));
     return found != rows_.end();
 }
@@ -101,8 +102,7 @@ void ComboBox::autoComplete(std::string typed)
 void ComboBox::autoCompleteKey(std::int32_t& keyAscii)
 {
     constexpr std::int32_t firstPrintable = 32;
-    if (keyAscii < firstPrintable
-        || selStart_ + selLength_ < static_cast<std::int32_t>(countCodePoints(text_)))
+    if (keyAscii < firstPrintable || selStart_ + selLength_ < static_cast<std::int32_t>(countCodePoints(text_)))
         return;
     std::string typed = text_;
     if (selLength_ > 0)

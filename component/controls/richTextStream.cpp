@@ -48,11 +48,11 @@ std::size_t streamOffsetOf(std::string_view richText, std::int32_t position)
     std::int32_t seen = 0;
     std::size_t found = std::string_view::npos;
     const std::size_t end = TextWalker(richText, [&](char32_t, std::size_t offset) {
-        if (seen++ != position)
-            return true;
-        found = offset;
-        return false;
-    }).walk();
+                                if (seen++ != position)
+                                    return true;
+                                found = offset;
+                                return false;
+                            }).walk();
     return found == std::string_view::npos ? end : found;
 }
 

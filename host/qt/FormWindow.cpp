@@ -10,6 +10,17 @@
 
 namespace qncal::host {
 
+namespace {
+
+/// Whether the Tab key stops there.
+bool takesFocus(const QWidget& widget)
+{
+    const QWidget& proxied = widget.focusProxy() ? *widget.focusProxy() : widget;
+    return (proxied.focusPolicy() & Qt::TabFocus) != 0;
+}
+
+} // namespace
+
 FormWindow::FormWindow(Form& form, QWidget* parent)
     : QDialog(parent), form_(&form), updated_(form.updated, this, [this] { showGeneral(); }),
       focusMoved_(form.focusMoved, this, [this] { focusControl(); }), destroyed_(form.destroyed, this, [this] {
@@ -27,6 +38,7 @@ FormWindow::FormWindow(Form& form, QWidget* parent)
 QHBoxLayout* FormWindow::addButtons(std::initializer_list<std::string_view> paths)
 {
     auto* row = new QHBoxLayout;
+    row->setContentsMargins(0, fontMetrics().height() / 2, 0, 0);
     row->addStretch();
     for (const std::string_view path : paths)
         row->addWidget(add<QPushButton, CommandButton>(path));
@@ -38,12 +50,21 @@ void FormWindow::finish()
     QWidget* previous = nullptr;
     for (const Control* control : form_->controls()) {
         QWidget* widget = ControlBinding::widgetOf(*this, *control);
-        if (!widget || (widget->focusPolicy() == Qt::NoFocus && !widget->focusProxy()))
+        if (!widget || !takesFocus(*widget))
             continue;
         if (previous)
             setTabOrder(previous, widget);
         previous = widget;
     }
+}
+
+QWidget* FormWindow::firstWidget() const
+{
+    for (const Control* control : form_->controls())
+        if (QWidget* widget = ControlBinding::widgetOf(*this, *control);
+            widget && takesFocus(*widget) && control->isEnabled() && control->isVisible())
+            return widget;
+    return nullptr;
 }
 
 void FormWindow::showGeneral()
@@ -75,8 +96,12 @@ void FormWindow::closeEvent(QCloseEvent* event)
 void FormWindow::showEvent(QShowEvent* event)
 {
     QDialog::showEvent(event);
-    if (form_)
+    if (!form_)
+        return;
+    if (form_->focusedControl())
         focusControl();
+    else if (QWidget* first = firstWidget())
+        first->setFocus(Qt::ActiveWindowFocusReason);
 }
 
 void FormWindow::reject()

@@ -49,6 +49,8 @@ protected:
 private:
     void showGeneral();
     void focusControl();
+    /// The first widget in the form's order that takes the focus now.
+    QWidget* firstWidget() const;
 
     Form* form_;
     Subscription updated_;

@@ -26,7 +26,9 @@ public:
         if (event_)
             event_->unsubscribe(number_);
     }
-    Subscription(Subscription&& other) noexcept : event_(std::exchange(other.event_, nullptr)), number_(other.number_) {}
+    Subscription(Subscription&& other) noexcept : event_(std::exchange(other.event_, nullptr)), number_(other.number_)
+    {
+    }
     Subscription& operator=(Subscription&& other) noexcept
     {
         std::swap(event_, other.event_);

@@ -10,11 +10,11 @@ namespace qncal::host {
 namespace {
 
 constexpr std::array<const char*, statusIconCount> names{
-    "Completed", "Cancelled", "Postponed", "Out of office", "Important", "Telephone", "E-mail", "Meeting", "Money",
-    "Document", "Tax form", "Calendar", "Clock", "Bell", "Star", "Flag", "Home", "Car", "Aeroplane", "Coffee",
-    "Person", "People", "Question", "Information", "Warning", "Locked", "Key", "Heart", "Pinned", "Link", "Chart",
-    "Briefcase", "Building", "Printer", "Fax", "Letter", "Signature", "Folder", "Search", "Edit", "Discarded",
-    "In progress"};
+    "Completed", "Cancelled", "Postponed", "Out of office", "Important", "Telephone",   "E-mail",  "Meeting", "Money",
+    "Document",  "Tax form",  "Calendar",  "Clock",         "Bell",      "Star",        "Flag",    "Home",    "Car",
+    "Aeroplane", "Coffee",    "Person",    "People",        "Question",  "Information", "Warning", "Locked",  "Key",
+    "Heart",     "Pinned",    "Link",      "Chart",         "Briefcase", "Building",    "Printer", "Fax",     "Letter",
+    "Signature", "Folder",    "Search",    "Edit",          "Discarded", "In progress"};
 
 bool isNumber(int number) { return number >= 1 && number <= statusIconCount; }
 

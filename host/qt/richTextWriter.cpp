@@ -102,7 +102,9 @@ void Writer::writeParagraphFormat(const QTextBlock& block)
         word(body_, "qj");
     for (const QTextOption::Tab& tab : format.tabPositions())
         word(body_, "tx", twips(tab.position));
-    body_ += ' ';
+    // The blank ends a control word; behind a group it would be text.
+    if (!body_.ends_with('}'))
+        body_ += ' ';
 }
 
 void Writer::writeRun(const QTextFragment& fragment)
@@ -166,7 +168,8 @@ std::string Writer::tables() const
 {
     std::string tables = "{\\fonttbl";
     for (qsizetype font = 0; font < fonts_.size(); ++font)
-        tables += "{\\f" + std::to_string(font) + "\\fnil\\fcharset0 " + escapedForStream(fromQt(fonts_.at(font))) + ";}";
+        tables +=
+            "{\\f" + std::to_string(font) + "\\fnil\\fcharset0 " + escapedForStream(fromQt(fonts_.at(font))) + ";}";
     tables += '}';
     if (colours_.isEmpty())
         return tables;

@@ -84,9 +84,11 @@ void ControlBinding::showGeneral()
     // A widget without a parent would become a window of its own.
     if (!control_->isVisible() || widget_->parentWidget())
         widget_->setVisible(control_->isVisible());
-    widget_->setToolTip(toQt(control_->toolTip()));
-    if (!control_->accessibleName().empty())
-        widget_->setAccessibleName(withoutAccessKey(control_->accessibleName()));
+    // A window may give names of its own to what the form leaves unnamed.
+    if (std::exchange(shownToolTip_, control_->toolTip()) != control_->toolTip())
+        widget_->setToolTip(toQt(shownToolTip_));
+    if (std::exchange(shownName_, control_->accessibleName()) != control_->accessibleName())
+        widget_->setAccessibleName(withoutAccessKey(shownName_));
     if (shownBack_ != control_->backColour() || shownFore_ != control_->foreColour()) {
         shownBack_ = control_->backColour();
         shownFore_ = control_->foreColour();

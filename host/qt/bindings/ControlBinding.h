@@ -67,6 +67,8 @@ private:
     QWidget* widget_;
     Subscription updated_;
     Subscription destroyed_;
+    std::string shownToolTip_;
+    std::string shownName_;
     std::optional<Colour> shownBack_;
     std::optional<Colour> shownFore_;
     bool showing_ = false;

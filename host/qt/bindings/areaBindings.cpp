@@ -59,9 +59,8 @@ protected:
     {
         if (auto* box = qobject_cast<QGroupBox*>(&view()))
             box->setTitle(toQt(model().caption()));
-        // A layout keeps its widgets where it wants them.
-        if (!view().parentWidget() || !view().parentWidget()->layout())
-            view().move(view().x(), model().top());
+        if (std::exchange(shownTop_, model().top()) != model().top())
+            view().move(view().x(), shownTop_);
     }
 
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -70,6 +69,9 @@ protected:
             model().height(view().height());
         return ControlBinding::eventFilter(watched, event);
     }
+
+private:
+    std::int32_t shownTop_ = 0;
 };
 
 class ImageBinding : public BindingOf<Image, QLabel> {

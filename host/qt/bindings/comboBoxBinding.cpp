@@ -6,6 +6,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 
+#include <algorithm>
+
 namespace qncal::host {
 
 namespace {
@@ -50,19 +52,18 @@ private:
     {
         QComboBox& box = view();
         const auto& rows = model().rows();
-        const int count = static_cast<int>(rows.size());
-        while (box.count() > count)
+        // Long lists grow row by row: only what differs costs anything.
+        const auto same = std::mismatch(rows.begin(), rows.end(), shownRows_.begin(), shownRows_.end()).first;
+        while (box.count() > static_cast<int>(rows.size()))
             box.removeItem(box.count() - 1);
-        for (int index = 0; index < count; ++index) {
+        for (int index = static_cast<int>(same - rows.begin()); index < static_cast<int>(rows.size()); ++index) {
             const ListRow& row = rows[static_cast<std::size_t>(index)];
-            const QString text = toQt(row.text);
             if (index == box.count())
-                box.addItem(text);
-            else if (box.itemText(index) != text)
-                box.setItemText(index, text);
-            if (box.itemData(index) != row.itemData)
-                box.setItemData(index, row.itemData);
+                box.addItem({});
+            box.setItemText(index, toQt(row.text));
+            box.setItemData(index, row.itemData);
         }
+        shownRows_ = rows;
     }
 
     void showText()
@@ -113,6 +114,8 @@ private:
         const std::int32_t last = charactersOfUnits(text, start + edit.selectedText().size());
         takeOver([=, this] { model().select(first, last - first); });
     }
+
+    std::vector<ListRow> shownRows_;
 };
 
 } // namespace

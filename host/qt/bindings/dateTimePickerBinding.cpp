@@ -39,6 +39,8 @@ protected:
     void show() override
     {
         QDateTimeEdit& edit = view().edit();
+        // The words of a pattern are the component's; the toolkit's own pattern follows the user's language.
+        edit.setLocale(model().customFormat().empty() ? QLocale() : QLocale::c());
         edit.setDisplayFormat(pattern());
         edit.setDateTime(toQt(model().value()));
         edit.setEnabled(model().hasValue());
@@ -64,7 +66,7 @@ private:
     {
         if (!model().customFormat().empty())
             return toQtDatePattern(model().customFormat());
-        const QLocale locale = view().locale();
+        const QLocale locale;
         return model().format() == DateTimePicker::Format::date ? locale.dateFormat(QLocale::ShortFormat)
                                                                 : locale.timeFormat(QLocale::ShortFormat);
     }

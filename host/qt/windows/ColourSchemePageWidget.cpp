@@ -40,13 +40,13 @@ ColourSchemePageWidget::ColourSchemePageWidget(Form& form, QWidget* parent) : QW
 
     auto* layout = new QGridLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->setHorizontalSpacing(fontMetrics().height());
+    layout->setColumnMinimumWidth(1, fontMetrics().height() / 2);
     layout->addWidget(schemes, 0, 0);
-    layout->addLayout(details, 0, 1);
+    layout->addLayout(details, 0, 2);
     layout->addLayout(listButtons, 1, 0);
-    layout->addLayout(saveRow, 1, 1);
+    layout->addLayout(saveRow, 1, 2);
     layout->setColumnStretch(0, 2);
-    layout->setColumnStretch(1, 3);
+    layout->setColumnStretch(2, 3);
 }
 
 QGridLayout* ColourSchemePageWidget::newFields(Form& form)

@@ -15,6 +15,7 @@ PlainWindow::PlainWindow(Form& form, QWidget* parent) : FormWindow(form, parent)
     auto* area = new QScrollArea(this);
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);
     auto* page = new QWidget(area);
     auto* rows = new QFormLayout(page);
     area->setWidget(page);

@@ -5,26 +5,27 @@
 #include "controls/rangeControls.h"
 #include "qt/icons.h"
 #include "qt/widgets/ColourButton.h"
+#include "qt/widgets/IconTile.h"
 #include "qt/widgets/PanelScrollArea.h"
 
 #include <QCheckBox>
 #include <QEvent>
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QToolButton>
+
+#include <algorithm>
 
 namespace qncal::host {
 
 namespace {
 
 constexpr int iconColumns = 6;
-constexpr int tileEdge = 40;
-constexpr int iconEdge = 24;
 /// Some rows show that there are more below.
-constexpr int visibleHeight = tileEdge * 9 / 2;
+constexpr int visibleHeight = IconTile::edge * 9 / 2;
 
 } // namespace
 
@@ -38,7 +39,7 @@ StatusOptionsWindow::StatusOptionsWindow(Form& form, QWidget* parent) : FormWind
 
     area_ = new PanelScrollArea(this);
     area_->setPanel(newIconPanel());
-    area_->setMinimumHeight(tileEdge * 3 / 2);
+    area_->setMinimumHeight(IconTile::edge * 3 / 2);
     bind(control<Panel>("picScrollBarContainer"), *area_->viewport());
     bind(control<ScrollBar>("vScrollBar"), *area_->verticalScrollBar());
 
@@ -67,24 +68,40 @@ QWidget* StatusOptionsWindow::newIconPanel()
     grid->setSpacing(0);
     grid->setColumnStretch(iconColumns, 1);
     for (int number = 1; number <= statusIconCount; ++number) {
-        auto* tile = add<QToolButton, CheckBox>("chkSample(" + std::to_string(number) + ")");
+        auto* tile = add<IconTile, CheckBox>("chkSample(" + std::to_string(number) + ")");
         tile->setIcon(statusIcon(number));
-        tile->setIconSize({iconEdge, iconEdge});
-        tile->setFixedSize(tileEdge, tileEdge);
-        tile->setAutoRaise(true);
-        tile->setFocusPolicy(Qt::StrongFocus);
         tile->setToolTip(statusIconName(number));
         tile->setAccessibleName(statusIconName(number));
         tile->installEventFilter(this);
+        tiles_.push_back(tile);
         grid->addWidget(tile, (number - 1) / iconColumns, (number - 1) % iconColumns);
     }
     return panel;
 }
 
+QWidget* StatusOptionsWindow::tileBeside(const QWidget& tile, int key) const
+{
+    const auto place = std::find(tiles_.begin(), tiles_.end(), &tile) - tiles_.begin();
+    const auto target = place
+                        + (key == Qt::Key_Left    ? -1
+                           : key == Qt::Key_Right ? 1
+                           : key == Qt::Key_Up    ? -iconColumns
+                           : key == Qt::Key_Down  ? iconColumns
+                                                  : 0);
+    const bool exists = target >= 0 && target < static_cast<std::ptrdiff_t>(tiles_.size());
+    return exists && target != place ? tiles_[static_cast<std::size_t>(target)] : nullptr;
+}
+
 bool StatusOptionsWindow::eventFilter(QObject* watched, QEvent* event)
 {
+    auto& tile = static_cast<QWidget&>(*watched);
     if (event->type() == QEvent::FocusIn)
-        area_->ensureVisible(*static_cast<QWidget*>(watched));
+        area_->ensureVisible(tile);
+    if (event->type() == QEvent::KeyPress)
+        if (QWidget* beside = tileBeside(tile, static_cast<QKeyEvent&>(*event).key())) {
+            beside->setFocus(Qt::TabFocusReason);
+            return true;
+        }
     return FormWindow::eventFilter(watched, event);
 }
 

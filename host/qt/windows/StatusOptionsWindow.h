@@ -2,6 +2,8 @@
 
 #include "qt/FormWindow.h"
 
+#include <vector>
+
 namespace qncal::host {
 
 class PanelScrollArea;
@@ -12,13 +14,15 @@ public:
     explicit StatusOptionsWindow(Form& form, QWidget* parent = nullptr);
 
 protected:
-    /// The tile that the keys reach is scrolled into view.
+    /// The arrow keys walk the tiles; the one that they reach is scrolled into view.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     QWidget* newIconPanel();
+    QWidget* tileBeside(const QWidget& tile, int key) const;
 
     PanelScrollArea* area_ = nullptr;
+    std::vector<QWidget*> tiles_;
 };
 
 } // namespace qncal::host

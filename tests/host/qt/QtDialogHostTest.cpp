@@ -1,8 +1,8 @@
-#include "QtDialogTest.h"
 #include "controls/ProgressDialog.h"
 #include "controls/RichTextBox.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
+#include "host/qt/QtDialogTest.h"
 
 #include <QColorDialog>
 #include <QLineEdit>
@@ -15,7 +15,10 @@ namespace qncal::test {
 namespace {
 
 struct NameForm : Form {
-    NameForm() : Form("frmName") { cmdOk.Click = [this] { unload(); }; }
+    NameForm() : Form("frmName")
+    {
+        cmdOk.Click = [this] { unload(); };
+    }
     void Form_QueryUnload(bool& cancel, bool byUser) override { cancel = refuses && byUser; }
     TextBox txtName{*this, "txtName"};
     CommandButton cmdOk{*this, "cmdOk"};

@@ -45,13 +45,15 @@ const std::vector<StreamCase>& streams()
         {"CodePage", R"({\rtf1 caf\'e9 \'80 \'93q\'94\par})"},
         {"UnicodeWithFallback", R"({\rtf1\uc1 \u8364?\u-10179?\u-8704?\par{\uc2\u8364??\uc0\u8364 x}})"},
         {"Utf8Bytes", "{\\rtf1 Zo\xC3\xAB \xE9\\par}"},
-        {"FontsAndSizes", R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fswiss Times New Roman;}}\f1\fs28 big\f0\fs17 small\par})"},
+        {"FontsAndSizes",
+         R"({\rtf1{\fonttbl{\f0 Arial;}{\f1\fswiss Times New Roman;}}\f1\fs28 big\f0\fs17 small\par})"},
         {"Colours", R"({\rtf1{\colortbl ;\red255\green0\blue0;\red0\green0\blue128;}\cf1 red\cf2 blue\cf0 none\par})"},
         {"Styles", R"({\rtf1 \b b\b0 \i i\i0 \ul u\ulnone \strike s\strike0 {\b\i\ul all}none\par})"},
         {"Alignment", R"({\rtf1\pard\qc middle\par\pard\qr right\par\pard\qj both\par\pard left\par})"},
         {"Indents", R"({\rtf1\pard\li720\fi-360\ri300 hanging\par\pard\fi200 first\par})"},
-        {"Bullets", R"({\rtf1\pard{\pntext\f1\'B7\tab}{\*\pn\pnlvlblt\pnf1\pnindent0{\pntxtb\'B7}}\fi-360\li720 one\par)"
-                    "\n{\\pntext\\f1\\'B7\\tab}two\\par\\pard three\\par}"},
+        {"Bullets",
+         R"({\rtf1\pard{\pntext\f1\'B7\tab}{\*\pn\pnlvlblt\pnf1\pnindent0{\pntxtb\'B7}}\fi-360\li720 one\par)"
+         "\n{\\pntext\\f1\\'B7\\tab}two\\par\\pard three\\par}"},
         {"UnknownDestination", R"({\rtf1{\*\generator Some;}{\info{\author A}}{\pict\wmetafile8 0123abcd}text\par})"},
         {"Escapes", R"({\rtf1 \{a\}\\b\~c\_d\par})"},
         {"Dashes", R"({\rtf1 a\endash b\emdash c\bullet d\lquote e\rquote\par})"},
@@ -164,10 +166,10 @@ TEST_F(RichTextReaderTest, DeepNestingIsTaken)
 std::string randomStream(std::mt19937& random)
 {
     constexpr std::array<std::string_view, 34> pieces{
-        "{",         "}",        "\\par ",    "\\line ",    "\\b",        "\\b0 ",     "\\i ",       "\\ul",      "\\fs",
-        "\\f",       "1",        "-",         "99999",      "\\'e9",      "\\'",       "\\u-10179?", "\\u8364",   "\\uc2",
-        "{\\*\\x ",  "\\pard",   "\\li720",   "\\fi-360",   "\\pnlvlblt", "\\pntext ", "{\\fonttbl", "Arial;",   "{\\colortbl",
-        ";",         "\\red9",   "\\bin4 ",   "\\tx500",    "text",       "\r\n",      "\\"};
+        "{",        "}",      "\\par ",  "\\line ",  "\\b",        "\\b0 ",     "\\i ",       "\\ul",    "\\fs",
+        "\\f",      "1",      "-",       "99999",    "\\'e9",      "\\'",       "\\u-10179?", "\\u8364", "\\uc2",
+        "{\\*\\x ", "\\pard", "\\li720", "\\fi-360", "\\pnlvlblt", "\\pntext ", "{\\fonttbl", "Arial;",  "{\\colortbl",
+        ";",        "\\red9", "\\bin4 ", "\\tx500",  "text",       "\r\n",      "\\"};
     std::string stream = "{\\rtf1";
     const int count = std::uniform_int_distribution(0, 60)(random);
     for (int piece = 0; piece < count; ++piece) {

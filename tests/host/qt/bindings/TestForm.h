@@ -15,10 +15,7 @@ namespace qncal::test {
 
 /// A form with a bare window for the widgets of a test; shown, active, and with the events noted.
 struct TestForm {
-    TestForm()
-    {
-        window->setLayout(new QVBoxLayout);
-    }
+    TestForm() { window->setLayout(new QVBoxLayout); }
 
     template <class WidgetType, class ControlType>
     WidgetType& show(ControlType& control)

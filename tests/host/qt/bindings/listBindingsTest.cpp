@@ -1,7 +1,7 @@
-#include "TestForm.h"
 #include "controls/ListView.h"
 #include "controls/TabStrip.h"
 #include "controls/listControls.h"
+#include "host/qt/bindings/TestForm.h"
 
 #include <gtest/gtest.h>
 

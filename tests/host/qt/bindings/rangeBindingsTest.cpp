@@ -1,6 +1,6 @@
-#include "TestForm.h"
 #include "controls/rangeControls.h"
 #include "headless/HeadlessDialogHost.h"
+#include "host/qt/bindings/TestForm.h"
 #include "qt/convert.h"
 #include "qt/widgets/ColourButton.h"
 #include "qt/widgets/DateTimeEdit.h"
@@ -114,10 +114,11 @@ TEST_F(DateTimePickerBindingTest, ClosingTheCalendarIsTold)
     auto& widget = t.show<host::DateTimeEdit>(picker);
     t.open();
     widget.edit().setFocus();
-    QTest::keyClick(&widget.edit(), Qt::Key_Down, Qt::AltModifier);
-    auto* calendar = widget.edit().calendarWidget();
-    calendar->show();
-    calendar->hide();
+    QTest::mouseClick(&widget.edit(), Qt::LeftButton, {}, QPoint(widget.edit().width() - 8, widget.edit().height() / 2));
+    QWidget* calendar = QApplication::activePopupWidget();
+    ASSERT_TRUE(calendar);
+    EXPECT_TRUE(t.events.empty());
+    QTest::keyClick(calendar, Qt::Key_Escape);
     EXPECT_EQ(t.events, Events{"CloseUp"});
 }
 

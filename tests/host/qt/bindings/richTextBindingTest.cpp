@@ -1,7 +1,7 @@
-#include "TestForm.h"
 #include "controls/RichTextBox.h"
 #include "controls/richTextStream.h"
 #include "headless/HeadlessDialogHost.h"
+#include "host/qt/bindings/TestForm.h"
 #include "qt/widgets/RichTextEdit.h"
 #include "qt/widgets/RichTextToolBar.h"
 

@@ -1,5 +1,5 @@
-#include "TestForm.h"
 #include "controls/TextBox.h"
+#include "host/qt/bindings/TestForm.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "../QtDialogTest.h"
+#include "host/qt/QtDialogTest.h"
 #include "settings/frmApptCustomFields.h"
 #include "settings/frmChangeApptStatusFields.h"
 
@@ -68,7 +68,7 @@ TEST_F(FieldNamesWindowTest, TheTabKeyWalksTheNamesAndTheAccessKeysWork)
         QTest::keyClick(window.focusWidget(), Qt::Key_Backtab, Qt::ShiftModifier);
         EXPECT_EQ(form.focusedControl()->path(), "txtField(1)");
         QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
-        EXPECT_FALSE(window.isVisible());
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !form.isVisible(); }));
     });
     frmChangeApptStatusFields form;
     form.Initialize(enumLocalCalendarTaskItem);

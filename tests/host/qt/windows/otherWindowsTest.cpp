@@ -1,4 +1,3 @@
-#include "../QtDialogTest.h"
 #include "controls/ListView.h"
 #include "controls/RichTextBox.h"
 #include "controls/TabStrip.h"
@@ -7,6 +6,7 @@
 #include "controls/listControls.h"
 #include "controls/rangeControls.h"
 #include "controls/richTextStream.h"
+#include "host/qt/QtDialogTest.h"
 #include "items/frmSelectStartTime.h"
 #include "qt/widgets/ColourButton.h"
 #include "qt/widgets/DateTimeEdit.h"

@@ -1,4 +1,4 @@
-#include "../QtDialogTest.h"
+#include "host/qt/QtDialogTest.h"
 #include "qt/icons.h"
 #include "settings/frmApptStatusOptions.h"
 
@@ -59,6 +59,7 @@ TEST_F(StatusOptionsWindowTest, OneIconIsChosenByTheMouse)
 {
     whenShown("frmApptStatusOptions", [&](host::FormWindow& window) {
         click(window, "chkSample(7)");
+        EXPECT_EQ(widget<QToolButton>(window, "chkSample(7)").accessibleName(), host::statusIconName(7));
         EXPECT_FALSE(widget<QToolButton>(window, "chkSample(2)").isChecked());
         click(window, "cmdOK");
     });
@@ -79,6 +80,22 @@ TEST_F(StatusOptionsWindowTest, TheKeysReachEveryIconAndScrollToIt)
         QTest::keyClick(&last, Qt::Key_Space);
         EXPECT_TRUE(form.chkSample(42).isChecked());
         EXPECT_FALSE(form.chkSample(2).isChecked());
+    });
+    show();
+}
+
+TEST_F(StatusOptionsWindowTest, TheArrowKeysWalkTheIcons)
+{
+    whenShown("frmApptStatusOptions", [&](host::FormWindow& window) {
+        const std::pair<Qt::Key, const char*> steps[] = {{Qt::Key_Right, "chkSample(2)"},
+                                                         {Qt::Key_Down, "chkSample(8)"},
+                                                         {Qt::Key_Left, "chkSample(7)"},
+                                                         {Qt::Key_Up, "chkSample(1)"}};
+        widget<QToolButton>(window, "chkSample(1)").setFocus();
+        for (const auto& [key, reached] : steps) {
+            QTest::keyClick(window.focusWidget(), key);
+            EXPECT_EQ(form.focusedControl()->path(), reached);
+        }
     });
     show();
 }
