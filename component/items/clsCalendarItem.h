@@ -318,6 +318,8 @@ private:
     void readColumns(const RecordSet& row);
     void writeColumns(RecordSet& row);
     void updateRemindersAndNotifications();
+    std::string storedReminderStatus() const;
+    std::string plannedReminderStatus();
 
     std::shared_ptr<clsCalendarItemType> kind_ = std::make_shared<clsCalendarItemType>();
     std::int32_t itemID_ = -1;
