@@ -19,6 +19,7 @@ public:
     {
         watch(widget.edit());
         watch(widget.check());
+        widget.edit().setTimeSpec(Qt::UTC);
         if (control.format() == DateTimePicker::Format::date) {
             widget.edit().setCalendarPopup(true);
             widget.edit().calendarWidget()->installEventFilter(this);

@@ -229,6 +229,7 @@ TEST_F(PlainWindowTest, ShowsEveryControlOfAFormWithoutAWindowClass)
     EverythingForm form;
     form.date.value(today());
     whenShown("frmEverything", [&](host::FormWindow& window) {
+        window.resize(window.width(), 960);
         picture(window, "plain");
         for (const Control* control : form.controls())
             EXPECT_TRUE(window.findChild<QObject*>(QString::fromStdString(control->path()))) << control->path();
