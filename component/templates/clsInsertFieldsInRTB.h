@@ -15,6 +15,7 @@
 
 namespace qncal {
 
+class FieldRenamer;
 class MergeRecordSets;
 class RecordSet;
 struct MergeItemIDs;
@@ -99,7 +100,8 @@ public:
     // --- Catalogue ---
 
     /// Builds the catalogue for `ListType`, `MergeFieldListUse` and the firm's region, and fills the list boxes.
-    /// `noListBox` becomes True when there is no `ListBox`.
+    /// `noListBox` becomes True when there is no `ListBox`. `clearListBox` clears nothing: only a number above 0 would,
+    /// and a Boolean True is -1.
     void createDefaultFieldListStructure(bool& noListBox, bool clearListBox);
     /// Each adds its block to the list and, unless `noListBox`, to the pick list.
     void createCompanyInfoFieldListStructure(FieldListCollection& list, bool noListBox);
@@ -206,6 +208,13 @@ private:
     /// The contact's company when the contact inherits its data; none otherwise.
     RecordSet* companyToInheritFrom();
 
+    /// The text that `convertProvinceFields` gave last, and what it was made of.
+    struct Conversion {
+        const FieldRenamer* renamer = nullptr;
+        std::string text;
+        std::string converted;
+    };
+    Conversion lastConversion_;
     std::shared_ptr<FieldListCollection> fieldList_;
     std::shared_ptr<MergeRecordSets> recordSets_;
     std::shared_ptr<RichTextTarget> rtb_;

@@ -4,7 +4,6 @@
 
 #include "core/LocaleService.h"
 #include "core/routineScope.h"
-#include "templates/legacyFieldNames.h"
 #include "templates/provinceNames.h"
 #include "templates/regionFieldNames.h"
 #include "templates/regionWords.h"
@@ -14,13 +13,14 @@ namespace qncal {
 std::string clsInsertFieldsInRTB::convertProvinceFields(std::string text)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-convertProvinceFields", std::string(), [&] {
-        renameLegacyFields(text);
         const std::int32_t country = currentCountry();
-        if (country == LocaleService::unitedStates)
-            renameFieldsForUnitedStates(text);
-        else if (country == LocaleService::canada)
-            renameFieldsForCanada(text, currentProvince());
-        return std::move(text);
+        const FieldRenamer& renamer = fieldRenamer(country, country == LocaleService::canada ? currentProvince() : 0);
+        // One template is converted again and again: to be checked, to be merged, and merged for the next item.
+        if (lastConversion_.renamer != &renamer || lastConversion_.text != text) {
+            lastConversion_ = {&renamer, text, std::move(text)};
+            renamer.apply(lastConversion_.converted);
+        }
+        return lastConversion_.converted;
     });
 }
 
