@@ -44,7 +44,7 @@ PlainWindow::PlainWindow(Form& form, QWidget* parent) : FormWindow(form, parent)
     if (heading)
         rows->addRow(heading);
 
-    area->setMinimumWidth(page->minimumSizeHint().width() + area->verticalScrollBar()->sizeHint().width());
+    area->setMinimumWidth(page->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
 
     auto* layout = new QVBoxLayout(this);
     if (QMenuBar* menus = newMenuBarFor(form, *this))
