@@ -1,0 +1,247 @@
+#include "icalendar/CalendarImport.h"
+
+#include "icalendar/ItemWriter.h"
+#include "icalendar/KnownItems.h"
+#include "icalendar/People.h"
+#include "icalendar/importPlan.h"
+#include "icalendar/itemFields.h"
+#include "icalendar/keptLines.h"
+#include "utilities/Clock.h"
+#include "utilities/RunTimeError.h"
+#include "utilities/text.h"
+
+#include <algorithm>
+#include <charconv>
+#include <optional>
+#include <set>
+
+namespace qncal::host::icalendar {
+
+namespace {
+
+std::string subjectOf(const CalendarComponent& component)
+{
+    const std::string summary = component.textOf("SUMMARY");
+    return summary.empty() ? component.name : summary;
+}
+
+std::string shortened(std::string_view text)
+{
+    constexpr std::size_t longest = 100;
+    std::string line(text.substr(0, longest));
+    std::ranges::replace(line, '\n', ' ');
+    return text.size() > longest ? line + "..." : line;
+}
+
+/// The number that an export gave a series or group; none for others.
+std::optional<std::int32_t> fileNumber(const CalendarComponent& component, std::string_view property)
+{
+    const std::string text = component.textOf(property);
+    std::int32_t number = 0;
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return error == std::errc() && number > 0 ? std::optional(number) : std::nullopt;
+}
+
+class Import {
+public:
+    Import(HostEnvironment& host, const ImportOptions& options)
+        : options_(options), zones_(options.timeZone), people_(host), known_(host.database(), people_.domain()),
+          series_(host.database(), "RepeatNum"), groups_(host.database(), "UserGroupNum"),
+          writer_(host, people_, zones_, options.dryRun)
+    {
+    }
+
+    ImportReport run(const std::vector<CalendarComponent>& calendars, const ImportProgress& progress)
+    {
+        for (const CalendarComponent& calendar : calendars)
+            zones_.addFrom(calendar);
+        std::vector<const CalendarComponent*> others;
+        const std::vector<Bundle> bundles = bundlesOf(calendars, others);
+        for (const CalendarComponent* component : others)
+            skip(*component, component->name + " is no event and no to-do");
+        for (std::size_t i = 0; i < bundles.size(); ++i) {
+            importBundle(bundles[i]);
+            if (progress)
+                progress(static_cast<int>(i + 1), static_cast<int>(bundles.size()));
+        }
+        for (const std::string& name : zones_.unknownNames())
+            report_.remarks.push_back({ImportRemark::Sort::changed, 0, "TZID=" + name,
+                                       "nobody knows this time zone; its times are taken as local"});
+        return std::move(report_);
+    }
+
+private:
+    void remark(ImportRemark::Sort sort, const CalendarComponent& component, int line, std::string text)
+    {
+        report_.remarks.push_back({sort, line, shortened(subjectOf(component)), std::move(text)});
+    }
+
+    void skip(const CalendarComponent& component, const std::string& why)
+    {
+        ++report_.skipped;
+        remark(ImportRemark::Sort::skipped, component, component.number, why);
+    }
+
+    void importBundle(const Bundle& bundle)
+    {
+        const std::size_t remarksBefore = report_.remarks.size();
+        const auto giveUp = [&](const std::string& why) {
+            writer_.undo();
+            report_.remarks.resize(remarksBefore);
+            skip(*bundle.components.front(), why);
+        };
+        try {
+            const Plan plan = planOf(bundle, options_.lastDay, today(), zones_);
+            for (const Plan::Remark& made : plan.remarks)
+                remark(ImportRemark::Sort::changed, *made.component, made.component->number, made.text);
+            for (const CalendarComponent* component : bundle.components)
+                importRows(bundle, *component, plan);
+            const ItemWriter::Counts counts = writer_.finish();
+            report_.components += static_cast<int>(bundle.components.size());
+            report_.added += counts.added;
+            report_.updated += counts.updated;
+            report_.unchanged += counts.unchanged;
+        } catch (const CalendarError& error) {
+            giveUp(error.what());
+        } catch (const RunTimeError& error) {
+            giveUp(error.what());
+        }
+    }
+
+    /// The rows of one component of a bundle, for all its users.
+    void importRows(const Bundle& bundle, const CalendarComponent& component, const Plan& plan)
+    {
+        const std::vector<std::int32_t> users = usersOf(component);
+        std::optional<AlarmReminder> alarm;
+        bool remarked = false;
+        for (const PlannedRow& row : plan.rows) {
+            if (row.component != &component)
+                continue;
+            if (!remarked)
+                alarm = alarmOf(bundle.kind, component, row.first);
+            const KeptLines kept = keptLinesOf(component, row.isExact, !alarm || alarm->isExact);
+            if (!std::exchange(remarked, true))
+                remarkOnLines(kept);
+            for (const std::int32_t user : users) {
+                const std::string subject = component.textOf("SUMMARY");
+                const auto existing = known_.take(
+                    {bundle.kind, bundle.uid, std::string(ContentLine{row.occurrence}.value()), user, subject,
+                     row.times.day});
+                ItemWriter::Row writing{bundle, row, user, alarm, kept.lines, existing};
+                writing.series = seriesOf(bundle, component, plan, existing);
+                writing.group = groupOf(bundle, component, users, existing);
+                writer_.write(writing);
+            }
+        }
+    }
+
+    std::optional<AlarmReminder> alarmOf(enumLocalCalendarItemType kind, const CalendarComponent& component,
+                                         const Span& first)
+    {
+        auto alarm = reminderOf(component, first, zones_);
+        if (alarm && kind == enumLocalCalendarDocketItem) {
+            remark(ImportRemark::Sort::kept, component, component.number, "a time entry has no reminder");
+            return std::nullopt;
+        }
+        if (alarm && !alarm->isExact)
+            remark(ImportRemark::Sort::changed, component, component.number,
+                   "the alarm " + std::to_string(alarm->minutesBefore) + " minutes before becomes a reminder of "
+                       + alarm->period);
+        return alarm;
+    }
+
+    void remarkOnLines(const KeptLines& kept)
+    {
+        for (const ContentLine& line : kept.remarkable) {
+            if (!line.is("ATTENDEE") || !people_.userOfAttendee(line))
+                report_.remarks.push_back({ImportRemark::Sort::kept, line.number, {}, shortened(line.text)});
+        }
+        for (const ContentLine& line : kept.lost)
+            report_.remarks.push_back({ImportRemark::Sort::lost, line.number, {}, shortened(line.text)});
+    }
+
+    /// Known attendees, or else the one who imports.
+    std::vector<std::int32_t> usersOf(const CalendarComponent& component)
+    {
+        std::vector<std::int32_t> users;
+        const auto add = [&](std::optional<std::int32_t> user) {
+            if (user && std::ranges::find(users, *user) == users.end())
+                users.push_back(*user);
+        };
+        const bool isOwn = component.find(userProperty) != nullptr;
+        for (const ContentLine& line : component.lines) {
+            if (line.is(userProperty)) {
+                const auto user = people_.userOf(line);
+                add(user);
+                if (!user)
+                    remark(ImportRemark::Sort::changed, component, line.number,
+                           "there is no user '" + line.textValue() + "'");
+            } else if (!isOwn && line.is("ATTENDEE")) {
+                add(people_.userOfAttendee(line));
+            }
+        }
+        // Who invites others takes part, also where the list of attendees leaves that out.
+        if (const ContentLine* organizer = component.find("ORGANIZER"); !isOwn && organizer)
+            add(people_.userOfAttendee(*organizer));
+        if (users.empty())
+            users.push_back(people_.defaultUser());
+        return users;
+    }
+
+    std::int32_t seriesOf(const Bundle& bundle, const CalendarComponent& component, const Plan& plan,
+                          const std::optional<KnownItems::Row>& existing)
+    {
+        if (existing && existing->series > 0)
+            return bundleSeries_[&bundle] = existing->series;
+        if (component.find(userProperty)) {
+            const auto number = fileNumber(component, seriesProperty);
+            return number ? series_.forFileNumber(bundle.kind, *number) : 0;
+        }
+        std::set<std::string> occurrences;
+        for (const PlannedRow& row : plan.rows)
+            occurrences.insert(row.occurrence);
+        if (occurrences.size() < 2)
+            return 0;
+        std::int32_t& number = bundleSeries_[&bundle];
+        if (number == 0)
+            number = series_.next(bundle.kind);
+        return number;
+    }
+
+    std::int32_t groupOf(const Bundle& bundle, const CalendarComponent& component,
+                         const std::vector<std::int32_t>& users, const std::optional<KnownItems::Row>& existing)
+    {
+        if (existing && existing->group > 0)
+            return bundleGroups_[&bundle] = existing->group;
+        if (const auto number = fileNumber(component, groupProperty))
+            return groups_.forFileNumber(bundle.kind, *number);
+        if (users.size() < 2)
+            return 0;
+        std::int32_t& number = bundleGroups_[&bundle];
+        if (number == 0)
+            number = groups_.next(bundle.kind);
+        return number;
+    }
+
+    const ImportOptions& options_;
+    TimeZones zones_;
+    People people_;
+    KnownItems known_;
+    FreeNumbers series_;
+    FreeNumbers groups_;
+    ItemWriter writer_;
+    /// By the bundle, so that all its rows get the same number.
+    std::map<const Bundle*, std::int32_t> bundleSeries_;
+    std::map<const Bundle*, std::int32_t> bundleGroups_;
+    ImportReport report_;
+};
+
+} // namespace
+
+ImportReport importCalendars(HostEnvironment& host, const std::vector<CalendarComponent>& calendars,
+                             const ImportOptions& options, const ImportProgress& progress)
+{
+    return Import(host, options).run(calendars, progress);
+}
+
+} // namespace qncal::host::icalendar
