@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/enumerations.h"
 #include "core/RecordSet.h"
+#include "core/enumerations.h"
 
 #include <cstdint>
 #include <optional>

@@ -137,6 +137,20 @@ std::size_t LazyPlaces::placeOf(std::span<const std::int64_t> keys)
     return list_.size() - 1;
 }
 
+std::optional<std::size_t> LazyPlaces::find(std::size_t column, const StoredValue& wanted)
+{
+    if (!plan_->parts().byKey)
+        return copies_.find(column, wanted);
+    SqliteStatement& statement = plan_->findAll(literals_, column);
+    const StatementRun run(statement);
+    statement.bind(plan_->ownParameter(0), wanted);
+    std::optional<std::size_t> first;
+    while (statement.step())
+        if (const auto place = list_.find(std::array{statement.integer(0)}); place && (!first || *place < *first))
+            first = place;
+    return first;
+}
+
 void LazyPlaces::noteDeletions()
 {
     const auto& deletions = plan_->parts().tables.front()->deletions();

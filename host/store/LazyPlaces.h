@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
+#include <span>
 #include <vector>
 
 namespace qncal::host {
@@ -38,6 +40,8 @@ public:
     std::int64_t count();
     /// The place of a record; one that has none gets one at the end.
     std::size_t placeOf(std::span<const std::int64_t> keys);
+    /// The first of all known places whose record's column equals the value; not for joins.
+    std::optional<std::size_t> find(std::size_t column, const StoredValue& wanted);
     /// Learns which records have been deleted by now.
     void noteDeletions();
 

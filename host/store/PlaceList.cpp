@@ -15,6 +15,8 @@ void PlaceList::clear(std::size_t keyWidth)
     }
     keys_.clear();
     states_.clear();
+    byKey_.clear();
+    inByKey_ = 0;
     closed_ = gone_ = 0;
     ascending_ = keyWidth == 1;
 }
@@ -82,6 +84,12 @@ std::optional<std::size_t> PlaceList::find(std::span<const std::int64_t> keys) c
         if (found == keys_.end() || *found != keys.front())
             return std::nullopt;
         return static_cast<std::size_t>(found - keys_.begin());
+    }
+    if (width_ == 1) {
+        for (; inByKey_ < size(); ++inByKey_)
+            byKey_.insert_or_assign(keys_[inByKey_], inByKey_);
+        const auto found = byKey_.find(keys.front());
+        return found == byKey_.end() ? std::nullopt : std::optional(found->second);
     }
     for (std::size_t index = 0; index < size(); ++index)
         if (std::ranges::equal(this->keys(index), keys))

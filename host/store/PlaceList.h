@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <unordered_map>
 #include <vector>
 
 namespace qncal::host {
@@ -46,6 +47,9 @@ private:
     std::size_t closed_ = 0;
     std::size_t gone_ = 0;
     bool ascending_ = true; ///< one key to a place, each greater than the one before
+    /// Places by first key, as far as they were looked for, for lists in another order.
+    mutable std::unordered_map<std::int64_t, std::size_t> byKey_;
+    mutable std::size_t inByKey_ = 0;
 };
 
 } // namespace qncal::host

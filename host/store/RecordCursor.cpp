@@ -179,31 +179,32 @@ bool RecordCursor::find(std::string_view field, std::string_view value)
     const auto wanted = storedFromText(type.value_or(schema::ColumnType::integer), value, buffer_);
     if (!wanted || wanted->kind == StoredValue::Kind::null)
         return false;
-    if (!isByKey())
-        return findCopy(*column, *wanted);
-    if (plan().parts().top)
-        return findByWalk(*column, *wanted);
+    if (isUnplaced_ || !plan().isInKeyOrder())
+        settle();
+    if (places_.isComplete())
+        return findPlace(*column, *wanted);
 
-    SqliteStatement& statement = plan().find(places_.literals(), *column);
+    SqliteStatement& statement = plan().findFirst(places_.literals(), *column);
     const StatementRun run(statement);
     statement.bind(plan().ownParameter(0), *wanted);
     if (!statement.step())
         return false;
     leaveRow();
-    unplacedKeys_.clear();
-    for (std::size_t i = 0; i < plan().keyWidth(); ++i)
-        unplacedKeys_.push_back(statement.integer(static_cast<int>(i)));
+    unplacedKeys_.assign(1, statement.integer(0));
     isUnplaced_ = true;
     return true;
 }
 
-bool RecordCursor::findCopy(std::size_t column, const StoredValue& wanted)
+bool RecordCursor::findPlace(std::size_t column, const StoredValue& wanted)
 {
-    start();
-    const auto record = places_.copies().find(column, wanted);
-    if (record)
-        index_ = static_cast<std::ptrdiff_t>(*record);
-    return record.has_value();
+    if (isByKey() && plan().keyWidth() > 1)
+        return findByWalk(column, wanted);
+    const auto place = places_.find(column, wanted);
+    if (!place)
+        return false;
+    leaveRow();
+    index_ = static_cast<std::ptrdiff_t>(*place);
+    return true;
 }
 
 bool RecordCursor::findByWalk(std::size_t column, const StoredValue& wanted)

@@ -77,7 +77,7 @@ private:
     void requireRow();
     StoredValue value(std::size_t place) const;
     void putIntoRow(std::size_t place, const StoredValue& value);
-    bool findCopy(std::size_t column, const StoredValue& wanted);
+    bool findPlace(std::size_t column, const StoredValue& wanted);
     bool findByWalk(std::size_t column, const StoredValue& wanted);
 
     LazyPlaces places_;

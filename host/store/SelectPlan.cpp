@@ -8,8 +8,8 @@
 namespace qncal::host {
 
 SelectPlan::SelectPlan(Parts parts, SqliteConnection& connection)
-    : parts_(std::move(parts)), connection_(connection), finds_(parts_.columns.size()),
-      boundTexts_(parts_.bindings.size())
+    : parts_(std::move(parts)), connection_(connection), findFirst_(parts_.columns.size()),
+      findAll_(parts_.columns.size()), boundTexts_(parts_.bindings.size())
 {
     for (std::size_t column = 0; column < parts_.columns.size(); ++column)
         unique_.push_back(parts_.columnNames.find(parts_.columnNames.name(column)) == column);
@@ -195,13 +195,23 @@ SqliteStatement& SelectPlan::count(const dialect::Literals& literals)
     return ready(count_, &SelectPlan::countText, literals);
 }
 
-SqliteStatement& SelectPlan::find(const dialect::Literals& literals, std::size_t column)
+SqliteStatement& SelectPlan::findFirst(const dialect::Literals& literals, std::size_t column)
 {
-    SqliteStatement& statement = finds_[column];
+    SqliteStatement& statement = findFirst_[column];
     if (!statement)
         statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from
                                               + whereClause(parts_.columns[column].sql + " = " + own(0)) + orderClause()
                                               + " LIMIT 1");
+    bindLiterals(statement, literals);
+    return statement;
+}
+
+SqliteStatement& SelectPlan::findAll(const dialect::Literals& literals, std::size_t column)
+{
+    SqliteStatement& statement = findAll_[column];
+    if (!statement)
+        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from + " WHERE "
+                                              + parts_.columns[column].sql + " = " + own(0));
     bindLiterals(statement, literals);
     return statement;
 }

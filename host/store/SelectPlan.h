@@ -77,8 +77,10 @@ public:
     /// All records' columns in their order.
     SqliteStatement& allRecords(const dialect::Literals& literals);
     SqliteStatement& count(const dialect::Literals& literals);
-    /// The keys of the first record whose column equals own parameter 0.
-    SqliteStatement& find(const dialect::Literals& literals, std::size_t column);
+    /// The key of the first record whose column equals own parameter 0, in key order.
+    SqliteStatement& findFirst(const dialect::Literals& literals, std::size_t column);
+    /// The keys of all records of the table whose column equals own parameter 0, whether or not they are in the set.
+    SqliteStatement& findAll(const dialect::Literals& literals, std::size_t column);
 
     int ownParameter(int place) const { return static_cast<int>(parts_.bindings.size()) + 1 + place; }
     static constexpr int blockSize = 256;
@@ -105,8 +107,8 @@ private:
     SqliteStatement firstRecord_, moreKeys_, allKeys_, record_, allRecords_, count_;
     std::vector<bool> unique_;
     bool hasTwins_ = false;
-    std::vector<SqliteStatement> finds_;  ///< by column
-    std::vector<std::string> boundTexts_; ///< dates and times as bound, until the next binding
+    std::vector<SqliteStatement> findFirst_, findAll_; ///< by column
+    std::vector<std::string> boundTexts_;              ///< dates and times as bound, until the next binding
 };
 
 } // namespace qncal::host

@@ -1,9 +1,7 @@
 #include "MergeEngineTest.h"
 
-#include "core/forwarding/ForwardingDatabaseService.h"
 #include "core/forwarding/ForwardingLocaleService.h"
 #include "support/RoutineSweep.h"
-#include "utilities/RunTimeError.h"
 
 namespace qncal::test {
 namespace {
@@ -11,18 +9,7 @@ namespace {
 constexpr std::int32_t canada = LocaleService::canada;
 constexpr std::int32_t unitedStates = LocaleService::unitedStates;
 
-class CatalogueTest : public MergeEngineTest {
-protected:
-    std::vector<std::string> headerLines() const
-    {
-        std::vector<std::string> headers;
-        for (const RecordingList::Line& line : listBox->lines) {
-            if (line.itemData == -1)
-                headers.push_back(line.text);
-        }
-        return headers;
-    }
-};
+class CatalogueTest : public MergeEngineTest {};
 
 // --- Regions ---
 
@@ -191,152 +178,6 @@ TEST_F(CatalogueTest, FixedTextsAreSharedByAllLists)
     }
 }
 
-// --- Pick lists ---
-
-TEST_F(CatalogueTest, WithoutAListBoxItSaysSo)
-{
-    bool noListBox = false;
-    engine.createDefaultFieldListStructure(noListBox, true);
-    EXPECT_TRUE(noListBox);
-    engine.ListBox(listBox);
-    engine.createDefaultFieldListStructure(noListBox, true);
-    EXPECT_FALSE(noListBox);
-}
-
-TEST_F(CatalogueTest, TheListBoxIsRefreshedAndNeverCleared)
-{
-    useListBoxes();
-    build(1);
-    EXPECT_EQ(listBox->clears, 0);
-    EXPECT_EQ(listBox->refreshes, 1);
-    EXPECT_EQ(listBox2->refreshes, 0);
-    const std::size_t lines = listBox->lines.size();
-    build(1);
-    EXPECT_EQ(listBox->lines.size(), lines * 2);
-}
-
-TEST_F(CatalogueTest, TheEmployerNumberHasTwoBlanksInTheListBoxAlone)
-{
-    useListBoxes();
-    region(unitedStates, 0);
-    build(2);
-    const std::int32_t key = keyOf("Federal Employer Identification Number");
-    const RecordingList::Line line{"Federal Employer Identification  Number", key};
-    EXPECT_NE(std::ranges::find(listBox->lines, line), listBox->lines.end());
-}
-
-TEST_F(CatalogueTest, TheSingleFieldListBeginsWithNotAssignedWhateverTheHeaders)
-{
-    useListBoxes();
-    for (const bool headers : {false, true}) {
-        listBox->lines.clear();
-        engine.ListType(1);
-        engine.MergeFieldListUse(3);
-        engine.ShowListCategoryHeaders(headers);
-        build();
-        EXPECT_EQ(listBox->lines.front(), (RecordingList::Line{"Not Assigned", -1}));
-        EXPECT_EQ(headerLines().size(), headers ? 10u : 1u);
-    }
-}
-
-TEST_F(CatalogueTest, UsesThreeAndFiveTurnTheHeadersOff)
-{
-    EXPECT_TRUE(engine.ShowListCategoryHeaders());
-    engine.MergeFieldListUse(5);
-    EXPECT_FALSE(engine.ShowListCategoryHeaders());
-    engine.ShowListCategoryHeaders(true);
-    engine.MergeFieldListUse(1);
-    EXPECT_TRUE(engine.ShowListCategoryHeaders());
-    engine.MergeFieldListUse(3);
-    EXPECT_FALSE(engine.ShowListCategoryHeaders());
-    engine.MergeFieldListUse(1);
-    EXPECT_FALSE(engine.ShowListCategoryHeaders());
-}
-
-struct HeaderCase {
-    const char* name;
-    std::int32_t listType;
-    std::vector<std::string> headers;
-};
-
-class ListHeadersTest : public MergeEngineTestWith<HeaderCase> {};
-
-TEST_P(ListHeadersTest, StandBeforeTheBlocks)
-{
-    useListBoxes();
-    engine.companyID(1);
-    build(GetParam().listType);
-    std::vector<std::string> headers;
-    for (const RecordingList::Line& line : listBox->lines) {
-        if (line.itemData == -1)
-            headers.push_back(line.text);
-    }
-    EXPECT_EQ(headers, GetParam().headers);
-    EXPECT_EQ(listBox2->lines.front(), (RecordingList::Line{"Insert your Letterhead", -1}));
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Lists, ListHeadersTest,
-    testing::Values(
-        HeaderCase{"Company",
-                   1,
-                   {"[Company Address Info]", "", "[Default Contact Name]", "", "[Company Accounting Info]", "",
-                    "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"Contact",
-                   2,
-                   {"", "[Contact Name]", "", "[Company Accounting Info]", "", "[Company Software Info]", "",
-                    "[More Contact Info]"}},
-        HeaderCase{"ContactAddress", 3, {"", "[Contact Name]", "", "[More Contact Info]", "", "[Company Info]"}},
-        HeaderCase{"Appointment",
-                   5,
-                   {"[Appointment Info]", "", "[Company Address Info]", "", "[Default Contact Name]", "",
-                    "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"TimeEntry",
-                   6,
-                   {"[Time Entry Info]", "[Company Address Info]", "", "[Default Contact Name]", "",
-                    "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}},
-        HeaderCase{"Task",
-                   8,
-                   {"[Task Info]", "", "[Company Address Info]", "", "[Default Contact Name]", "",
-                    "[Company Accounting Info]", "", "[Company Software Info]", "", "[More Contact Info]"}}),
-    rowName);
-
-class CountingDialogHost : public host::HeadlessDialogHost {
-public:
-    int turns = 0;
-    void doEvents() override { ++turns; }
-};
-
-TEST_F(CatalogueTest, OtherEventsRunTwiceWhenThereIsAListBox)
-{
-    const auto host = std::make_shared<CountingDialogHost>();
-    setDialogHost(host);
-    build(1);
-    EXPECT_EQ(host->turns, 0);
-    useListBoxes();
-    build(1);
-    EXPECT_EQ(host->turns, 2);
-}
-
-class BrokenList : public RecordingList {
-public:
-    void addLine(std::string_view, std::int32_t) override { throw RunTimeError(errorNumber::internalError, "broken"); }
-};
-
-TEST_F(CatalogueTest, AFailedListBoxCallIsLeftToTheRoutineThatMadeIt)
-{
-    engine.ListBox(std::make_shared<BrokenList>());
-    engine.ShowListCategoryHeaders(false);
-    engine.ListType(5);
-    build();
-    // One for each block's routine: the rows before the call that failed stay, the routines after it run.
-    EXPECT_EQ(errors->takeErrors().size(), 3u);
-    EXPECT_TRUE(hasField("Appointment Name"));
-    EXPECT_FALSE(hasField("Appointment Date"));
-    EXPECT_TRUE(hasField("Company Name"));
-    EXPECT_FALSE(hasField("Your Company Name"));
-}
-
 TEST_F(CatalogueTest, EachBlockOfItsOwnAddsItsRows)
 {
     FieldListCollection list;
@@ -361,139 +202,12 @@ TEST_F(CatalogueTest, EachBlockOfItsOwnAddsItsRows)
                                         "Vestrel.exe-clsInsertFieldsInRTB-createAccountantFieldListStructure"}));
 }
 
-// --- Custom fields ---
-
-TEST_F(CatalogueTest, LabelsNameTheCustomFields)
-{
-    addRow("CustomFields", {{"ApptCustomName1", "Room"},
-                            {"ApptCustomName2", "Parking:"},
-                            {"ApptCustomName3", "Custom 3"},
-                            {"ApptCustomName4", "Custom 1:"}});
-    build(5);
-    EXPECT_EQ(fieldOf("Room"), "ApptCustom1");
-    EXPECT_EQ(fieldOf("Parking"), "ApptCustom2");
-    EXPECT_EQ(fieldOf("Custom Appt Field 3"), "ApptCustom3");
-    EXPECT_EQ(fieldOf("Custom Appt Field 1"), "ApptCustom4");
-    EXPECT_EQ(fieldOf("Custom Appt Field 5"), "ApptCustom5");
-}
-
-TEST_F(CatalogueTest, TheFirmsLabelsGetAPrefixAndItsFallbackNamesHaveOne)
-{
-    addRow("CustomAddressFields", {{"CompanyLabel1", "Fax 2"}, {"CompanyLabel2", "Custom 2"}});
-    build(1);
-    EXPECT_EQ(fieldOf("Fax 2"), "CompanyCustom1");
-    EXPECT_EQ(fieldOf("Company Custom Field 2"), "CompanyCustom2");
-    EXPECT_EQ(fieldOf("Your Fax 2"), "FirmCustom1");
-    EXPECT_EQ(fieldOf("Your Company Custom Field 2"), "FirmCustom2");
-}
-
-struct CustomGroupCase {
-    const char* name;
-    std::int32_t listType;
-    const char* table;
-    std::string labelColumn;
-    std::string databaseField;
-    std::string fallbackName;
-    std::string sample;
-    std::string labelPrefix;
-};
-
-class CustomGroupTest : public MergeEngineTestWith<CustomGroupCase> {
-protected:
-    void expectFiveRows(const std::string& name)
-    {
-        for (int i = 1; i <= 5; ++i) {
-            const std::string number = std::to_string(i);
-            ASSERT_TRUE(hasField(name + number));
-            const FieldListRow& row = engine.FieldList()->current();
-            EXPECT_EQ(row.databaseField.view(), GetParam().databaseField + number);
-            EXPECT_EQ(row.sampleText.view(), GetParam().sample + number);
-            EXPECT_EQ(row.dataType, MergeDataType::text);
-        }
-    }
-};
-
-TEST_P(CustomGroupTest, TakesTheFallbackNamesWithoutARecord)
-{
-    build(GetParam().listType);
-    expectFiveRows(GetParam().fallbackName);
-}
-
-TEST_P(CustomGroupTest, TakesTheFallbackNamesWithoutAConnection)
-{
-    database->close();
-    build(GetParam().listType);
-    expectFiveRows(GetParam().fallbackName);
-}
-
-TEST_P(CustomGroupTest, TakesTheLabelsOfTheRecord)
-{
-    std::vector<std::string> columns;
-    for (int i = 1; i <= 5; ++i)
-        columns.push_back(GetParam().labelColumn + std::to_string(i));
-    Values values;
-    for (int i = 1; i <= 5; ++i)
-        values.emplace_back(columns[static_cast<std::size_t>(i - 1)], "My label " + std::to_string(i));
-    addRow(GetParam().table, values);
-    build(GetParam().listType);
-    expectFiveRows(GetParam().labelPrefix + "My label ");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Groups, CustomGroupTest,
-    testing::Values(CustomGroupCase{"Client", 2, "CustomFields", "CustomName", "ClientCustom", "Custom Field ",
-                                    "Custom Info ", ""},
-                    CustomGroupCase{"Contact", 3, "CustomAddressFields", "ContactLabel", "ContactCustom",
-                                    "Contact Custom Field ", "Contact Custom Info ", ""},
-                    CustomGroupCase{"Company", 1, "CustomAddressFields", "CompanyLabel", "CompanyCustom",
-                                    "Company Custom Field ", "Company Custom Info ", ""},
-                    CustomGroupCase{"Appointment", 5, "CustomFields", "ApptCustomName", "ApptCustom",
-                                    "Custom Appt Field ", "Custom Appt Info ", ""},
-                    CustomGroupCase{"Schedule", 8, "CustomFields", "RemittanceLabel", "ScheduleCustom",
-                                    "Custom Task Field ", "Custom Task Info ", ""},
-                    CustomGroupCase{"Task", 8, "CustomFields", "TaskCustomName", "TaskCustom",
-                                    "Custom Task Calendar Field ", "Custom Task Info ", ""},
-                    CustomGroupCase{"TimeEntry", 6, "CustomFields", "DocketCustomName", "DocketCustom",
-                                    "Custom Time Entry Field ", "Custom Time Entry Info ", ""},
-                    CustomGroupCase{"Firm", 4, "CustomAddressFields", "CompanyLabel", "FirmCustom",
-                                    "Your Company Custom Field ", "Company Custom Info ", "Your "}),
-    rowName);
-
-class SqlLog : public ForwardingDatabaseService {
-public:
-    using ForwardingDatabaseService::ForwardingDatabaseService;
-    std::vector<std::string> opened;
-    std::int32_t openRecordset(std::string_view sql, std::int32_t cursor, std::int32_t lock, bool showError,
-                               std::string_view errorText, bool keep) override
-    {
-        opened.emplace_back(sql);
-        return ForwardingDatabaseService::openRecordset(sql, cursor, lock, showError, errorText, keep);
-    }
-};
-
-TEST_F(CatalogueTest, AnAppointmentsListAsksForItsLabelsAndNothingElse)
-{
-    const auto log = std::make_shared<SqlLog>(database);
-    serviceRegistry().database = log;
-    build(5);
-    EXPECT_EQ(log->opened,
-              (std::vector<std::string>{
-                  "SELECT ApptCustomName1, ApptCustomName2, ApptCustomName3, ApptCustomName4, ApptCustomName5 "
-                  "FROM CustomFields;",
-                  "SELECT CompanyLabel1, CompanyLabel2, CompanyLabel3, CompanyLabel4, CompanyLabel5 "
-                  "FROM CustomAddressFields;",
-                  "SELECT CustomName1, CustomName2, CustomName3, CustomName4, CustomName5 FROM CustomFields;",
-                  "SELECT ContactLabel1, ContactLabel2, ContactLabel3, ContactLabel4, ContactLabel5 "
-                  "FROM CustomAddressFields;",
-                  "SELECT CompanyLabel1, CompanyLabel2, CompanyLabel3, CompanyLabel4, CompanyLabel5 "
-                  "FROM CustomAddressFields;"}));
-}
-
 // --- Faults ---
 
 std::function<std::function<std::string()>(TestWorld&)> taskListBuilding(bool resultIsList)
 {
-    return [resultIsList](TestWorld&) -> std::function<std::string()> {
+    return [resultIsList](TestWorld& world) -> std::function<std::string()> {
+        world.addRow("CustomFields", {{"TaskCustomName1", "Colour"}});
         auto engine = std::make_shared<clsInsertFieldsInRTB>();
         engine->ListType(8);
         return [engine, resultIsList] {

@@ -37,9 +37,10 @@ TEST_F(MergeTest, MatchesTheRichDelimitersWithoutRegardToCase) { EXPECT_EQ(merge
 
 TEST_F(MergeTest, MergesTheLegacyDelimiters) { EXPECT_EQ(merged("<<City>>"), "Guelph"); }
 
-TEST_F(MergeTest, MergedPlainExpressionLeavesRichOnes)
+TEST_F(MergeTest, RichExpressionsAreNotMergedBesidePlainOnes)
 {
-    EXPECT_EQ(merged("«City» \\'abCompany Name\\'bb"), "Guelph \\'abCompany Name\\'bb");
+    EXPECT_EQ(merged("«City» \\'abCompany Name\\'bb"), "Guelph ");
+    EXPECT_EQ(merged("«City»«Unknown» \\'abCompany Name\\'bb"), "Guelph \\'abCompany Name\\'bb");
 }
 
 TEST_F(MergeTest, RemovedPlainExpressionLeavesUnknownRichOnes)
@@ -76,7 +77,7 @@ TEST_F(MergeTest, FormatOnAFieldThatIsNoDateMergesToNothing)
 
 TEST_F(MergeTest, UnknownFieldLeavesTheTextAroundItTouching) { EXPECT_EQ(merged("ab«Nobody»cd"), "abcd"); }
 
-TEST_F(MergeTest, WordDocketBecomesTimeEntryAnywhere) { EXPECT_EQ(merged("All DOCKETS"), "All Time Entrys"); }
+TEST_F(MergeTest, WordDocketBecomesTimeEntryAnywhere) { EXPECT_EQ(merged("Dockets, DOCKET"), "Time Entrys, Time Entry"); }
 
 // --- Order of the list ---
 
@@ -297,7 +298,7 @@ INSTANTIATE_TEST_SUITE_P(
         ExchangeRow{"RichForm", -1, 1, "\\'abCompany Name\\'bb", "Ann Reed"},
         ExchangeRow{"RichFormOfBoth", -1, 1, "\\'abCompany Name\\'bb\\'abContact Display Name\\'bb",
                     "Maple LeafAnn Reed"},
-        ExchangeRow{"PlainFormGoesFirst", -1, 1, "«Company Name»\\'abCompany Name\\'bb",
+        ExchangeRow{"PlainFormGoesFirst", -1, 1, "«Company Name»«?»\\'abCompany Name\\'bb",
                     "Ann Reed\\'abCompany Name\\'bb"}),
     rowName);
 

@@ -1,0 +1,206 @@
+#include "core/clsCalendarItemType.h"
+#include "items/clsCalendarItem.h"
+#include "items/modDatabaseFunctions.h"
+#include "support/RoutineSweep.h"
+#include "support/rowName.h"
+
+#include <gtest/gtest.h>
+
+// Every routine of the items, with every service call in it failing once.
+
+namespace qncal {
+namespace {
+
+namespace mod = modDatabaseFunctions;
+using test::SweptRoutine;
+using test::TestWorld;
+using Run = std::function<std::string()>;
+
+std::string asText(bool value) { return value ? "True" : "False"; }
+std::string asText(std::int32_t value) { return std::to_string(value); }
+std::string asText(const std::string& value) { return value; }
+
+/// A free routine on the rows that `fill` puts in place; its argument is the id that `fill` gives.
+template <class Result>
+SweptRoutine onRows(const char* name, Result defaultResult, std::function<std::int32_t(TestWorld&)> fill,
+                    std::function<Result(std::int32_t)> call)
+{
+    return {name, asText(defaultResult),
+            [fill, call](TestWorld& world) -> Run { return [call, id = fill(world)] { return asText(call(id)); }; }};
+}
+
+/// A routine of an item of the kind with the id that `fill` gives.
+SweptRoutine onItem(const char* name, const std::string& defaultResult, enumLocalCalendarItemType kind,
+                    std::function<std::int32_t(TestWorld&)> fill, std::function<std::string(clsCalendarItem&)> call)
+{
+    return {
+        name, defaultResult, [=](TestWorld& world) -> Run {
+            // Templates without fields: the merge of texts has tests of its own.
+            world.addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTemplate", "a"}, {"TaskTemplate", "t"}});
+            const std::int32_t id = fill(world);
+            auto item = std::make_shared<clsCalendarItem>();
+            item->calendarItemType(kind);
+            item->itemID(id);
+            return [item, call] { return call(*item); };
+        }};
+}
+
+std::int32_t noRows(TestWorld&) { return -1; }
+
+std::int32_t appointmentWithDependents(TestWorld& world)
+{
+    const std::int32_t id = world.addRow("Appointments", {{"Subject", "Budget"},
+                                                          {"CompanyIDNum", "5"},
+                                                          {"RepeatNum", "3"},
+                                                          {"UserGroupNum", "4"},
+                                                          {"UserIDNum", "1"},
+                                                          {"DateFrom", "2026-04-02"},
+                                                          {"TimeFrom", "15:00:00"},
+                                                          {"TimeTo", "11:00:00"},
+                                                          {"TextBody", "notes"}});
+    for (const char* done : {"True", "False"}) {
+        world.addRow("Reminders", {{"AppointmentIDNum", std::to_string(id)}, {"Completed", done}});
+        world.addRow("ClientNotification", {{"AppointmentNum", std::to_string(id)}, {"NotificationSent", done}});
+    }
+    world.addRow("Appointments", {{"RepeatNum", "3"}, {"UserGroupNum", "0"}, {"UserIDNum", "1"}});
+    return id;
+}
+
+std::int32_t taskOfSchedule(TestWorld& world)
+{
+    const std::int32_t schedule = world.addRow("Schedule", {{"totalNum", "111"}, {"scheduleNum", "5"}});
+    return world.addRow("Tasks", {{"ScheduleIDNum", std::to_string(schedule)}});
+}
+
+/// An archived task of schedule row 41; gives the task's former id.
+std::int32_t archivedTask(TestWorld& world)
+{
+    world.addRow("archiveTasks", {{"oldTaskID", "77"}, {"ScheduleIDNum", "41"}});
+    return 77;
+}
+
+std::int32_t colourScheme(TestWorld& world)
+{
+    return world.addRow("ColourSchemes", {{"SchemeName", "Sea"}, {"BackColour", "3"}, {"ForeColour", "4"}});
+}
+
+constexpr auto appointment = enumLocalCalendarAppointmentItem;
+constexpr auto task = enumLocalCalendarTaskItem;
+
+std::vector<SweptRoutine> routines()
+{
+    std::vector<SweptRoutine> all = {
+        onItem("LoadById", "False", appointment, appointmentWithDependents,
+               [](clsCalendarItem& item) { return asText(item.loadCalendarItem()); }),
+        {"LoadFromACallersSet", "False",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->calendarItemType(appointment);
+             item->itemID(appointmentWithDependents(world));
+             const std::int32_t handle =
+                 world.database->openRecordset("SELECT Appointments.* FROM Appointments;", 1, 1, true, {}, true);
+             return [item, handle] { return asText(item->loadCalendarItem(handle)); };
+         }},
+        onItem("SaveAnExistingRow", "False", appointment, appointmentWithDependents,
+               [](clsCalendarItem& item) {
+                   item.Subject("changed");
+                   return asText(item.saveCalendarItem());
+               }),
+        onItem("SaveANewRow", "False", task, noRows,
+               [](clsCalendarItem& item) {
+                   item.TimeFrom(Date::timeOf(15));
+                   return asText(item.saveCalendarItem());
+               }),
+        onItem(
+            "SaveAVanishedRow", "False", appointment, [](TestWorld&) { return 17; },
+            [](clsCalendarItem& item) { return asText(item.saveCalendarItem()); }),
+        onItem("DeleteItem", "False", appointment, appointmentWithDependents,
+               [](clsCalendarItem& item) { return asText(item.deleteCalendarItem()); }),
+        onItem("ItemTaskFromSchedule", "False", task, archivedTask,
+               [](clsCalendarItem& item) { return asText(item.getTaskIDFromScheduleID(41)); }),
+        onItem("ItemScheduleFromTask", "-1", task, archivedTask,
+               [](clsCalendarItem& item) { return asText(item.getScheduleIDFromTaskID()); }),
+        onRows<bool>("DeleteAppointmentKeepingTheDone", false, appointmentWithDependents,
+                     [](std::int32_t id) { return mod::deleteAppointment(id, true); }),
+        onRows<bool>("DeleteAppointment", false, appointmentWithDependents,
+                     [](std::int32_t id) { return mod::deleteAppointment(id, false); }),
+        onRows<bool>("DeleteSeriesOfUser", false, appointmentWithDependents,
+                     [](std::int32_t) { return mod::deleteRepeaterAppointmentForUser(appointment, 3, 1); }),
+        onRows<bool>("IsSeries", false, appointmentWithDependents,
+                     [](std::int32_t id) { return mod::isAppointmentRepeaterAppointment(appointment, id); }),
+        onRows<std::int32_t>("SeriesNumber", 0, appointmentWithDependents,
+                             [](std::int32_t id) { return mod::getAppointmentRepeaterID(appointment, id); }),
+        onRows<bool>("IsGroup", false, appointmentWithDependents,
+                     [](std::int32_t id) { return mod::isAppointmentPartOfGroupedAppointment(appointment, id); }),
+        onRows<std::int32_t>("GroupNumber", 0, appointmentWithDependents,
+                             [](std::int32_t id) { return mod::getAppointmentGroupID(appointment, id); }),
+        onRows<std::int32_t>("FreeSeriesNumber", 0, appointmentWithDependents,
+                             [](std::int32_t) { return mod::getAppointmentRepeatUniqueID(appointment); }),
+        onRows<std::int32_t>("FreeGroupNumber", 0, appointmentWithDependents,
+                             [](std::int32_t) { return mod::getAppointmentGroupUniqueID(appointment); }),
+        onRows<std::int32_t>("ClientOfAppointment", -1, appointmentWithDependents, mod::getCompanyIDFromAppointmentID),
+        onRows<std::int32_t>("ModuleTaskFromSchedule", -1, archivedTask,
+                             [](std::int32_t) { return mod::getTaskIDFromScheduleID(41); }),
+        onRows<bool>("IndependentScheduleEntry", false, taskOfSchedule,
+                     mod::isThisTaskAssociatedWithIndependentScheduleEntry),
+        onRows<std::string>("ModuleSchemeName", "", colourScheme, mod::getColourSchemeNameFromColourSchemeID),
+        {"ItemSchemeName", "",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->ColourSchemeID(colourScheme(world));
+             return [item] { return item->ColourSchemeName(); };
+         }},
+        {"ItemSchemeColours", "",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->ColourSchemeID(colourScheme(world));
+             return [item] {
+                 item->populateColourSchemeColours();
+                 return std::string();
+             };
+         }},
+        {"LoadTemplates", "",
+         [](TestWorld& world) -> Run {
+             world.addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", "t"}});
+             auto type = std::make_shared<clsCalendarItemType>();
+             return [type] {
+                 type->calendarItemType(appointment);
+                 return std::string();
+             };
+         }},
+        {"CreateTheTemplatesRow", "",
+         [](TestWorld&) -> Run {
+             auto type = std::make_shared<clsCalendarItemType>();
+             return [type] {
+                 type->calendarItemType(task);
+                 return std::string();
+             };
+         }},
+    };
+    SweptRoutine validID{"ValidID", "False",
+                         [](TestWorld&) -> Run { return [] { return asText(mod::validTaskID("12")); }; }};
+    validID.needsDatabase = false;
+    all.push_back(validID);
+    SweptRoutine endTime{"EndTimeFromDuration", "10:00:00", [](TestWorld&) -> Run {
+                             auto item = std::make_shared<clsCalendarItem>();
+                             item->timeduration(3);
+                             return [item] {
+                                 item->determineEndTimeFromTimeDuration();
+                                 return defaultDateText(item->TimeTo());
+                             };
+                         }};
+    endTime.needsDatabase = false;
+    all.push_back(endTime);
+    return all;
+}
+
+class itemsFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
+
+TEST_P(itemsFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(itemsFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
+TEST_P(itemsFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Routines, itemsFaultSweepTest, testing::ValuesIn(routines()), test::rowName);
+
+} // namespace
+} // namespace qncal
