@@ -15,6 +15,7 @@
 #include <fstream>
 #include <ostream>
 #include <sstream>
+#include <utility>
 
 namespace qncal::firmcal {
 

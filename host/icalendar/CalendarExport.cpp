@@ -92,7 +92,7 @@ ExportReport exportCalendar(HostEnvironment& host, const ExportOptions& options,
                             const ExportProgress& progress)
 {
     const People people(host);
-    TimeZones zones({});
+    TimeZones zones{std::string()};
     const std::vector<ItemPlace> places = placesOf(host.database(), options);
     GroupMerger merger;
     ExportReport report;

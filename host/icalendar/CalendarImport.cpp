@@ -12,8 +12,10 @@
 
 #include <algorithm>
 #include <charconv>
+#include <map>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace qncal::host::icalendar {
 
@@ -119,7 +121,8 @@ private:
                 continue;
             if (!remarked)
                 alarm = alarmOf(bundle.kind, component, row.first);
-            const KeptLines kept = keptLinesOf(component, row.isExact, !alarm || alarm->isExact);
+            KeptLines kept = keptLinesOf(component, row.isExact, alarm && alarm->isExact);
+            keepUnknownClients(component, kept);
             if (!std::exchange(remarked, true))
                 remarkOnLines(kept);
             for (const std::int32_t user : users) {
@@ -143,11 +146,27 @@ private:
             remark(ImportRemark::Sort::kept, component, component.number, "a time entry has no reminder");
             return std::nullopt;
         }
+        const bool hasAlarm = std::ranges::any_of(component.children, [](const auto& child) { return child.is("VALARM"); });
+        if (!alarm && hasAlarm)
+            remark(ImportRemark::Sort::kept, component, component.number, "its alarm has no time that can be read");
         if (alarm && !alarm->isExact)
             remark(ImportRemark::Sort::changed, component, component.number,
                    "the alarm " + std::to_string(alarm->minutesBefore) + " minutes before becomes a reminder of "
                        + alarm->period);
         return alarm;
+    }
+
+    /// A client that is not in the database stays where an export finds it.
+    void keepUnknownClients(const CalendarComponent& component, KeptLines& kept)
+    {
+        for (const auto& [kind, property] :
+             {std::pair(ClientKind::company, companyProperty), std::pair(ClientKind::contact, contactProperty)}) {
+            const ContentLine* line = component.find(property);
+            if (!line || people_.clientOf(kind, *line))
+                continue;
+            kept.lines.push_back(line->text);
+            kept.remarkable.push_back(*line);
+        }
     }
 
     void remarkOnLines(const KeptLines& kept)

@@ -65,7 +65,7 @@ void TimeZones::addFrom(const CalendarComponent& calendar)
         ComponentHandle component(icalparser_parse_string(text.c_str()));
         std::unique_ptr<icaltimezone, FreeZone> zone(icaltimezone_new());
         if (component && icaltimezone_set_component(zone.get(), component.get()) != 0) {
-            component.release(); // the zone's own from here on
+            static_cast<void>(component.release()); // the zone's own from here on
             ownZones_[std::string(icaltimezone_get_tzid(zone.get()))] = std::move(zone);
         }
     }
@@ -73,12 +73,13 @@ void TimeZones::addFrom(const CalendarComponent& calendar)
 
 icaltimezone* TimeZones::find(const std::string& tzid)
 {
+    if (icaltimezone* zone = knownZone(tzid))
+        return zone;
     if (const auto own = ownZones_.find(tzid); own != ownZones_.end())
         return own->second.get();
-    icaltimezone* zone = knownZone(tzid);
-    if (!zone && std::ranges::find(unknown_, tzid) == unknown_.end())
+    if (std::ranges::find(unknown_, tzid) == unknown_.end())
         unknown_.push_back(tzid);
-    return zone;
+    return nullptr;
 }
 
 icaltimezone* TimeZones::zoneOf(const ContentLine& line)

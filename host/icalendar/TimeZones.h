@@ -23,7 +23,8 @@ public:
     TimeZones(const TimeZones&) = delete;
     TimeZones& operator=(const TimeZones&) = delete;
 
-    /// Takes the VTIMEZONE components of a calendar; they go before zones of the same name in the database.
+    /// Takes the VTIMEZONE components of a calendar, for names that the database does not have: many programs
+    /// write no more of a zone than its rules of this year.
     void addFrom(const CalendarComponent& calendar);
 
     /// The zone of a name; none when nobody knows it.

@@ -1,6 +1,7 @@
 #include "icalendar/alarms.h"
 
 #include "icalendar/icalHandles.h"
+#include "reminders/reminderPeriods.h"
 #include "utilities/text.h"
 
 #include <algorithm>
@@ -10,30 +11,22 @@ namespace qncal::host::icalendar {
 
 namespace {
 
-struct Period {
-    std::string_view name;
-    int minutes;
-};
+constexpr int minutesOfYear = 366 * 24 * 60;
 
-constexpr int hour = 60;
-constexpr int day = 24 * hour;
-constexpr int week = 7 * day;
-constexpr Period periods[] = {
-    {"5 Min", 5},         {"10 Min", 10},      {"15 Min", 15},       {"20 Min", 20},       {"30 Min", 30},
-    {"1 Hr", hour},       {"2 Hr", 2 * hour},  {"3 Hr", 3 * hour},   {"6 Hr", 6 * hour},   {"12 Hr", 12 * hour},
-    {"1 Day", day},       {"2 Days", 2 * day}, {"3 Days", 3 * day},  {"5 Days", 5 * day},  {"1 Week", week},
-    {"10 Days", 10 * day}, {"2 Weeks", 2 * week}, {"5 Weeks", 5 * week},
-};
-
-const Period& nearestPeriod(int minutes)
+const ReminderPeriod& nearestPeriod(int minutes)
 {
-    return *std::ranges::min_element(periods, {}, [&](const Period& period) { return std::abs(period.minutes - minutes); });
+    return *std::ranges::min_element(reminderPeriods(), {}, [&](const ReminderPeriod& period) {
+        return std::abs(period.minutes - minutes);
+    });
 }
 
 /// When an alarm comes; none for a trigger that cannot be read.
 std::optional<Date> momentOf(const ContentLine& trigger, const Span& span, TimeZones& zones)
 {
-    const std::string value(trigger.value());
+    std::string value(trigger.value());
+    // "-P300S" is what some programs write for "-PT300S".
+    if (const std::size_t p = value.find('P'); p != std::string::npos && value.find_first_of("TDW") == std::string::npos)
+        value.insert(p + 1, 1, 'T');
     const icaldurationtype duration = icaldurationtype_from_string(value.c_str());
     if (icaldurationtype_is_bad_duration(duration) == 0) {
         const bool fromEnd = equalsNoCase(trigger.parameter("RELATED"), "END");
@@ -69,8 +62,8 @@ std::optional<AlarmReminder> reminderOf(const CalendarComponent& component, cons
         if (!moment)
             continue;
         const auto seconds = span.start.linearSeconds() - moment->linearSeconds();
-        const auto minutes = static_cast<int>(std::clamp<std::int64_t>(seconds / 60, -52 * week, 52 * week));
-        const Period& nearest = nearestPeriod(minutes);
+        const auto minutes = static_cast<int>(std::clamp<std::int64_t>(seconds / 60, -minutesOfYear, minutesOfYear));
+        const ReminderPeriod& nearest = nearestPeriod(minutes);
         return AlarmReminder{std::string(nearest.name), minutes,
                              alarms == 1 && nearest.minutes * 60 == seconds && saysNoMore(alarm)};
     }
@@ -79,8 +72,7 @@ std::optional<AlarmReminder> reminderOf(const CalendarComponent& component, cons
 
 std::vector<std::string> alarmLines(std::string_view period, std::string_view text)
 {
-    const auto* const found = std::ranges::find(periods, period, &Period::name);
-    const int minutes = found == std::ranges::end(periods) ? 0 : found->minutes;
+    const int minutes = reminderPeriod(period).minutes;
     const icaldurationtype before = icaldurationtype_from_int(-minutes * 60);
     char* trigger = icaldurationtype_as_ical_string_r(before);
     std::vector<std::string> lines{"BEGIN:VALARM", "ACTION:DISPLAY", std::string("TRIGGER:") + trigger,
@@ -91,7 +83,7 @@ std::vector<std::string> alarmLines(std::string_view period, std::string_view te
 
 bool isReminderPeriod(std::string_view period)
 {
-    return std::ranges::find(periods, period, &Period::name) != std::ranges::end(periods);
+    return std::ranges::find(reminderPeriods(), period, &ReminderPeriod::name) != reminderPeriods().end();
 }
 
 } // namespace qncal::host::icalendar

@@ -7,6 +7,7 @@
 #include <istream>
 #include <iterator>
 #include <optional>
+#include <utility>
 
 namespace qncal::host::icalendar {
 

@@ -114,7 +114,8 @@ private:
         for (const ContentLine& line : kept_.lines) {
             if (line.is("UID") || line.is("RECURRENCE-ID") || line.is("DTSTAMP") || line.name().empty())
                 continue;
-            if (line.is("CLASS") && !item_.PrivateItem())
+            // Somebody has made the item public since.
+            if (line.is("CLASS") && equalsNoCase(line.value(), "CONFIDENTIAL") && !item_.PrivateItem())
                 continue;
             add(line.text);
             if (line.is("ATTENDEE"))

@@ -71,7 +71,10 @@ std::string plainRichText(const std::string& text)
 
 } // namespace
 
-std::string ItemNotes::description() const { return below.empty() ? text : text + "\n" + below; }
+std::string ItemNotes::description() const
+{
+    return text + (text.empty() || below.empty() ? "" : "\n") + below;
+}
 
 ItemNotes readNotes(std::string_view richText)
 {
@@ -88,7 +91,9 @@ ItemNotes readNotes(std::string_view richText)
     std::string withoutBlock(richText);
     if (block && isRichTextStream(richText)) {
         const std::size_t begin = streamOffsetOf(richText, codePointsIn(visible, block->begin));
-        const std::size_t end = streamOffsetOf(richText, codePointsIn(visible, block->end));
+        // Between what stands above and below one line end stays.
+        const bool isBetween = block->begin > 0 && !notes.below.empty();
+        const std::size_t end = streamOffsetOf(richText, codePointsIn(visible, block->end - (isBetween ? 1 : 0)));
         withoutBlock.erase(begin, end - begin);
     }
     if (isRichTextStream(richText) && withoutBlock != plainRichText(notes.description()))

@@ -22,7 +22,8 @@ constexpr std::int64_t secondsOfDay = 24 * 60 * 60;
 icaltimetype timeOf(const ContentLine& line, const std::string& value, TimeZones& zones)
 {
     const icaltimetype read = icaltime_from_string(value.c_str());
-    if (icaltime_is_null_time(read) || !icaltime_is_valid_time(read) || read.year < 100)
+    if (icaltime_is_null_time(read) || !icaltime_is_valid_time(read) || read.year < 100
+        || read.day > daysInMonth(read.year, read.month))
         refuse(line, "no date");
     return zones.inZone(read, zones.zoneOf(line));
 }
