@@ -56,7 +56,7 @@ std::vector<ItemPlace> placesOf(DatabaseService& database, const ExportOptions& 
 
 struct Written {
     ItemComponent component;
-    std::vector<std::int32_t> users;
+    std::vector<RowOwner> owners;
 };
 
 /// Rows of one group that say the same are one component.
@@ -71,13 +71,13 @@ public:
                     key += "\n" + line;
             }
             const auto [place, isNew] = places_.try_emplace(std::move(key), written_.size());
-            std::vector<std::int32_t>* users = isNew ? nullptr : &written_[place->second].users;
-            if (users && std::ranges::find(*users, item.userIDNum()) == users->end()) {
-                users->push_back(item.userIDNum());
+            std::vector<RowOwner>* owners = isNew ? nullptr : &written_[place->second].owners;
+            if (owners && std::ranges::find(*owners, item.userIDNum(), &RowOwner::userID) == owners->end()) {
+                owners->push_back({item.userIDNum(), item.RepeatNum()});
                 return;
             }
         }
-        written_.push_back({std::move(component), {item.userIDNum()}});
+        written_.push_back({std::move(component), {{item.userIDNum(), item.RepeatNum()}}});
     }
     const std::vector<Written>& written() const { return written_; }
 
@@ -112,7 +112,7 @@ ExportReport exportCalendar(HostEnvironment& host, const ExportOptions& options,
     for (const char* line : {"BEGIN:VCALENDAR", "VERSION:2.0", "PRODID:-//firmcal//firmcal 1.0//EN"})
         write(line);
     for (const Written& written : merger.written()) {
-        for (const std::string& line : linesOf(written.component, written.users, people))
+        for (const std::string& line : linesOf(written.component, written.owners, people))
             write(line);
         ++report.components;
     }

@@ -35,14 +35,19 @@ std::string shortened(std::string_view text)
     return text.size() > longest ? line + "..." : line;
 }
 
-/// The number that an export gave a series or group; none for others.
-std::optional<std::int32_t> fileNumber(const CalendarComponent& component, std::string_view property)
+/// The number that an export gave a series or group; 0 for others.
+std::int32_t fileNumber(const std::string& text)
 {
-    const std::string text = component.textOf(property);
     std::int32_t number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && number > 0 ? std::optional(number) : std::nullopt;
+    std::from_chars(text.data(), text.data() + text.size(), number);
+    return number;
 }
+
+/// Who takes part, with the number that the file has for his or her series.
+struct Participant {
+    std::int32_t userID = -1;
+    std::int32_t fileSeries = 0;
+};
 
 class Import {
 public:
@@ -78,19 +83,19 @@ private:
         report_.remarks.push_back({sort, line, shortened(subjectOf(component)), std::move(text)});
     }
 
-    void skip(const CalendarComponent& component, const std::string& why)
+    void skip(const CalendarComponent& component, const std::string& why, int line = 0)
     {
         ++report_.skipped;
-        remark(ImportRemark::Sort::skipped, component, component.number, why);
+        remark(ImportRemark::Sort::skipped, component, line > 0 ? line : component.number, why);
     }
 
     void importBundle(const Bundle& bundle)
     {
         const std::size_t remarksBefore = report_.remarks.size();
-        const auto giveUp = [&](const std::string& why) {
+        const auto giveUp = [&](const std::string& why, int line) {
             writer_.undo();
             report_.remarks.resize(remarksBefore);
-            skip(*bundle.components.front(), why);
+            skip(*bundle.components.front(), why, line);
         };
         try {
             const Plan plan = planOf(bundle, options_.lastDay, today(), zones_);
@@ -104,16 +109,16 @@ private:
             report_.updated += counts.updated;
             report_.unchanged += counts.unchanged;
         } catch (const CalendarError& error) {
-            giveUp(error.what());
+            giveUp(error.what(), error.line());
         } catch (const RunTimeError& error) {
-            giveUp(error.what());
+            giveUp(error.what(), 0);
         }
     }
 
     /// The rows of one component of a bundle, for all its users.
     void importRows(const Bundle& bundle, const CalendarComponent& component, const Plan& plan)
     {
-        const std::vector<std::int32_t> users = usersOf(component);
+        const std::vector<Participant> users = usersOf(component);
         std::optional<AlarmReminder> alarm;
         bool remarked = false;
         for (const PlannedRow& row : plan.rows) {
@@ -125,14 +130,14 @@ private:
             keepUnknownClients(component, kept);
             if (!std::exchange(remarked, true))
                 remarkOnLines(kept);
-            for (const std::int32_t user : users) {
+            for (const auto& [user, fileSeries] : users) {
                 const std::string subject = component.textOf("SUMMARY");
                 const auto existing = known_.take(
                     {bundle.kind, bundle.uid, std::string(ContentLine{row.occurrence}.value()), user, subject,
                      row.times.day});
                 ItemWriter::Row writing{bundle, row, user, alarm, kept.lines, existing};
-                writing.series = seriesOf(bundle, component, plan, existing);
-                writing.group = groupOf(bundle, component, users, existing);
+                writing.series = seriesOf(bundle, component, plan, fileSeries, existing);
+                writing.group = groupOf(bundle, component, users.size(), existing);
                 writer_.write(writing);
             }
         }
@@ -180,18 +185,18 @@ private:
     }
 
     /// Known attendees, or else the one who imports.
-    std::vector<std::int32_t> usersOf(const CalendarComponent& component)
+    std::vector<Participant> usersOf(const CalendarComponent& component)
     {
-        std::vector<std::int32_t> users;
-        const auto add = [&](std::optional<std::int32_t> user) {
-            if (user && std::ranges::find(users, *user) == users.end())
-                users.push_back(*user);
+        std::vector<Participant> users;
+        const auto add = [&](std::optional<std::int32_t> user, std::int32_t fileSeries = 0) {
+            if (user && std::ranges::find(users, *user, &Participant::userID) == users.end())
+                users.push_back({*user, fileSeries});
         };
         const bool isOwn = component.find(userProperty) != nullptr;
         for (const ContentLine& line : component.lines) {
             if (line.is(userProperty)) {
                 const auto user = people_.userOf(line);
-                add(user);
+                add(user, fileNumber(line.parameter(seriesParameter)));
                 if (!user)
                     remark(ImportRemark::Sort::changed, component, line.number,
                            "there is no user '" + line.textValue() + "'");
@@ -203,19 +208,17 @@ private:
         if (const ContentLine* organizer = component.find("ORGANIZER"); !isOwn && organizer)
             add(people_.userOfAttendee(*organizer));
         if (users.empty())
-            users.push_back(people_.defaultUser());
+            users.push_back({people_.defaultUser()});
         return users;
     }
 
     std::int32_t seriesOf(const Bundle& bundle, const CalendarComponent& component, const Plan& plan,
-                          const std::optional<KnownItems::Row>& existing)
+                          std::int32_t fileSeries, const std::optional<KnownItems::Row>& existing)
     {
         if (existing && existing->series > 0)
             return bundleSeries_[&bundle] = existing->series;
-        if (component.find(userProperty)) {
-            const auto number = fileNumber(component, seriesProperty);
-            return number ? series_.forFileNumber(bundle.kind, *number) : 0;
-        }
+        if (component.find(userProperty))
+            return fileSeries > 0 ? series_.forFileNumber(bundle.kind, fileSeries) : 0;
         std::set<std::string> occurrences;
         for (const PlannedRow& row : plan.rows)
             occurrences.insert(row.occurrence);
@@ -228,13 +231,13 @@ private:
     }
 
     std::int32_t groupOf(const Bundle& bundle, const CalendarComponent& component,
-                         const std::vector<std::int32_t>& users, const std::optional<KnownItems::Row>& existing)
+                         std::size_t userCount, const std::optional<KnownItems::Row>& existing)
     {
         if (existing && existing->group > 0)
             return bundleGroups_[&bundle] = existing->group;
-        if (const auto number = fileNumber(component, groupProperty))
-            return groups_.forFileNumber(bundle.kind, *number);
-        if (users.size() < 2)
+        if (const std::int32_t number = fileNumber(component.textOf(groupProperty)); number > 0)
+            return groups_.forFileNumber(bundle.kind, number);
+        if (userCount < 2)
             return 0;
         std::int32_t& number = bundleGroups_[&bundle];
         if (number == 0)

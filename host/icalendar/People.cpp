@@ -109,10 +109,13 @@ std::optional<std::int32_t> People::clientOf(ClientKind kind, const ContentLine&
     return id >= 0 && nameOfID.empty() ? std::optional(id) : std::nullopt;
 }
 
-std::string People::userLine(std::int32_t userID) const
+std::string People::userLine(std::int32_t userID, std::int32_t series) const
 {
     const User* user = find(userID);
-    return withID(userProperty, userID, user ? user->name : std::string());
+    std::string property(userProperty);
+    if (series > 0)
+        property += ";" + std::string(seriesParameter) + "=" + std::to_string(series);
+    return withID(property, userID, user ? user->name : std::string());
 }
 
 std::string People::clientLine(ClientKind kind, std::int32_t id) const

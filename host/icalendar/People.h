@@ -28,7 +28,8 @@ public:
     /// number that nobody has. Never a client of another name.
     std::optional<std::int32_t> clientOf(ClientKind kind, const ContentLine& line) const;
 
-    std::string userLine(std::int32_t userID) const;
+    /// With the number of the user's series, where it is above 0.
+    std::string userLine(std::int32_t userID, std::int32_t series) const;
     std::string clientLine(ClientKind kind, std::int32_t id) const;
     /// An ATTENDEE for a user.
     std::string attendeeLine(std::int32_t userID) const;

@@ -14,7 +14,12 @@ namespace qncal::host::icalendar {
 /// A file, or a component of one, that cannot be read. The text is one line for the user.
 class CalendarError : public std::runtime_error {
 public:
-    using std::runtime_error::runtime_error;
+    explicit CalendarError(const std::string& text, int line = 0) : std::runtime_error(text), line_(line) {}
+    /// The line at fault inside of a component; 0 where the text tells all.
+    int line() const { return line_; }
+
+private:
+    int line_;
 };
 
 /// One unfolded line: a name, parameters and a value.

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <map>
 #include <optional>
+#include <set>
 
 namespace qncal::host::icalendar {
 
@@ -139,8 +140,7 @@ private:
             return;
         }
         const std::vector<DayTimes> days = daysOf(moment.span);
-        if (days.size() == static_cast<std::size_t>(mostDays))
-            remark(*moment.component, "it is too long; its first " + std::to_string(mostDays) + " days are made");
+        remarkOnDays(moment, days);
         for (const DayTimes& times : days) {
             row.isLaterDay = &times != &days.front();
             row.times = times;
@@ -153,12 +153,28 @@ private:
         }
     }
 
+    /// Once for a component, however often it occurs.
+    void remarkOnDays(const Moment& moment, const std::vector<DayTimes>& days)
+    {
+        const bool endsAtMidnight = !moment.span.wholeDays && days.back().to == lastMinute
+                                    && !moment.span.end.hasTime();
+        if ((days.size() == 1 && !endsAtMidnight) || !remarkedOnDays_.insert(moment.component).second)
+            return;
+        if (days.size() == static_cast<std::size_t>(mostDays))
+            remark(*moment.component, "it is too long; its first " + std::to_string(mostDays) + " days are made");
+        else if (days.size() > 1)
+            remark(*moment.component, "it goes on for " + std::to_string(days.size()) + " days, one item each");
+        if (endsAtMidnight)
+            remark(*moment.component, "it ends at midnight, on the calendar at 23:59");
+    }
+
     const Bundle& bundle_;
     Date lastDay_;
     Date undatedDay_;
     TimeZones& zones_;
     std::vector<Moment> moments_;
     std::map<const CalendarComponent*, Span> firsts_;
+    std::set<const CalendarComponent*> remarkedOnDays_;
     bool undated_ = false;
     Plan plan_;
 };

@@ -54,8 +54,7 @@ private:
             component_.uid = madeUpUID(item_.calendarItemType(), item_.itemID(), people_.domain());
         if (const ContentLine* occurrence = kept_.find("RECURRENCE-ID"))
             add(occurrence->text);
-        const ContentLine* stamp = kept_.find("DTSTAMP");
-        add(stamp ? stamp->text : "DTSTAMP:" + zones_.utcText(now()));
+        add("DTSTAMP:" + zones_.utcText(now()));
     }
 
     void writeTimes()
@@ -92,8 +91,6 @@ private:
             add(people_.clientLine(ClientKind::company, item_.companyIDNum()));
         if (item_.contactIDNum() >= 0)
             add(people_.clientLine(ClientKind::contact, item_.contactIDNum()));
-        if (item_.RepeatNum() > 0)
-            add(seriesProperty, std::to_string(item_.RepeatNum()));
         if (item_.UserGroupNum() > 0)
             add(groupProperty, std::to_string(item_.UserGroupNum()));
         clsCalendarItem blank;
@@ -112,7 +109,7 @@ private:
     void writeKept()
     {
         for (const ContentLine& line : kept_.lines) {
-            if (line.is("UID") || line.is("RECURRENCE-ID") || line.is("DTSTAMP") || line.name().empty())
+            if (line.is("UID") || line.is("RECURRENCE-ID") || line.name().empty())
                 continue;
             // Somebody has made the item public since.
             if (line.is("CLASS") && equalsNoCase(line.value(), "CONFIDENTIAL") && !item_.PrivateItem())
@@ -156,19 +153,19 @@ ItemComponent componentOf(clsCalendarItem& item, const People& people, TimeZones
     return ComponentWriter(item, people, zones).write();
 }
 
-std::vector<std::string> linesOf(const ItemComponent& component, const std::vector<std::int32_t>& users,
+std::vector<std::string> linesOf(const ItemComponent& component, const std::vector<RowOwner>& owners,
                                  const People& people)
 {
     std::vector<std::string> lines{"BEGIN:" + component.name};
     if (!component.uid.empty())
         lines.push_back("UID:" + component.uid);
     lines.insert(lines.end(), component.lines.begin(), component.lines.end());
-    for (const std::int32_t user : users) {
-        lines.push_back(people.userLine(user));
-        const bool isListed = std::ranges::any_of(component.attendees, [&](const ContentLine& attendee) {
-            return people.userOfAttendee(attendee) == user;
+    for (const auto& [user, series] : owners) {
+        lines.push_back(people.userLine(user, series));
+        const bool isListed = std::ranges::any_of(component.attendees, [&, userID = user](const ContentLine& attendee) {
+            return people.userOfAttendee(attendee) == userID;
         });
-        if (users.size() > 1 && !isListed)
+        if (owners.size() > 1 && !isListed)
             lines.push_back(people.attendeeLine(user));
     }
     lines.insert(lines.end(), component.children.begin(), component.children.end());

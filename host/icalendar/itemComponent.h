@@ -11,7 +11,7 @@
 namespace qncal::host::icalendar {
 
 /// An item as the lines of a component, in the order of writing. Rows of a group that differ in nothing but their
-/// user have the same lines but for `uid`, which holds for the first of them.
+/// owner have the same lines but for `uid`, which holds for the first of them.
 struct ItemComponent {
     std::string name;
     /// Empty when it is among the lines.
@@ -22,10 +22,16 @@ struct ItemComponent {
     std::vector<std::string> children;
 };
 
+/// Whose row an item is.
+struct RowOwner {
+    std::int32_t userID = -1;
+    std::int32_t series = 0;
+};
+
 ItemComponent componentOf(clsCalendarItem& item, const People& people, TimeZones& zones);
 
 /// The component with its users, from BEGIN to END. Several users are attendees.
-std::vector<std::string> linesOf(const ItemComponent& component, const std::vector<std::int32_t>& users,
+std::vector<std::string> linesOf(const ItemComponent& component, const std::vector<RowOwner>& owners,
                                  const People& people);
 
 } // namespace qncal::host::icalendar

@@ -17,9 +17,9 @@ namespace {
 constexpr std::size_t longestKept = 64U << 10U;
 
 constexpr std::string_view times[] = {"DTSTART", "DTEND", "DUE", "DURATION", "RRULE", "RDATE", "EXDATE", "EXRULE"};
-constexpr std::string_view bookkeeping[] = {"DTSTAMP", "CREATED", "LAST-MODIFIED", "SEQUENCE"};
-constexpr std::string_view ownLines[] = {kindProperty,   userProperty,  companyProperty, contactProperty,
-                                         seriesProperty, groupProperty, periodProperty,  richTextProperty};
+constexpr std::string_view bookkeeping[] = {"CREATED", "LAST-MODIFIED", "SEQUENCE"};
+constexpr std::string_view ownLines[] = {kindProperty,  userProperty,   companyProperty, contactProperty,
+                                         groupProperty, periodProperty, richTextProperty};
 
 struct Default {
     std::string_view property;
@@ -43,7 +43,7 @@ bool isDefault(const ContentLine& line)
 /// What `People` and the item's own columns hold, and an export writes anew.
 bool isCarried(const ContentLine& line)
 {
-    return line.is("UID") || line.is("RECURRENCE-ID") || isOneOf(line, ownLines) || findItemField(line.name())
+    return line.is("UID") || line.is("RECURRENCE-ID") || line.is("DTSTAMP") || isOneOf(line, ownLines) || findItemField(line.name())
            || (line.is("CLASS") && equalsNoCase(line.value(), "PRIVATE"))
            || (line.is("ATTENDEE") && !line.parameter(idParameter).empty());
 }

@@ -11,7 +11,7 @@ namespace qncal::host::icalendar {
 
 /// Which lines of a component go into the notes of its items, since no column holds them.
 struct KeptLines {
-    /// In the order of the file, without UID and RECURRENCE-ID.
+    /// In the order of the file, without UID and RECURRENCE-ID, and without DTSTAMP, which every export sets anew.
     std::vector<std::string> lines;
     /// Those of them that a user would look for on the calendar.
     std::vector<ContentLine> remarkable;

@@ -96,7 +96,7 @@ ItemNotes readNotes(std::string_view richText)
         const std::size_t end = streamOffsetOf(richText, codePointsIn(visible, block->end - (isBetween ? 1 : 0)));
         withoutBlock.erase(begin, end - begin);
     }
-    if (isRichTextStream(richText) && withoutBlock != plainRichText(notes.description()))
+    if (isRichTextStream(richText) && withoutBlock != streamAround(escapedForStream(notes.description())))
         notes.formatted = std::move(withoutBlock);
     return notes;
 }

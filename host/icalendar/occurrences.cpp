@@ -16,7 +16,7 @@ constexpr std::int64_t secondsOfDay = 24 * 60 * 60;
 {
     constexpr std::size_t shown = 60;
     const std::string text = line.text.size() <= shown ? line.text : line.text.substr(0, shown) + "...";
-    throw CalendarError("line " + std::to_string(line.number) + ", '" + text + "': " + why);
+    throw CalendarError("'" + text + "': " + why, line.number);
 }
 
 icaltimetype timeOf(const ContentLine& line, const std::string& value, TimeZones& zones)
@@ -148,7 +148,7 @@ std::optional<Span> spanOf(const CalendarComponent& component, TimeZones& zones)
     if (!start && isTask)
         return end ? std::optional(spanFromDue(*end, zones)) : std::nullopt;
     if (!start)
-        throw CalendarError("line " + std::to_string(component.number) + ": an event without DTSTART");
+        throw CalendarError("an event without DTSTART", component.number);
     const icaltimetype first = timeOf(*start, zones);
     const Date from = zones.localDate(first);
     const bool wholeDays = first.is_date != 0;

@@ -186,6 +186,24 @@ TEST_F(CalendarRoundTrip, AGroupIsOneEventWithItsAttendees)
     EXPECT_EQ(event.children[0].textOf("TRIGGER"), "-P10D");
 }
 
+TEST_F(CalendarRoundTrip, UsersOfAGroupKeepTheirOwnSeries)
+{
+    fillDemoFirm(host, {.seed = 3, .companies = 2, .contacts = 2, .items = 30});
+    const std::string calendar = exported(host);
+    std::istringstream in(calendar);
+    const auto calendars = readCalendars(in);
+    const auto meeting = std::ranges::find_if(calendars.at(0).children, [](const CalendarComponent& component) {
+        return component.textOf("SUMMARY") == "Staff meeting";
+    });
+    ASSERT_NE(meeting, calendars[0].children.end());
+    std::set<std::string> series;
+    for (const ContentLine& line : meeting->lines) {
+        if (line.is("X-QNCAL-USER"))
+            series.insert(line.parameter("X-QNCAL-SERIES"));
+    }
+    EXPECT_EQ(series.size(), 6U);
+}
+
 TEST_F(CalendarRoundTrip, LinesOfAnExportAreFolded)
 {
     addFullItem(enumLocalCalendarAppointmentItem, 1);
