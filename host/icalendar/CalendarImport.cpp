@@ -125,7 +125,7 @@ private:
             if (row.component != &component)
                 continue;
             if (!remarked)
-                alarm = alarmOf(bundle.kind, component, row.first);
+                alarm = alarmOf(component, row.first);
             KeptLines kept = keptLinesOf(component, row.isExact, alarm && alarm->isExact);
             keepUnknownClients(component, kept);
             if (!std::exchange(remarked, true))
@@ -143,14 +143,9 @@ private:
         }
     }
 
-    std::optional<AlarmReminder> alarmOf(enumLocalCalendarItemType kind, const CalendarComponent& component,
-                                         const Span& first)
+    std::optional<AlarmReminder> alarmOf(const CalendarComponent& component, const Span& first)
     {
-        auto alarm = reminderOf(component, first, zones_);
-        if (alarm && kind == enumLocalCalendarDocketItem) {
-            remark(ImportRemark::Sort::kept, component, component.number, "a time entry has no reminder");
-            return std::nullopt;
-        }
+        const auto alarm = reminderOf(component, first, zones_);
         const bool hasAlarm = std::ranges::any_of(component.children, [](const auto& child) { return child.is("VALARM"); });
         if (!alarm && hasAlarm)
             remark(ImportRemark::Sort::kept, component, component.number, "its alarm has no time that can be read");

@@ -65,8 +65,8 @@ TEST_F(CalendarFileTest, TimeZonesBecomeLocalTimes)
     EXPECT_EQ(calendar(), "2026-03-10 08:00-08:30 Wherever you are\n"
                           "2026-03-10 10:00-11:00 In UTC\n"
                           "2026-03-10 10:30-11:15 In a zone of the file's own\n"
-                          "2026-03-10 11:00-11:30 Nobody knows where\n"
                           "2026-03-10 11:00-18:00 From Berlin to Toronto\n"
+                          "2026-03-10 11:00-11:30 Nobody knows where\n"
                           "2026-03-10 14:00-15:00 In Toronto\n");
     EXPECT_EQ(remarks(report, "changed"), "nobody knows this time zone; its times are taken as local\n");
 }
