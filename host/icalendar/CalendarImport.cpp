@@ -103,6 +103,7 @@ private:
                 remark(ImportRemark::Sort::changed, *made.component, made.component->number, made.text);
             for (const CalendarComponent* component : bundle.components)
                 importRows(bundle, *component, plan);
+            remarkOnLeftItems(bundle);
             const ItemWriter::Counts counts = writer_.finish();
             report_.components += static_cast<int>(bundle.components.size());
             report_.added += counts.added;
@@ -113,6 +114,17 @@ private:
         } catch (const RunTimeError& error) {
             giveUp(error.what(), 0);
         }
+    }
+
+    /// An export may be of some days only, so that it tells nothing about the others.
+    void remarkOnLeftItems(const Bundle& bundle)
+    {
+        const CalendarComponent& component = *bundle.components.front();
+        if (component.find(userProperty))
+            return;
+        for (const std::int32_t id : known_.leftOf(bundle.kind, bundle.uid))
+            remark(ImportRemark::Sort::changed, component, component.number,
+                   "item " + std::to_string(id) + " of an earlier import is not in this file; it stays");
     }
 
     /// The rows of one component of a bundle, for all its users.
@@ -146,7 +158,8 @@ private:
     std::optional<AlarmReminder> alarmOf(const CalendarComponent& component, const Span& first)
     {
         const auto alarm = reminderOf(component, first, zones_);
-        const bool hasAlarm = std::ranges::any_of(component.children, [](const auto& child) { return child.is("VALARM"); });
+        const bool hasAlarm =
+            std::ranges::any_of(component.children, [](const auto& child) { return child.is("VALARM"); });
         if (!alarm && hasAlarm)
             remark(ImportRemark::Sort::kept, component, component.number, "its alarm has no time that can be read");
         if (alarm && !alarm->isExact)

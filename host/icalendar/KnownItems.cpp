@@ -72,6 +72,20 @@ std::optional<KnownItems::Row> KnownItems::take(const Wanted& wanted)
     return own;
 }
 
+std::vector<std::int32_t> KnownItems::leftOf(enumLocalCalendarItemType kind, const std::string& uid) const
+{
+    std::vector<std::int32_t> left;
+    const Key first = keyOf(kind, uid, {});
+    for (auto known = rows_.lower_bound(first);
+         known != rows_.end() && known->first.first == kind && known->first.second.starts_with(first.second); ++known) {
+        for (const Row& row : known->second) {
+            if (!taken_.contains({kind, row.id}))
+                left.push_back(row.id);
+        }
+    }
+    return left;
+}
+
 std::optional<KnownItems::Row> KnownItems::findMadeUp(const Wanted& wanted)
 {
     const std::string start = wordOf(wanted.kind) + "-";

@@ -42,6 +42,8 @@ public:
     };
     /// None when the item is new. An item is found once.
     std::optional<Row> take(const Wanted& wanted);
+    /// The items of a UID that were not taken: what an earlier file had and this one has not.
+    std::vector<std::int32_t> leftOf(enumLocalCalendarItemType kind, const std::string& uid) const;
 
 private:
     using Key = std::pair<std::int32_t, std::string>;

@@ -226,6 +226,24 @@ TEST_F(CalendarFileTest, AComponentWithAFaultIsSkippedAndListed)
               std::string::npos);
 }
 
+TEST_F(CalendarFileTest, AChangedFileUpdatesItsItems)
+{
+    const auto series = [&](const std::string& more) {
+        return write("series.ics", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nDTSTART:20260302T090000\nDURATION:PT1H\n"
+                                   "RRULE:FREQ=DAILY;COUNT=3\n" + more + "END:VEVENT\nEND:VCALENDAR\n");
+    };
+    import(series("SUMMARY:Before\n"));
+    succeed({"item", "set", "3", "--set", "Custom1=Mine"});
+    const Json report = import(series("SUMMARY:After\nEXDATE:20260303T090000\n"));
+    EXPECT_EQ(report["added"], 0);
+    EXPECT_EQ(report["updated"], 2);
+    EXPECT_EQ(remarks(report, "changed"), "item 2 of an earlier import is not in this file; it stays\n");
+    EXPECT_EQ(rows("SELECT Subject, RepeatNum, Custom1 FROM Appointments ORDER BY AppointmentID;"),
+              "{\"Subject\":\"After\",\"RepeatNum\":1,\"Custom1\":\"\"}\n"
+              "{\"Subject\":\"Before\",\"RepeatNum\":1,\"Custom1\":\"\"}\n"
+              "{\"Subject\":\"After\",\"RepeatNum\":1,\"Custom1\":\"Mine\"}\n");
+}
+
 class CorpusTest : public CalendarFileTest, public testing::WithParamInterface<const char*> {};
 
 TEST_P(CorpusTest, ASecondImportChangesNothing)
