@@ -120,8 +120,7 @@ void importFile(CommandContext& context, const ImportArguments& arguments)
     ImportReport report;
     try {
         report = host::icalendar::importCalendars(
-            context.host(), calendars,
-            {.lastDay = lastDay, .timeZone = arguments.zone, .dryRun = arguments.dryRun},
+            context.host(), calendars, {.lastDay = lastDay, .timeZone = arguments.zone, .dryRun = arguments.dryRun},
             progressOn(context.streams(), "Importing"));
     } catch (const host::icalendar::CalendarError& error) {
         throw Failure(error.what());

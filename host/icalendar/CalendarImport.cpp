@@ -144,9 +144,9 @@ private:
                 remarkOnLines(kept);
             for (const auto& [user, fileSeries] : users) {
                 const std::string subject = component.textOf("SUMMARY");
-                const auto existing = known_.take(
-                    {bundle.kind, bundle.uid, std::string(ContentLine{row.occurrence}.value()), user, subject,
-                     row.times.day});
+                const auto existing =
+                    known_.take({bundle.kind, bundle.uid, std::string(ContentLine{row.occurrence}.value()), user,
+                                 subject, row.times.day});
                 ItemWriter::Row writing{bundle, row, user, alarm, kept.lines, existing};
                 writing.series = seriesOf(bundle, component, plan, fileSeries, existing);
                 writing.group = groupOf(bundle, component, users.size(), existing);
@@ -238,8 +238,8 @@ private:
         return number;
     }
 
-    std::int32_t groupOf(const Bundle& bundle, const CalendarComponent& component,
-                         std::size_t userCount, const std::optional<KnownItems::Row>& existing)
+    std::int32_t groupOf(const Bundle& bundle, const CalendarComponent& component, std::size_t userCount,
+                         const std::optional<KnownItems::Row>& existing)
     {
         if (existing && existing->group > 0)
             return bundleGroups_[&bundle] = existing->group;

@@ -47,13 +47,13 @@ void KnownItems::readKind(enumLocalCalendarItemType kind)
 {
     const std::string table(calendarItemKind(kind).tableName);
     const std::string key(calendarItemKind(kind).fieldName);
-    for (Rows rows = Rows::read(database_, "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, TextBody FROM " + table
-                                               + " WHERE TextBody LIKE '%" + database_.getSQLText(blockMark) + "%';");
+    for (Rows rows =
+             Rows::read(database_, "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, TextBody FROM " + table
+                                       + " WHERE TextBody LIKE '%" + database_.getSQLText(blockMark) + "%';");
          !rows.atEnd(); rows.moveNext()) {
         const CalendarComponent kept = keptComponent(readNotes(rows.text("TextBody")));
         if (const ContentLine* uid = kept.find("UID"))
-            rows_[keyOf(kind, std::string(uid->value()), kept.textOf("RECURRENCE-ID"))].push_back(
-                rowOf(rows, key));
+            rows_[keyOf(kind, std::string(uid->value()), kept.textOf("RECURRENCE-ID"))].push_back(rowOf(rows, key));
     }
 }
 
@@ -98,7 +98,8 @@ std::optional<KnownItems::Row> KnownItems::findMadeUp(const Wanted& wanted)
 
     const std::string table(calendarItemKind(wanted.kind).tableName);
     const std::string key(calendarItemKind(wanted.kind).fieldName);
-    const std::string columns = "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, DateFrom, Subject FROM " + table + " WHERE ";
+    const std::string columns =
+        "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, DateFrom, Subject FROM " + table + " WHERE ";
     const Rows named = Rows::read(database_, columns + key + "=" + std::to_string(id) + ";");
     if (named.atEnd() || named.field("DateFrom").isNull())
         return std::nullopt;
@@ -111,9 +112,9 @@ std::optional<KnownItems::Row> KnownItems::findMadeUp(const Wanted& wanted)
     // The other users of a group stand in the same component.
     if (named.integer("UserGroupNum", 0) <= 0)
         return std::nullopt;
-    const Rows ofGroup = Rows::read(
-        database_, columns + "UserGroupNum=" + std::to_string(named.integer("UserGroupNum")) + " AND UserIDNum="
-                       + std::to_string(wanted.userID) + " AND DateFrom=#" + database_.getSQLDate(day) + "#;");
+    const Rows ofGroup = Rows::read(database_, columns + "UserGroupNum=" + std::to_string(named.integer("UserGroupNum"))
+                                                   + " AND UserIDNum=" + std::to_string(wanted.userID)
+                                                   + " AND DateFrom=#" + database_.getSQLDate(day) + "#;");
     return ofGroup.atEnd() ? std::nullopt : std::optional(rowOf(ofGroup, key));
 }
 

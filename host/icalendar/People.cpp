@@ -17,7 +17,7 @@ constexpr std::string_view mailScheme = "mailto:";
 std::string_view mailAddress(std::string_view uri)
 {
     return equalsNoCase(uri.substr(0, mailScheme.size()), mailScheme) ? trimmed(uri.substr(mailScheme.size()))
-                                                                       : std::string_view();
+                                                                      : std::string_view();
 }
 
 std::int32_t idOf(const ContentLine& line)
@@ -95,13 +95,13 @@ std::optional<std::int32_t> People::clientOf(ClientKind kind, const ContentLine&
     const bool isCompany = kind == ClientKind::company;
     const std::int32_t id = idOf(line);
     const std::string name = line.textValue();
-    const std::string nameOfID =
-        isCompany ? host_.clients().getCompanyName(id) : host_.clients().getContactName(id);
+    const std::string nameOfID = isCompany ? host_.clients().getCompanyName(id) : host_.clients().getContactName(id);
     if (id >= 0 && equalsNoCase(nameOfID, name))
         return id;
     if (!name.empty()) {
-        const std::string sql = isCompany ? "SELECT Companies.CompanyID FROM Companies WHERE Companies.CompanyName LIKE '"
-                                          : "SELECT Contacts.ContactID FROM Contacts WHERE Contacts.DisplayName LIKE '";
+        const std::string sql = isCompany
+                                    ? "SELECT Companies.CompanyID FROM Companies WHERE Companies.CompanyName LIKE '"
+                                    : "SELECT Contacts.ContactID FROM Contacts WHERE Contacts.DisplayName LIKE '";
         const Rows rows = Rows::read(host_.database(), sql + host_.database().getSQLText(name) + "';");
         if (!rows.atEnd())
             return rows.integer(isCompany ? "CompanyID" : "ContactID");
@@ -136,8 +136,7 @@ std::string People::attendeeLine(std::int32_t userID) const
 
 std::string People::domain() const
 {
-    const Rows firm =
-        Rows::read(host_.database(), "SELECT AccountantFirmInfo.CompanyName FROM AccountantFirmInfo;");
+    const Rows firm = Rows::read(host_.database(), "SELECT AccountantFirmInfo.CompanyName FROM AccountantFirmInfo;");
     std::string name;
     if (!firm.atEnd()) {
         for (const char c : lowerAscii(firm.text("CompanyName"))) {

@@ -32,8 +32,8 @@ icaltimezone* knownZone(const std::string& name)
     if (icaltimezone* zone = icaltimezone_get_builtin_timezone(name.c_str()))
         return zone;
     // Names such as "/example.org/20050701/Europe/Berlin" end in one of the database.
-    for (std::size_t slash = name.starts_with('/') ? name.find('/', 1) : std::string::npos;
-         slash != std::string::npos; slash = name.find('/', slash + 1)) {
+    for (std::size_t slash = name.starts_with('/') ? name.find('/', 1) : std::string::npos; slash != std::string::npos;
+         slash = name.find('/', slash + 1)) {
         if (icaltimezone* zone = icaltimezone_get_builtin_timezone(name.c_str() + slash + 1))
             return zone;
     }
@@ -42,8 +42,7 @@ icaltimezone* knownZone(const std::string& name)
 
 } // namespace
 
-TimeZones::TimeZones(const std::string& localName)
-    : local_(knownZone(localName.empty() ? systemZoneName() : localName))
+TimeZones::TimeZones(const std::string& localName) : local_(knownZone(localName.empty() ? systemZoneName() : localName))
 {
     icalerror_set_errors_are_fatal(0);
     if (!local_ && !localName.empty())

@@ -15,9 +15,8 @@ constexpr int minutesOfYear = 366 * 24 * 60;
 
 const ReminderPeriod& nearestPeriod(int minutes)
 {
-    return *std::ranges::min_element(reminderPeriods(), {}, [&](const ReminderPeriod& period) {
-        return std::abs(period.minutes - minutes);
-    });
+    return *std::ranges::min_element(reminderPeriods(), {},
+                                     [&](const ReminderPeriod& period) { return std::abs(period.minutes - minutes); });
 }
 
 /// When an alarm comes; none for a trigger that cannot be read.
@@ -25,7 +24,8 @@ std::optional<Date> momentOf(const ContentLine& trigger, const Span& span, TimeZ
 {
     std::string value(trigger.value());
     // "-P300S" is what some programs write for "-PT300S".
-    if (const std::size_t p = value.find('P'); p != std::string::npos && value.find_first_of("TDW") == std::string::npos)
+    if (const std::size_t p = value.find('P');
+        p != std::string::npos && value.find_first_of("TDW") == std::string::npos)
         value.insert(p + 1, 1, 'T');
     const icaldurationtype duration = icaldurationtype_from_string(value.c_str());
     if (icaldurationtype_is_bad_duration(duration) == 0) {

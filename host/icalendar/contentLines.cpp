@@ -155,8 +155,9 @@ private:
     {
         const std::string_view name = trimmed(line.value());
         if (open_.empty() || !open_.back().is(name))
-            throw CalendarError(lineName(line.number) + " ends " + std::string(name)
-                                + (open_.empty() ? ", which was not begun" : ", but " + open_.back().name + " is open"));
+            throw CalendarError(
+                lineName(line.number) + " ends " + std::string(name)
+                + (open_.empty() ? ", which was not begun" : ", but " + open_.back().name + " is open"));
         CalendarComponent component = std::move(open_.back());
         open_.pop_back();
         (open_.empty() ? finished_ : open_.back().children).push_back(std::move(component));

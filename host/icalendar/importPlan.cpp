@@ -97,12 +97,14 @@ private:
             moments_.push_back({&component, first, {}});
             return;
         }
+        if (component.find("EXRULE"))
+            remark(component, "its EXRULE is not heeded; what it takes out is on the calendar");
         const Occurrences found = occurrencesOf(component, first, lastDay_, zones_);
         if (found.cut)
-            remark(component, static_cast<int>(found.spans.size()) >= mostOccurrences
-                                  ? "it goes on; there are " + std::to_string(mostOccurrences) + " of it at most"
-                                  : "it goes on after " + formatDate(lastDay_, "yyyy-mm-dd")
-                                        + ", the last day that is imported");
+            remark(component,
+                   static_cast<int>(found.spans.size()) >= mostOccurrences
+                       ? "it goes on; there are " + std::to_string(mostOccurrences) + " of it at most"
+                       : "it goes on after " + formatDate(lastDay_, "yyyy-mm-dd") + ", the last day that is imported");
         for (const Span& span : found.spans)
             moments_.push_back({&component, span, occurrenceLine(span.start, span.wholeDays)});
     }
@@ -156,8 +158,8 @@ private:
     /// Once for a component, however often it occurs.
     void remarkOnDays(const Moment& moment, const std::vector<DayTimes>& days)
     {
-        const bool endsAtMidnight = !moment.span.wholeDays && days.back().to == lastMinute
-                                    && !moment.span.end.hasTime();
+        const bool endsAtMidnight =
+            !moment.span.wholeDays && days.back().to == lastMinute && !moment.span.end.hasTime();
         if ((days.size() == 1 && !endsAtMidnight) || !remarkedOnDays_.insert(moment.component).second)
             return;
         if (days.size() == static_cast<std::size_t>(mostDays))

@@ -49,10 +49,10 @@ template <class Value>
 using Setter = void (clsCalendarItem::*)(Value);
 
 #define NUMBER(property, name)                                                                                         \
-    field<std::int32_t, Getter<std::int32_t>(&clsCalendarItem::name), Setter<std::int32_t>(&clsCalendarItem::name)>(    \
+    field<std::int32_t, Getter<std::int32_t>(&clsCalendarItem::name), Setter<std::int32_t>(&clsCalendarItem::name)>(   \
         "X-QNCAL-" property)
 #define COLOUR(property, name)                                                                                         \
-    field<std::int32_t, Getter<std::int32_t>(&clsCalendarItem::name), Setter<std::int32_t>(&clsCalendarItem::name)>(    \
+    field<std::int32_t, Getter<std::int32_t>(&clsCalendarItem::name), Setter<std::int32_t>(&clsCalendarItem::name)>(   \
         "X-QNCAL-" property, true)
 #define FLAG(property, name)                                                                                           \
     field<bool, Getter<bool>(&clsCalendarItem::name), Setter<bool>(&clsCalendarItem::name)>("X-QNCAL-" property)

@@ -33,7 +33,7 @@ inline constexpr std::string_view contactProperty = "X-QNCAL-CONTACT"; ///< like
 inline constexpr std::string_view groupProperty = "X-QNCAL-GROUP";     ///< a number that a group's rows share
 inline constexpr std::string_view periodProperty = "X-QNCAL-REMINDER-PERIOD"; ///< of an item without an alarm
 inline constexpr std::string_view richTextProperty = "X-QNCAL-RICH-TEXT";     ///< formatted notes
-inline constexpr std::string_view originalPrefix = "X-QNCAL-ORIGINAL-"; ///< a line that a row tells in part only
+inline constexpr std::string_view originalPrefix = "X-QNCAL-ORIGINAL-";       ///< a line that a row tells in part only
 inline constexpr std::string_view idParameter = "X-QNCAL-ID";
 /// Of `userProperty`: a number that the rows of a series share. Users of a group may have a series each.
 inline constexpr std::string_view seriesParameter = "X-QNCAL-SERIES";

@@ -43,8 +43,8 @@ bool isDefault(const ContentLine& line)
 /// What `People` and the item's own columns hold, and an export writes anew.
 bool isCarried(const ContentLine& line)
 {
-    return line.is("UID") || line.is("RECURRENCE-ID") || line.is("DTSTAMP") || isOneOf(line, ownLines) || findItemField(line.name())
-           || (line.is("CLASS") && equalsNoCase(line.value(), "PRIVATE"))
+    return line.is("UID") || line.is("RECURRENCE-ID") || line.is("DTSTAMP") || isOneOf(line, ownLines)
+           || findItemField(line.name()) || (line.is("CLASS") && equalsNoCase(line.value(), "PRIVATE"))
            || (line.is("ATTENDEE") && !line.parameter(idParameter).empty());
 }
 

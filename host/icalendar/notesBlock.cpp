@@ -71,10 +71,7 @@ std::string plainRichText(const std::string& text)
 
 } // namespace
 
-std::string ItemNotes::description() const
-{
-    return text + (text.empty() || below.empty() ? "" : "\n") + below;
-}
+std::string ItemNotes::description() const { return text + (text.empty() || below.empty() ? "" : "\n") + below; }
 
 ItemNotes readNotes(std::string_view richText)
 {

@@ -32,8 +32,8 @@ protected:
     std::string calendar(const std::string& kind = "appointment") const
     {
         std::string lines;
-        for (const auto& row : Json::parse(output({"item", "list", "--kind", kind, "--from", "2020-01-01", "--to",
-                                                   "2030-01-01", "--json"})))
+        for (const auto& row : Json::parse(
+                 output({"item", "list", "--kind", kind, "--from", "2020-01-01", "--to", "2030-01-01", "--json"})))
             lines += row["DateFrom"].get<std::string>() + " " + row["TimeFrom"].get<std::string>() + "-"
                      + row["TimeTo"].get<std::string>() + " " + row["Subject"].get<std::string>() + "\n";
         return lines;
@@ -215,12 +215,11 @@ TEST_F(CalendarFileTest, AComponentWithAFaultIsSkippedAndListed)
     EXPECT_EQ(calendar(), "2026-04-20 09:00-10:00 A good one\n");
     EXPECT_EQ(report["skipped"], 5);
     EXPECT_EQ(remarks(report, "lost"), "THIS LINE IS NO PROPERTY\n");
-    EXPECT_EQ(remarks(report, "skipped"),
-              "an event without DTSTART\n"
-              "'DTSTART:2026-04-20 9 am': no date\n"
-              "'DTEND:20260420T080000': the end is before the start\n"
-              "'RRULE:FREQ=SOMETIMES': no rule of recurrence\n"
-              "'DURATION:an hour': no duration\n");
+    EXPECT_EQ(remarks(report, "skipped"), "an event without DTSTART\n"
+                                          "'DTSTART:2026-04-20 9 am': no date\n"
+                                          "'DTEND:20260420T080000': the end is before the start\n"
+                                          "'RRULE:FREQ=SOMETIMES': no rule of recurrence\n"
+                                          "'DURATION:an hour': no duration\n");
     EXPECT_NE(output({"import", corpus("faults.ics")})
                   .find("\n  line 17: With a date of its own kind: 'DTSTART:2026-04-20 9 am': no date\n"),
               std::string::npos);
@@ -230,7 +229,8 @@ TEST_F(CalendarFileTest, AChangedFileUpdatesItsItems)
 {
     const auto series = [&](const std::string& more) {
         return write("series.ics", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nDTSTART:20260302T090000\nDURATION:PT1H\n"
-                                   "RRULE:FREQ=DAILY;COUNT=3\n" + more + "END:VEVENT\nEND:VCALENDAR\n");
+                                   "RRULE:FREQ=DAILY;COUNT=3\n"
+                                       + more + "END:VEVENT\nEND:VCALENDAR\n");
     };
     import(series("SUMMARY:Before\n"));
     succeed({"item", "set", "3", "--set", "Custom1=Mine"});
@@ -304,15 +304,16 @@ TEST_F(CalendarFileTest, AFileThatCannotBeReadIsAFailure)
     EXPECT_EQ(failure("/nowhere.ics"), "firmcal: cannot read /nowhere.ics\n");
     EXPECT_EQ(failure(folder().string()), "firmcal: cannot read " + folder().string() + "\n");
     const std::string garbage = write("garbage.ics", std::string("\x00\xFF\x13garbage\n", 11));
-    EXPECT_EQ(failure(garbage), "firmcal: " + garbage
-                                    + ": this is no iCalendar file: it does not begin with BEGIN:VCALENDAR\n");
+    EXPECT_EQ(failure(garbage),
+              "firmcal: " + garbage + ": this is no iCalendar file: it does not begin with BEGIN:VCALENDAR\n");
     const std::string truncated =
         write("truncated.ics", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nDTSTART:20260302T090000\nEND:VEVENT\n"
                                "BEGIN:VEVENT\nUID:2\nDTSTART:2026");
     EXPECT_EQ(failure(truncated),
               "firmcal: " + truncated + ": the file ends in the middle of the VEVENT that begins at line 6\n");
     EXPECT_EQ(calendar(), "");
-    const std::string nothing = write("nothing.ics", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nEND:VEVENT\nEND:VCALENDAR\n");
+    const std::string nothing =
+        write("nothing.ics", "BEGIN:VCALENDAR\nBEGIN:VEVENT\nUID:1\nEND:VEVENT\nEND:VCALENDAR\n");
     EXPECT_EQ(run({"import", nothing}).status, 1);
     EXPECT_EQ(run({"import", corpus("days.ics"), "--zone", "Middle/Earth"}).err,
               "firmcal: there is no time zone 'Middle/Earth'\n");
@@ -399,9 +400,11 @@ TEST_F(CalendarFileTest, KhalWroteIt)
                                       "default_timezone = America/Toronto\n[default]\ndefault_calendar = work\n"
                                       "[sqlite]\npath = "
                                    << (home / "khal.db").string() << "\n";
-    const std::string khal = "HOME=" + home.string() + " LC_ALL=C.UTF-8 khal -c " + (home / "config").string() + " new ";
-    runProgram(khal + "2026-03-10 10:00 11:30 'Year-end review' :: 'Bring the slips' --location Boardroom "
-                      "--alarms 30m --repeat weekly --until 2026-03-25");
+    const std::string khal =
+        "HOME=" + home.string() + " LC_ALL=C.UTF-8 khal -c " + (home / "config").string() + " new ";
+    runProgram(khal
+               + "2026-03-10 10:00 11:30 'Year-end review' :: 'Bring the slips' --location Boardroom "
+                 "--alarms 30m --repeat weekly --until 2026-03-25");
     runProgram(khal + "2026-03-12 2026-03-14 Conference");
     for (const auto& file : std::filesystem::directory_iterator(home / "calendar"))
         EXPECT_EQ(import(file.path().string())["skipped"], 0);

@@ -56,8 +56,8 @@ protected:
 
     static void copyClients(DatabaseService& from, DatabaseService& to)
     {
-        for (const char* name : {"AccountantFirmInfo", "AccountantEmployeeInfo", "Companies", "Contacts", "ColourSchemes",
-                                 "CustomFields", "UserCalendarSettings"}) {
+        for (const char* name : {"AccountantFirmInfo", "AccountantEmployeeInfo", "Companies", "Contacts",
+                                 "ColourSchemes", "CustomFields", "UserCalendarSettings"}) {
             const schema::Table& table = *schema::findTable(name);
             for (Rows rows = Rows::read(from, "SELECT * FROM " + std::string(name) + ";"); !rows.atEnd();
                  rows.moveNext()) {
@@ -166,7 +166,8 @@ TEST_F(CalendarRoundTrip, AGroupIsOneEventWithItsAttendees)
 {
     for (const std::int32_t user : {1, 2})
         addRow(*database, "AccountantEmployeeInfo",
-               {{"DisplayName", user == 1 ? "Maya Singh" : "Reed, Ann"}, {"BusinessEmail", user == 1 ? "maya@firm.example" : ""}});
+               {{"DisplayName", user == 1 ? "Maya Singh" : "Reed, Ann"},
+                {"BusinessEmail", user == 1 ? "maya@firm.example" : ""}});
     host.clients().invalidate();
     for (const std::int32_t user : {1, 2})
         addFullItem(enumLocalCalendarAppointmentItem, user);

@@ -62,20 +62,22 @@ TEST(ContentLines, FoldedLinesAreJoinedAndKeepTheirNumber)
 
 TEST(ContentLines, ACharacterCutByAFoldIsWhole)
 {
-    const auto calendars = read("BEGIN:VCALENDAR\nX-NAME:Gr\xC3\n \xB6\xC3\x9F" "e\nEND:VCALENDAR\n");
+    const auto calendars = read("BEGIN:VCALENDAR\nX-NAME:Gr\xC3\n \xB6\xC3\x9F"
+                                "e\nEND:VCALENDAR\n");
     EXPECT_EQ(calendars[0].textOf("X-NAME"), "Größe");
 }
 
 TEST(ContentLines, BytesThatAreNoUtf8AreLatin1)
 {
-    const auto calendars = read("\xEF\xBB\xBF" "BEGIN:VCALENDAR\nX-NAME:Caf\xE9 \x01\x7F\nEND:VCALENDAR");
+    const auto calendars = read("\xEF\xBB\xBF"
+                                "BEGIN:VCALENDAR\nX-NAME:Caf\xE9 \x01\x7F\nEND:VCALENDAR");
     EXPECT_EQ(calendars[0].textOf("X-NAME"), "Café \x7F");
 }
 
 TEST(ContentLines, AComponentGivesItsLinesBack)
 {
-    const std::vector<std::string> lines{"BEGIN:VEVENT", "UID:1", "BEGIN:VALARM", "TRIGGER:-PT5M", "END:VALARM",
-                                         "END:VEVENT"};
+    const std::vector<std::string> lines{"BEGIN:VEVENT",  "UID:1",      "BEGIN:VALARM",
+                                         "TRIGGER:-PT5M", "END:VALARM", "END:VEVENT"};
     EXPECT_EQ(componentOf(lines).text(), lines);
 }
 
@@ -124,7 +126,10 @@ INSTANTIATE_TEST_SUITE_P(
     ContentLines, CalendarFault,
     testing::Values(
         Fault{"Empty", "", "this is no iCalendar file: there is no VCALENDAR in it"},
-        Fault{"Garbage", std::string("\x7F" "ELF\0\1\2", 7),
+        Fault{"Garbage",
+              std::string("\x7F"
+                          "ELF\0\1\2",
+                          7),
               "this is no iCalendar file: it does not begin with BEGIN:VCALENDAR"},
         Fault{"AnotherFormat", "<?xml version=\"1.0\"?>\n<a/>\n",
               "this is no iCalendar file: it does not begin with BEGIN:VCALENDAR"},
