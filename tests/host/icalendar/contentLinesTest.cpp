@@ -1,7 +1,5 @@
 #include "icalendar/contentLines.h"
 
-#include "support/rowName.h"
-
 #include <gtest/gtest.h>
 
 #include <sstream>
