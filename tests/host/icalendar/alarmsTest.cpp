@@ -1,6 +1,7 @@
 #include "icalendar/alarms.h"
 
 #include "reminders/reminderPeriods.h"
+
 #include <gtest/gtest.h>
 
 namespace qncal::host::icalendar {
