@@ -14,6 +14,7 @@ void addItemCommands(CLI::App& program, CommandContext& context);
 void addAgendaCommand(CLI::App& program, CommandContext& context);
 void addClientCommands(CLI::App& program, CommandContext& context);
 void addUserCommands(CLI::App& program, CommandContext& context);
+void addCalendarFileCommands(CLI::App& program, CommandContext& context);
 void addSqlCommand(CLI::App& program, CommandContext& context);
 void addDoctorCommand(CLI::App& program, CommandContext& context);
 
