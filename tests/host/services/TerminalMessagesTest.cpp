@@ -1,5 +1,7 @@
 #include "services/TerminalMessages.h"
 
+#include "support/rowName.h"
+
 #include <gtest/gtest.h>
 
 #include <sstream>
@@ -56,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Answer{"PersonPressesReturn", Mode::ask, "\n", no, ""},
                     Answer{"PersonIsAskedAgain", Mode::ask, "perhaps\ny\n", yes, "Please answer yes or no. [y/N] "},
                     Answer{"InputHasEnded", Mode::ask, "", no, "No (end of input)\n"}),
-    [](const testing::TestParamInfo<Answer>& tested) { return std::string(tested.param.name); });
+    qncal::test::rowName);
 
 TEST(TerminalMessages, ScriptedAnswersComeFirstAndInOrder)
 {

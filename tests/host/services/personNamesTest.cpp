@@ -1,12 +1,14 @@
 #include "services/personNames.h"
 
+#include "support/rowName.h"
+
 #include <gtest/gtest.h>
 
 namespace qncal::host {
 namespace {
 
 struct Case {
-    const char* test;
+    const char* name;
     PersonNames names;
     const char* expected;
 };
@@ -30,7 +32,7 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"DisplayNameOfOneWord", {"Ann", "", "", "Bob Reed"}, "Ann and Bob Reed"},
                     Case{"NoDisplayName", {"", "Ann", "Reed", ""}, "Ann Reed"},
                     Case{"SpouseAlone", {"", "", "", "Bob Reed"}, "Bob Reed"}, Case{"Nothing", {}, ""}),
-    [](const testing::TestParamInfo<Case>& tested) { return std::string(tested.param.test); });
+    qncal::test::rowName);
 
 } // namespace
 } // namespace qncal::host

@@ -2,6 +2,8 @@
 
 #include "core/LocaleService.h"
 
+#include "support/rowName.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -23,8 +25,8 @@ std::vector<std::string> datesOf(const std::string& name, int year, std::int32_t
 }
 
 struct Case {
-    const char* test;
     const char* name;
+    const char* holiday;
     int year;
     std::int32_t country;
     const char* region;
@@ -38,7 +40,7 @@ TEST_P(StatutoryHolidayTest, FallsOnItsKnownDate)
 {
     const Case& c = GetParam();
     const std::vector<std::string> expected = c.date ? std::vector<std::string>{c.date} : std::vector<std::string>();
-    EXPECT_EQ(datesOf(c.name, c.year, c.country, c.region), expected);
+    EXPECT_EQ(datesOf(c.holiday, c.year, c.country, c.region), expected);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -92,7 +94,7 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"NewYearTakenBeforeIsNotInItsOwnYear", "New Year's Day (observed)", 2022, unitedStates, "", nullptr},
         Case{"PatriotsDayInMassachusetts", "Patriots' Day", 2026, unitedStates, "MA", "2026-04-20"},
         Case{"NoPatriotsDayInTexas", "Patriots' Day", 2026, unitedStates, "TX", nullptr}),
-    [](const testing::TestParamInfo<Case>& tested) { return std::string(tested.param.test); });
+    qncal::test::rowName);
 
 TEST(StatutoryHolidays, EasterOfKnownYears)
 {
