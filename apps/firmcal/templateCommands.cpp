@@ -37,8 +37,7 @@ void addListOption(CLI::App& command, std::string& kind)
 {
     command
         .add_option("-k,--kind", kind,
-                    "What the template is for: appointment (the default), task or docket; company, contact or "
-                    "address for letters")
+                    "appointment (the default), task, docket; for letters company, contact, address")
         ->type_name("KIND");
 }
 
@@ -214,7 +213,8 @@ void addTemplateCommands(CLI::App& program, CommandContext& context)
     group->footer("'firmcal template COMMAND --help' tells about a command.");
     addFieldsCommand(*group, context);
     addTryCommand(*group, context, "check", "Tell whether a template is clean, or what its fault is",
-                  "Without a template the firm's own display template. Exit status 1 when there is a fault.\n"
+                  "Without a template the firm's own display template. << and >> stand for « and ».\n"
+                  "Exit status 1 when there is a fault.\n"
                   "Examples:\n"
                   "  firmcal template check --text \"«Appointment Name» on «(Appointment Date, mmm d yyyy)»\"\n"
                   "  firmcal template check letter.rtf --kind company",

@@ -5,6 +5,8 @@
 #include "firmcal/Failure.h"
 #include "firmcal/mergeFields.h"
 #include "services/HostEnvironment.h"
+#include "templates/delimiters.h"
+#include "utilities/RunTimeError.h"
 #include "utilities/replaceText.h"
 #include "utilities/utf8.h"
 
@@ -50,6 +52,13 @@ std::string withStoredLineEnds(std::string text)
     return text;
 }
 
+/// The check has no message for a date expression without a format, but fails.
+bool failedForWantOfFormat(CommandContext& context)
+{
+    const auto& reports = context.host().errors().reports();
+    return !reports.empty() && reports.back().error.number == errorNumber::subscriptOutOfRange;
+}
+
 } // namespace
 
 void addSourceOptions(CLI::App& command, TemplateSource& source)
@@ -76,7 +85,11 @@ std::string readTemplate(CommandContext& context, const TemplateSource& source)
         text.erase(0, byteOrderMark.size());
     if (!isUtf8(text))
         throw Failure("the template is neither UTF-8 text nor rich text");
-    return withStoredLineEnds(std::move(text));
+    text = withStoredLineEnds(std::move(text));
+    // What a keyboard without « and » has. Every merge but that of an item's own values reads it too.
+    replaceNoCase(text, "<<", plainDelimiters.open);
+    replaceNoCase(text, ">>", plainDelimiters.close);
+    return text;
 }
 
 void checkTemplate(CommandContext& context, const MergeFieldList& list, const std::string& text)
@@ -86,8 +99,9 @@ void checkTemplate(CommandContext& context, const MergeFieldList& list, const st
     engine->testErrorComment.subscribe([&](const std::string& fault) { message = fault; });
     if (!engine->testRTBComment(text, isRichTextStream(text), true, false))
         return;
-    if (message.empty())
-        context.throwIfComponentFailed();
+    if (message.empty() && failedForWantOfFormat(context))
+        throw Failure("a date expression lacks its format, as in «(Todays Date, mmmm d yyyy)»");
+    context.throwIfComponentFailed();
     replaceNoCase(message, "\r\n\r\n", "  ");
     throw Failure(message);
 }

@@ -23,7 +23,7 @@ struct TemplateSource {
 void addSourceOptions(CLI::App& command, TemplateSource& source);
 /// Whether the command line names a template.
 bool isGiven(const TemplateSource& source);
-/// The text of the template, plain text with the line ends that templates are stored with.
+/// The text of the template; plain text with the line ends that templates are stored with, << and >> as « and ».
 /// Throws `Failure` for a file that cannot be read and for bytes that are no UTF-8 text.
 std::string readTemplate(CommandContext& context, const TemplateSource& source);
 

@@ -30,11 +30,9 @@ std::vector<HolidayRow> readHolidays(DatabaseService& database, Date first, Date
                                               + between(database, first, last) + " ORDER BY HolidayDate;");
          !rows.atEnd(); rows.moveNext()) {
         constexpr std::int32_t wholeCountry = 1;
-        const std::int32_t type = rows.integer("HolidayType", wholeCountry);
         holidays.push_back({rows.integer("HolidayID"),
                             {rows.field("HolidayDate").toDate().dateOnly(), rows.text("HolidayName"),
-                             static_cast<std::int16_t>(type)},
-                            type == 1 || type == 3});
+                             static_cast<std::int16_t>(rows.integer("HolidayType", wholeCountry))}});
     }
     return holidays;
 }

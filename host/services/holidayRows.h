@@ -13,11 +13,9 @@ namespace qncal::host {
 struct HolidayRow {
     std::int32_t id = -1;
     StatutoryHoliday holiday;
-    /// Whether it is a day off for `modHolidayCtrl`.
-    bool isDayOff = false;
 };
 
-/// The holidays from the first to the last day, in order of date.
+/// The holidays from the first to the last day, in order of date. A row without a type counts as type 1.
 std::vector<HolidayRow> readHolidays(DatabaseService& database, Date first, Date last);
 void addHoliday(DatabaseService& database, const StatutoryHoliday& holiday);
 void removeHoliday(DatabaseService& database, std::int32_t id);
