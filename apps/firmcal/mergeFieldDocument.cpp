@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ranges>
 
 namespace qncal::firmcal {
 
@@ -48,19 +49,17 @@ std::string sectionHeading(const std::string& heading)
     return heading.starts_with(prefix) ? heading.substr(prefix.size()) : heading;
 }
 
-/// Puts a region's fields among those of other regions: a new one goes behind the one it follows in its own list.
+/// Puts a region's fields among those of other regions: a new one goes before the one that follows it in its own list.
 void mergeInto(std::vector<DocumentedField>& documented, const std::vector<MergeField>& fields, Region region)
 {
-    auto place = documented.begin();
-    for (const MergeField& field : fields) {
-        auto found = std::ranges::find_if(documented, [&](const DocumentedField& known) {
+    auto place = documented.end();
+    for (const MergeField& field : std::views::reverse(fields)) {
+        const auto found = std::ranges::find_if(documented, [&](const DocumentedField& known) {
             return known.field.name == field.name && known.field.databaseField == field.databaseField;
         });
-        if (found == documented.end())
-            found = documented.insert(place, {field, {}});
-        if (found->regions.empty() || found->regions.back() != region)
-            found->regions.push_back(region);
-        place = std::next(found);
+        place = found != documented.end() ? found : documented.insert(place, {field, {}});
+        if (place->regions.empty() || place->regions.back() != region)
+            place->regions.push_back(region);
     }
 }
 

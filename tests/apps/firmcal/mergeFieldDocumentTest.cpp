@@ -46,9 +46,9 @@ TEST_F(MergeFieldDocumentTest, TellsWhereAFieldIsListed)
              "\n## Task Info\n",
              "\n| `«Company Name»` | text | Maple Leaf Bakery Ltd. |  |\n",
              "\n| `«Postal Code»` | text | K1A 0B1 | Canada |\n",
-             "\n| `«State»` | text | California | United States |\n",
-             "\n| `«HST Number»` | text | 123456789 RT0001 | ON, BC, NB, NL, NS |\n",
-             "\n| `«NEQ Number»` | text | 1234567890 | QC |\n",
+             "\n| `«State»` | text | Illinois | United States |\n",
+             "\n| `«HST Number»` | text | 123456789RT0001 | ON, BC, NB, NL, NS |\n",
+             "\n| `«NEQ Number»` | text | 1123456789 | QC |\n",
              "\n| `«PST Number»` | text | 1234-5678 | Canada but QC |\n",
              "\n| `«(Task Due Date, mmmm d yyyy)»` | date | Apr 30, 2026 |  |\n",
          })
