@@ -85,6 +85,12 @@ host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase
     return *host_;
 }
 
+void CommandContext::finish()
+{
+    if (database_)
+        database_->close();
+}
+
 std::optional<UserEntry> CommandContext::user()
 {
     if (options_.user.empty())

@@ -49,6 +49,9 @@ public:
     /// The host over a database that the command itself has created or opened.
     host::HostEnvironment& host(std::shared_ptr<host::SqliteDatabase> database);
 
+    /// Writes out what the database still holds back. Throws when it cannot be stored.
+    void finish();
+
     /// The user of `--user`; none without that option. Throws `Failure` when there is no such user.
     std::optional<UserEntry> user();
     /// A user by name or id. Throws `Failure` when there is none.

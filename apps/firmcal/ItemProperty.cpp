@@ -78,6 +78,27 @@ std::uint8_t readChannels(std::string_view value)
     return static_cast<std::uint8_t>(bits);
 }
 
+/// A template, whose reading may fetch the kind's own.
+ItemProperty templateText(std::string_view name, const std::string& (Item::*get)(), void (Item::*set)(std::string))
+{
+    return {name, "text", [get](Item& item) { return Json((item.*get)()); },
+            [set](Item& item, std::string_view value) { (item.*set)(std::string(value)); }};
+}
+
+enumCalendarItemArchiveStatus readArchiveStatus(std::string_view value)
+{
+    const std::int32_t number = readInteger(value);
+    if (number != CalendarItemArchiveStatus_Normal && number != CalendarItemArchiveStatus_Archived)
+        throw Failure("'" + std::string(value) + "' is no archive status (1 normal, 2 archived)");
+    return static_cast<enumCalendarItemArchiveStatus>(number);
+}
+
+ItemProperty detail(ItemProperty known)
+{
+    known.isDetail = true;
+    return known;
+}
+
 #define QNCAL_PROPERTY(make, name) make(#name, &Item::name, &Item::name)
 
 const std::vector<ItemProperty> properties{
@@ -87,7 +108,6 @@ const std::vector<ItemProperty> properties{
     QNCAL_PROPERTY(time, TimeTo),
     property("timeduration", "hours", &Item::timeduration, &Item::timeduration, readHours, same<float>),
     QNCAL_PROPERTY(number, userIDNum),
-    {"clientType", "0 none, 1 contact, 2 company", [](Item& item) { return Json(item.clientType()); }, {}},
     QNCAL_PROPERTY(number, companyIDNum),
     QNCAL_PROPERTY(number, contactIDNum),
     QNCAL_PROPERTY(text, TitleText),
@@ -132,6 +152,16 @@ const std::vector<ItemProperty> properties{
     QNCAL_PROPERTY(text, Custom3),
     QNCAL_PROPERTY(text, Custom4),
     QNCAL_PROPERTY(text, Custom5),
+    detail({"clientType", "0 none, 1 contact, 2 company", [](Item& item) { return Json(item.clientType()); }, {}}),
+    detail(QNCAL_PROPERTY(templateText, TitleBarTextTemplate)),
+    detail(QNCAL_PROPERTY(templateText, DisplayTextTemplate)),
+    detail(property("CalendarItemArchiveStatus", "1 normal, 2 archived", &Item::CalendarItemArchiveStatus,
+                    &Item::CalendarItemArchiveStatus, readArchiveStatus,
+                    [](enumCalendarItemArchiveStatus status) { return static_cast<int>(status); })),
+    detail(QNCAL_PROPERTY(flag, ShowNotificationWindow)),
+    detail(QNCAL_PROPERTY(flag, IsSecondaryConnectionForTaskClass)),
+    detail({"isApptOverlapMode", "yes/no", [](Item& item) { return Json(item.isApptOverlapMode); },
+            [](Item& item, std::string_view value) { item.isApptOverlapMode = readBoolean(value); }}),
 };
 
 #undef QNCAL_PROPERTY

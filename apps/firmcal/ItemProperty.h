@@ -20,6 +20,8 @@ struct ItemProperty {
     std::function<nlohmann::ordered_json(clsCalendarItem&)> get;
     /// Empty for a property that can only be read. Throws `Failure` for a text that is no such value.
     std::function<void(clsCalendarItem&, std::string_view)> set;
+    /// Of interest only to who asks for every field.
+    bool isDetail = false;
 };
 
 /// In the order in which an item is shown.

@@ -52,30 +52,31 @@ public:
     }
 };
 
-/// The command that the user was after, for the hint behind a wrong command line.
-std::string commandPath(const CLI::App& program)
+/// The commands that the user has named, the program itself first.
+std::vector<const CLI::App*> namedCommands(const CLI::App& program)
 {
-    std::string path = program.get_name();
-    const CLI::App* level = &program;
-    while (!level->get_subcommands().empty()) {
-        level = level->get_subcommands().front();
-        path += " " + level->get_name();
-    }
-    return path;
+    std::vector<const CLI::App*> commands{&program};
+    while (!commands.back()->get_subcommands().empty())
+        commands.push_back(commands.back()->get_subcommands().front());
+    return commands;
 }
 
-/// What is wrong with a command line, in the words of this program.
+/// What is wrong with a command line, in the words of this program where the parser's are not clear.
 std::string usageText(const CLI::App& program, const CLI::ParseError& error)
 {
-    if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::RequiredError))
+    const bool needsCommand = namedCommands(program).back()->get_require_subcommand_min() > 0;
+    if (error.get_exit_code() != static_cast<int>(CLI::ExitCodes::RequiredError) || !needsCommand)
         return error.what();
-    const CLI::App* level = &program;
-    while (!level->get_subcommands().empty())
-        level = level->get_subcommands().front();
     const std::vector<std::string> unknown = program.remaining(true);
-    if (level->get_require_subcommand_min() == 0)
-        return error.what();
     return unknown.empty() ? "a command is missing" : "there is no command '" + unknown.front() + "'";
+}
+
+std::string whereToLook(const CLI::App& program)
+{
+    std::string path;
+    for (const CLI::App* command : namedCommands(program))
+        path += command->get_name() + " ";
+    return "; see '" + path + "--help'";
 }
 
 int fail(const Streams& streams, const std::string& text, int status)
@@ -108,13 +109,14 @@ int run(const std::vector<std::string>& arguments, const Streams& streams)
     try {
         // The parser takes its arguments from the back.
         program.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+        context.finish();
         return done;
     } catch (const CLI::Success& help) {
         return program.exit(help, streams.out, streams.err);
     } catch (const CLI::ParseError& error) {
-        return fail(streams, usageText(program, error) + "; see '" + commandPath(program) + " --help'", wrongUsage);
+        return fail(streams, usageText(program, error) + whereToLook(program), wrongUsage);
     } catch (const UsageError& error) {
-        return fail(streams, std::string(error.what()) + "; see '" + commandPath(program) + " --help'", wrongUsage);
+        return fail(streams, error.what() + whereToLook(program), wrongUsage);
     } catch (const std::exception& error) {
         return fail(streams, error.what(), failed);
     }

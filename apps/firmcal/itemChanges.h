@@ -22,6 +22,7 @@ struct ItemChanges {
     std::string contact;
     std::string owner;
     std::vector<std::string> assignments;
+    friend bool operator==(const ItemChanges&, const ItemChanges&) = default;
 };
 
 void addChangeOptions(CLI::App& command, ItemChanges& changes);

@@ -44,11 +44,11 @@ void addItem(CommandContext& context, const std::string& kind, const ItemChanges
 
 void setItem(CommandContext& context, const ItemReference& reference, const ItemChanges& changes)
 {
+    if (changes == ItemChanges{})
+        throw UsageError("nothing to change");
     clsCalendarItem item;
     load(context, item, reference);
     apply(context, item, changes);
-    if (!item.IsDirty())
-        throw Failure("nothing to change; see 'firmcal item set --help'");
     save(context, item, "Changed");
 }
 
@@ -85,7 +85,7 @@ void showItem(CommandContext& context, const ItemReference& reference, bool allF
             continue;
         const Json value = known.get(item);
         const bool isIdle = known.name == "notifiedDate" && item.notifyType() == 0;
-        if (!allFields && (isIdle || !isWorthShowing(value)))
+        if (!allFields && (known.isDetail || isIdle || !isWorthShowing(value)))
             continue;
         std::string shown = plainText(value);
         const auto withName = [&](const std::string& name) { shown += name.empty() ? "" : "  (" + name + ")"; };
@@ -164,6 +164,7 @@ void addShowCommand(CLI::App& item, CommandContext& context)
 void addFieldsCommand(CLI::App& item, CommandContext& context)
 {
     CLI::App* command = item.add_subcommand("fields", "List the fields that --set takes");
+    command->footer("Example:\n  firmcal item fields --json");
     command->callback([&context] { listFields(context); });
 }
 

@@ -1,8 +1,8 @@
 #include "core/clsCalendarItemType.h"
 
+#include "core/RecordSet.h"
 #include "core/calendarItemKinds.h"
 #include "core/nullText.h"
-#include "core/RecordSet.h"
 #include "core/routineScope.h"
 
 #include <utility>
@@ -103,8 +103,8 @@ void clsCalendarItemType::verifyCalendarItemTitleBarTemplateText()
     routine("Vestrel.exe-clsCalendarItem-verifyCalendarItemTitleBarTemplateText", [this] {
         if (isZeroText(titleBarTemplate_))
             titleBarTemplate_.clear();
-        const bool isTemplate = titleBarTemplate_.find("«") != std::string::npos
-            || titleBarTemplate_.find("\\'ab") != std::string::npos;
+        const bool isTemplate =
+            titleBarTemplate_.find("«") != std::string::npos || titleBarTemplate_.find("\\'ab") != std::string::npos;
         if (!isNullText(titleBarTemplate_) && !isTemplate)
             titleBarTemplate_ = "«" + titleBarTemplate_ + "»";
     });

@@ -1,11 +1,11 @@
 #include "core/clsCalendarSetCtrl.h"
 
-#include "core/calendarItemKinds.h"
 #include "core/FormRegistry.h"
+#include "core/ServiceRegistry.h"
+#include "core/calendarItemKinds.h"
 #include "core/forms.h"
 #include "core/registeredForm.h"
 #include "core/routineScope.h"
-#include "core/ServiceRegistry.h"
 
 // The labels of the openers keep the name that the library had before.
 

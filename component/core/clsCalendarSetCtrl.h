@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/enumerations.h"
 #include "core/HostReferences.h"
+#include "core/enumerations.h"
 #include "utilities/Event.h"
 
 #include <cstdint>

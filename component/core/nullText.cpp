@@ -1,7 +1,7 @@
 #include "core/nullText.h"
 
-#include "core/routineScope.h"
 #include "core/ServiceRegistry.h"
+#include "core/routineScope.h"
 
 namespace qncal {
 

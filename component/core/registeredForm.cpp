@@ -1,9 +1,9 @@
 #include "core/registeredForm.h"
 
 #include "core/ClientDropDownService.h"
+#include "core/ServiceRegistry.h"
 #include "core/forms.h"
 #include "core/routineScope.h"
-#include "core/ServiceRegistry.h"
 #include "utilities/RunTimeError.h"
 
 namespace qncal {

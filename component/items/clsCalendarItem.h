@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/clsCalendarItemType.h"
 #include "core/HostReferences.h"
+#include "core/clsCalendarItemType.h"
 #include "items/CalendarItemRecord.h"
 #include "utilities/Date.h"
 #include "utilities/Event.h"
@@ -307,9 +307,10 @@ private:
 
     /// A place for the item in its day as it stands in the database; none on a day without any.
     std::optional<Date> findGapInDay();
-    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(), bool withCompany);
+    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
+                                  bool withCompany);
     std::unique_ptr<clsInsertFieldsInRTB> newMergeEngine() const;
-    void mergeFromItem(clsInsertFieldsInRTB& engine, std::string& text);
+    std::string mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine);
     std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;
 
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);

@@ -2,6 +2,7 @@
 #include "core/routineScope.h"
 #include "items/clsCalendarItem.h"
 #include "items/itemQueries.h"
+#include "lookups/taskOfSchedule.h"
 
 #include <utility>
 
@@ -28,8 +29,8 @@ std::int32_t clsCalendarItem::getScheduleIDFromTaskID()
         if (calendarItemType() == enumLocalCalendarUnknownItem || !isDatabaseConnected())
             return scheduleID;
         const auto read = [&](const std::string& table, const std::string& key) {
-            return readFirstRow("SELECT " + table + "." + key + ", " + table + ".ScheduleIDNum FROM " + table + " WHERE "
-                                    + key + "=" + std::to_string(itemID_) + ";",
+            return readFirstRow("SELECT " + table + "." + key + ", " + table + ".ScheduleIDNum FROM " + table
+                                    + " WHERE " + key + "=" + std::to_string(itemID_) + ";",
                                 "ScheduleIDNum", scheduleID);
         };
         const std::string& table = kind().tableName();

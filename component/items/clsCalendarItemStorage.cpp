@@ -1,6 +1,6 @@
 #include "controls/mousePointer.h"
-#include "core/nullText.h"
 #include "core/RecordSet.h"
+#include "core/nullText.h"
 #include "core/routineScope.h"
 #include "items/calendarItemColumns.h"
 #include "items/clsCalendarItem.h"
@@ -94,8 +94,8 @@ std::optional<RecordSet> clsCalendarItem::openRowToLoad()
 {
     const std::string& table = kind().tableName();
     const std::string& key = kind().fieldName();
-    const bool fromArchive = calendarItemType() == enumLocalCalendarTaskItem
-        && record_.archiveStatus == CalendarItemArchiveStatus_Archived;
+    const bool fromArchive =
+        calendarItemType() == enumLocalCalendarTaskItem && record_.archiveStatus == CalendarItemArchiveStatus_Archived;
     auto row = RecordSet::openReadOnly(fromArchive ? selectAll("archive" + table) + " WHERE old" + key + "="
                                                          + std::to_string(itemID_) + ";"
                                                    : selectByKey(table, key, itemID_));
@@ -162,7 +162,8 @@ RecordSet clsCalendarItem::openRowToSave(bool& isNewRow)
 {
     std::string table = kind().tableName();
     std::string key = kind().fieldName();
-    if (calendarItemType() == enumLocalCalendarTaskItem && record_.archiveStatus == CalendarItemArchiveStatus_Archived) {
+    if (calendarItemType() == enumLocalCalendarTaskItem
+        && record_.archiveStatus == CalendarItemArchiveStatus_Archived) {
         // "archived" here and "archive" on load: two tables, and the difference is meant.
         table = "archived" + table;
         key = "old" + key;

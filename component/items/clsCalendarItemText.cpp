@@ -73,11 +73,13 @@ std::string clsCalendarItem::createTitleBarTextByID()
 std::string clsCalendarItem::mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
                                                bool withCompany)
 {
+    std::unique_ptr<clsInsertFieldsInRTB> engine;
     exchangeClientName(text, record_.companyIDNum, record_.contactIDNum);
-    text = parseCalendarItemComment(text);
+    text = mergeFromItem(text, engine);
     if (!holdsExpression(text))
         return text;
-    const auto engine = newMergeEngine();
+    if (!engine)
+        engine = newMergeEngine();
     if (itemID_ < 1) {
         // Such an item shows the result of the call, the word False, in place of the text that it cleaned: meant.
         return booleanText(engine->replaceUnfoundMergeFieldsWithBlanks(text));
@@ -120,31 +122,36 @@ std::unique_ptr<clsInsertFieldsInRTB> clsCalendarItem::newMergeEngine() const
 std::string clsCalendarItem::buildDisplayText(const std::string& templateResult)
 {
     return routine("Vestrel.exe-clsCalendarItem-buildDisplayText", std::string(), [&] {
-        record_.appointmentText
-            = joinedDisplayText(record_.beforeAppointmentText, templateResult, record_.afterAppointmentText);
+        record_.appointmentText =
+            joinedDisplayText(record_.beforeAppointmentText, templateResult, record_.afterAppointmentText);
         return record_.appointmentText;
     });
 }
 
 std::string clsCalendarItem::parseCalendarItemComment(const std::string& newText)
 {
-    return routine("Vestrel.exe-clsCalendarItem-parseCalendarItemComment", std::string(), [&] {
-        std::string text = newText;
-        const auto engine = newMergeEngine();
-        mergeFromItem(*engine, text);
-        engine->Terminate();
-        return text;
-    });
+    std::unique_ptr<clsInsertFieldsInRTB> engine;
+    return mergeFromItem(newText, engine);
 }
 
-void clsCalendarItem::mergeFromItem(clsInsertFieldsInRTB& engine, std::string& text)
+/// The engine that the merge needed, if any, is left to the caller: its list serves the second stage as well.
+std::string clsCalendarItem::mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine)
 {
-    engine.mergeFields(text, [&](std::int32_t position, const std::string& format) -> std::optional<std::string> {
-        const FieldListRow& row = engine.FieldList()->rows()[static_cast<std::size_t>(position)];
-        std::string value = getApptDataFieldInfo(row.displayName.str(), row.category.str(), format);
-        if (value.empty())
-            return std::nullopt;
-        return value;
+    return routine("Vestrel.exe-clsCalendarItem-parseCalendarItemComment", std::string(), [&] {
+        std::string merged = text;
+        if (!holdsDelimiter(text))
+            return merged;
+        engine = newMergeEngine();
+        const FieldListCollection& list = *engine->FieldList();
+        engine->mergeFields(
+            merged, [&](std::int32_t position, const std::string& format) -> std::optional<std::string> {
+                const FieldListRow& row = list.rows()[static_cast<std::size_t>(position)];
+                std::string value = getApptDataFieldInfo(row.displayName.str(), row.category.str(), format);
+                if (value.empty())
+                    return std::nullopt;
+                return value;
+            });
+        return merged;
     });
 }
 

@@ -1,5 +1,5 @@
-#include "core/routineScope.h"
 #include "core/ServiceRegistry.h"
+#include "core/routineScope.h"
 #include "items/clsCalendarItem.h"
 
 #include <cstdlib>
@@ -37,8 +37,8 @@ void clsCalendarItem::determineEndTimeFromTimeDuration()
             record_.timeduration = 1.0F / 60.0F;
             record_.timeTo = record_.timeFrom.addSeconds(oneMinuteInSeconds);
         } else {
-            record_.timeTo = statement(
-                [this] { return dateTimeService().addHoursToTime(record_.timeFrom, record_.timeduration); });
+            record_.timeTo =
+                statement([this] { return dateTimeService().addHoursToTime(record_.timeFrom, record_.timeduration); });
         }
     });
 }

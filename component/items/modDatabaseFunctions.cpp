@@ -1,8 +1,8 @@
 #include "items/modDatabaseFunctions.h"
 
+#include "core/RecordSet.h"
 #include "core/calendarItemKinds.h"
 #include "core/nullText.h"
-#include "core/RecordSet.h"
 #include "core/routineScope.h"
 #include "items/itemQueries.h"
 
@@ -64,8 +64,8 @@ std::int32_t lowestFreeNumber(enumLocalCalendarItemType kind, std::string_view c
         return number;
     const std::string table(calendarItemKind(kind).tableName);
     const std::string field = table + "." + std::string(column);
-    auto rst = RecordSet::openReadOnly("SELECT " + field + " From " + table + " GROUP BY " + field + " ORDER BY " + field
-                                       + ";");
+    auto rst = RecordSet::openReadOnly("SELECT " + field + " From " + table + " GROUP BY " + field + " ORDER BY "
+                                       + field + ";");
     while (rst.findRecord(column, number))
         ++number;
     rst.close();
@@ -228,18 +228,6 @@ bool deleteRepeaterAppointmentForUser(enumLocalCalendarItemType kind, std::int32
     });
 }
 
-std::int32_t getTaskIDFromScheduleID(std::int32_t scheduleID)
-{
-    return routine("Vestrel.exe-modDatabaseFunctions-getTaskIDFromScheduleID", -1, [&] {
-        if (scheduleID < 0 || !isDatabaseConnected())
-            return -1;
-        const CalendarItemKind& task = calendarItemKind(enumLocalCalendarTaskItem);
-        return findTaskOfSchedule(std::string(task.tableName), std::string(task.fieldName), scheduleID)
-            .value_or(TaskOfSchedule{})
-            .taskID;
-    });
-}
-
 bool isThisTaskAssociatedWithIndependentScheduleEntry(std::int32_t taskID)
 {
     return routine("Vestrel.exe-modDatabaseFunctions-isThisTaskAssociatedWithIndependentScheduleEntry", false, [&] {
@@ -251,8 +239,8 @@ bool isThisTaskAssociatedWithIndependentScheduleEntry(std::int32_t taskID)
             return false;
         std::int32_t scheduleID = -1;
         bool hasSchedule = false;
-        auto task = RecordSet::openReadOnly("SELECT Tasks.TaskID, Tasks.ScheduleIDNum FROM Tasks WHERE TaskID="
-                                            + std::to_string(taskID) + ";");
+        auto task = RecordSet::openReadOnly(
+            "SELECT Tasks.TaskID, Tasks.ScheduleIDNum FROM Tasks WHERE TaskID=" + std::to_string(taskID) + ";");
         if (task.hasRecords())
             hasSchedule = task.read("ScheduleIDNum", scheduleID);
         task.close();
@@ -304,9 +292,8 @@ void deleteAppointmentClientNotifications(std::int32_t appointmentID, bool keepC
 
 std::string getColourSchemeNameFromColourSchemeID(std::int32_t schemeID)
 {
-    return routine("Vestrel.exe-modDatabaseFunctions-getColourSchemeNameFromColourSchemeID", std::string(), [&] {
-        return isDatabaseConnected() ? readColourSchemeName(schemeID) : std::string();
-    });
+    return routine("Vestrel.exe-modDatabaseFunctions-getColourSchemeNameFromColourSchemeID", std::string(),
+                   [&] { return isDatabaseConnected() ? readColourSchemeName(schemeID) : std::string(); });
 }
 
 } // namespace qncal::modDatabaseFunctions

@@ -8,6 +8,7 @@
 #include "utilities/Clock.h"
 
 #include <string>
+#include <utility>
 
 namespace qncal {
 
@@ -17,12 +18,10 @@ constexpr char placeholderStart = '{';
 
 bool hasPlaceholder(std::string_view text) { return text.find(placeholderStart) != std::string_view::npos; }
 
+/// The text with a word in place of its placeholder, which it holds.
 std::string withWord(std::string_view text, std::string_view placeholder, std::string_view word)
 {
-    std::string result(text);
-    if (const std::size_t at = result.find(placeholder); at != std::string::npos)
-        result.replace(at, placeholder.size(), word);
-    return result;
+    return std::string(text).replace(text.find(placeholder), placeholder.size(), word);
 }
 
 FieldText sampleText(std::string_view sample)
@@ -34,10 +33,17 @@ FieldText sampleText(std::string_view sample)
 
 std::string provinceName(std::string_view name, const RegionWords& words)
 {
-    std::string result = withWord(name, "{salesTax}", salesTaxWord(words));
-    result = withWord(result, "{secondSalesTax}", words.secondSalesTax);
-    result = withWord(result, "{corpTax}", words.corpTax);
-    return withWord(result, "{workersBoard}", words.workersBoard);
+    const std::pair<std::string_view, std::string_view> placeholders[] = {
+        {"{salesTax}", salesTaxWord(words)},
+        {"{secondSalesTax}", words.secondSalesTax},
+        {"{corpTax}", words.corpTax},
+        {"{workersBoard}", words.workersBoard},
+    };
+    for (const auto& [placeholder, word] : placeholders) {
+        if (name.find(placeholder) != std::string_view::npos)
+            return withWord(name, placeholder, word);
+    }
+    return std::string(name);
 }
 
 bool dependsOnProvince(const MergeFieldEntry& entry)
@@ -113,7 +119,7 @@ void MergeFieldListBuilder::addBlock(MergeFieldBlock block)
         else if (dependsOnProvince(entry))
             addProvinceRow(entry);
         else
-            addRow(rowOf(entry), entry.listText.empty() ? entry.displayName : entry.listText);
+            addRow(rowOf(entry), entry.listText);
     }
 }
 
@@ -122,22 +128,21 @@ void MergeFieldListBuilder::addProvinceRow(const MergeFieldEntry& entry)
     const std::int32_t province = currentProvince();
     if (!isForProvince(entry.province, province))
         return;
-    const std::string name = provinceName(entry.displayName, regionWords(province));
     FieldListRow row = rowOf(entry);
-    row.displayName = FieldText::owned(name);
-    addRow(std::move(row), name);
+    row.displayName = FieldText::owned(provinceName(entry.displayName, regionWords(province)));
+    addRow(std::move(row));
 }
 
 void MergeFieldListBuilder::addCustomRows(const MergeFieldEntry& entry)
 {
     const CustomFieldTexts& texts = customFieldTexts(entry.customGroup);
-    const CustomNames names = customNames(texts);
+    CustomNames names = customNames(texts);
     for (std::size_t i = 0; i < names.size(); ++i) {
         FieldListRow row = rowOf(entry);
         row.databaseField = FieldText::fixed(texts.databaseFields[i].view());
-        row.displayName = names[i];
+        row.displayName = std::move(names[i]);
         row.sampleText = FieldText::fixed(texts.samples[i].view());
-        addRow(std::move(row), names[i].view());
+        addRow(std::move(row));
     }
 }
 
@@ -170,8 +175,10 @@ void MergeFieldListBuilder::addRow(FieldListRow row, std::string_view listText)
 {
     row.key = ++lastKey_;
     list_.addRow(std::move(row));
-    if (listBox_)
-        statement([&] { listBox_->addLine(listText, lastKey_); });
+    if (!listBox_)
+        return;
+    const std::string_view line = listText.empty() ? list_.current().displayName.view() : listText;
+    statement([&] { listBox_->addLine(line, lastKey_); });
 }
 
 } // namespace qncal

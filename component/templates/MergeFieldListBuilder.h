@@ -34,7 +34,8 @@ private:
     /// The labels that the user gave the fields of a group, or its fallback names.
     CustomNames customNames(const CustomFieldTexts& texts);
     bool isForThisUse(UseCondition use) const;
-    void addRow(FieldListRow row, std::string_view listText);
+    /// `listText` is the line of the pick list where it is not the display name.
+    void addRow(FieldListRow row, std::string_view listText = {});
 
     FieldListCollection& list_;
     std::int32_t& lastKey_;

@@ -99,7 +99,8 @@ public:
     // --- Catalogue ---
 
     /// Builds the catalogue for `ListType`, `MergeFieldListUse` and the firm's region, and fills the list boxes.
-    /// `noListBox` becomes True when there is no `ListBox`.
+    /// `noListBox` becomes True when there is no `ListBox`. `clearListBox` clears nothing: only a number above 0 would,
+    /// and a Boolean True is -1.
     void createDefaultFieldListStructure(bool& noListBox, bool clearListBox);
     /// Each adds its block to the list and, unless `noListBox`, to the pick list.
     void createCompanyInfoFieldListStructure(FieldListCollection& list, bool noListBox);

@@ -4,7 +4,6 @@
 
 #include "core/LocaleService.h"
 #include "core/routineScope.h"
-#include "templates/legacyFieldNames.h"
 #include "templates/provinceNames.h"
 #include "templates/regionFieldNames.h"
 #include "templates/regionWords.h"
@@ -14,12 +13,8 @@ namespace qncal {
 std::string clsInsertFieldsInRTB::convertProvinceFields(std::string text)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-convertProvinceFields", std::string(), [&] {
-        renameLegacyFields(text);
         const std::int32_t country = currentCountry();
-        if (country == LocaleService::unitedStates)
-            renameFieldsForUnitedStates(text);
-        else if (country == LocaleService::canada)
-            renameFieldsForCanada(text, currentProvince());
+        fieldRenamer(country, country == LocaleService::canada ? currentProvince() : 0).apply(text);
         return std::move(text);
     });
 }

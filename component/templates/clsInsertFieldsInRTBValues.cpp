@@ -83,7 +83,8 @@ std::string clsInsertFieldsInRTB::getTodaysDate(const std::string& format)
 std::string clsInsertFieldsInRTB::getTimeDurationFieldValue(Date timeFrom, Date timeTo)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-getTimeDurationFieldValue", std::string(), [&] {
-        const auto minutes = static_cast<std::int32_t>(std::abs(timeTo.linearSeconds() - timeFrom.linearSeconds()) / 60);
+        const auto minutes =
+            static_cast<std::int32_t>(std::abs(timeTo.linearSeconds() - timeFrom.linearSeconds()) / 60);
         return statement([&] { return dateTimeService().getDurationText(minutes); });
     });
 }

@@ -2,10 +2,7 @@
 
 #include "templates/delimiters.h"
 #include "utilities/ComposedText.h"
-#include "utilities/replaceText.h"
 
-#include <span>
-#include <string>
 #include <string_view>
 
 namespace qncal {
@@ -19,12 +16,5 @@ struct FieldRenaming {
 /// A field in a plain template, and in a rich-text stream.
 constexpr ComposedText plainField(std::string_view name) { return {plainDelimiters.open, name, plainDelimiters.close}; }
 constexpr ComposedText richField(std::string_view name) { return {richDelimiters.open, name, richDelimiters.close}; }
-
-/// Applies the lines in order, each to every occurrence and without regard to case.
-inline void renameFields(std::string& text, std::span<const FieldRenaming> lines)
-{
-    for (const FieldRenaming& line : lines)
-        replaceNoCase(text, line.oldText.view(), line.newText.view());
-}
 
 } // namespace qncal

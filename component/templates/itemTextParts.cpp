@@ -40,6 +40,12 @@ void exchangeClientName(std::string& itemTemplate, std::int32_t companyID, std::
         exchangeFirst(itemTemplate, companyName, contactName);
 }
 
+bool holdsDelimiter(std::string_view text)
+{
+    return findDelimiter(text, plainDelimiters, 0).at != std::string_view::npos
+           || findDelimiter(text, richDelimiters, 0).at != std::string_view::npos;
+}
+
 bool holdsExpression(std::string_view text)
 {
     return text.find(plainDelimiters.open) != std::string_view::npos

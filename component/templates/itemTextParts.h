@@ -13,6 +13,8 @@ std::string joinedDisplayText(const std::string& before, const std::string& text
 /// stands there as well; for an item with a contact alone the other way round. An id below 0 is none.
 void exchangeClientName(std::string& itemTemplate, std::int32_t companyID, std::int32_t contactID);
 
+/// True when a text holds any delimiter, in either case of its letters.
+bool holdsDelimiter(std::string_view text);
 /// True while a text still holds an opening delimiter, plain or as rich text in exactly these letters.
 bool holdsExpression(std::string_view text);
 

@@ -1,7 +1,5 @@
 #include "templates/legacyFieldNames.h"
 
-#include "templates/fieldRenaming.h"
-
 #include <array>
 
 namespace qncal {
@@ -76,6 +74,6 @@ constexpr auto renamings = std::to_array<FieldRenaming>({
 
 } // namespace
 
-void renameLegacyFields(std::string& text) { renameFields(text, renamings); }
+std::span<const FieldRenaming> legacyFieldNames() { return renamings; }
 
 } // namespace qncal

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <string>
+#include "templates/fieldRenaming.h"
+
+#include <span>
 
 namespace qncal {
 
-/// Brings the field names, words and delimiters of old templates up to date, in place.
-void renameLegacyFields(std::string& text);
+/// What brings the field names, words and delimiters of old templates up to date.
+std::span<const FieldRenaming> legacyFieldNames();
 
 } // namespace qncal

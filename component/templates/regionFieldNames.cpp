@@ -1,10 +1,13 @@
 #include "templates/regionFieldNames.h"
 
-#include "templates/fieldRenaming.h"
+#include "core/LocaleService.h"
+#include "templates/legacyFieldNames.h"
 #include "templates/regionWords.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
+#include <span>
 
 namespace qncal {
 
@@ -134,29 +137,73 @@ const ProvinceRules& rulesOf(std::int32_t province)
     return found == provinceRules.end() ? ontarioAndTheRest : *found;
 }
 
-void renameCorpTaxFields(std::string& text, const ProvinceRules& rules)
+using Lines = std::vector<FieldRenaming>;
+
+void addLines(Lines& lines, std::span<const FieldRenaming> more)
+{
+    lines.insert(lines.end(), more.begin(), more.end());
+}
+
+void addCorpTaxLines(Lines& lines, const ProvinceRules& rules)
 {
     const std::string_view ownWord = regionWords(rules.province).corpTax;
     const ComposedText ownExpression = corpTaxField(ownWord).expression;
     for (const CorpTaxField& field : corpTaxFields) {
         if (field.word != ownWord && field.word != rules.untouchedCorpTax)
-            replaceNoCase(text, field.expression.view(), ownExpression.view());
+            lines.push_back({field.expression, ownExpression});
     }
+}
+
+void addCanadianLines(Lines& lines, const ProvinceRules& rules, bool harmonised)
+{
+    if (harmonised)
+        lines.push_back(gstToHst);
+    addLines(lines, rules.lines);
+    addCorpTaxLines(lines, rules);
+    for (const FieldRenaming& names : countryNames)
+        lines.push_back({names.newText, names.oldText});
+}
+
+/// What tells one list of lines from another; the province counts in Canada alone.
+struct Region {
+    std::int32_t country = 0;
+    std::int32_t province = 0;
+    bool harmonised = false;
+    auto operator<=>(const Region&) const = default;
+};
+
+FieldRenamer newRenamer(const Region& region)
+{
+    const auto legacy = legacyFieldNames();
+    Lines lines(legacy.begin(), legacy.end());
+    if (region.country == LocaleService::unitedStates)
+        addLines(lines, countryNames);
+    else if (region.country == LocaleService::canada)
+        addCanadianLines(lines, rulesOf(region.province), region.harmonised);
+    return FieldRenamer(std::move(lines));
+}
+
+Region regionOf(std::int32_t country, std::int32_t province)
+{
+    if (country == LocaleService::unitedStates)
+        return {country};
+    if (country != LocaleService::canada)
+        return {};
+    const ProvinceRules& rules = rulesOf(province);
+    return {country, rules.province, rules.harmonises && isSalesTaxHarmonised()};
 }
 
 } // namespace
 
-void renameFieldsForUnitedStates(std::string& text) { renameFields(text, countryNames); }
-
-void renameFieldsForCanada(std::string& text, std::int32_t province)
+const FieldRenamer& fieldRenamer(std::int32_t country, std::int32_t province)
 {
-    const ProvinceRules& rules = rulesOf(province);
-    if (rules.harmonises && isSalesTaxHarmonised())
-        renameFields(text, {&gstToHst, 1});
-    renameFields(text, rules.lines);
-    renameCorpTaxFields(text, rules);
-    for (const FieldRenaming& names : countryNames)
-        replaceNoCase(text, names.newText.view(), names.oldText.view());
+    // One for each region that was ever asked for; they hold nothing but the tables above.
+    thread_local std::map<Region, FieldRenamer> renamers;
+    const Region region = regionOf(country, province);
+    auto found = renamers.find(region);
+    if (found == renamers.end())
+        found = renamers.emplace(region, newRenamer(region)).first;
+    return found->second;
 }
 
 } // namespace qncal

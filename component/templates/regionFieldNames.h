@@ -1,14 +1,14 @@
 #pragma once
 
+#include "templates/FieldRenamer.h"
+
 #include <cstdint>
-#include <string>
 
 namespace qncal {
 
-/// The field names of Canada as those of the United States, in place.
-void renameFieldsForUnitedStates(std::string& text);
-/// The tax and workers' board fields of every province as those of one, then the names of the United States
-/// as those of Canada, in place.
-void renameFieldsForCanada(std::string& text, std::int32_t province);
+/// Old names of every sort to those of the firm's region today: legacy names first, then for the United States the
+/// field names of Canada to its own; for Canada the tax and workers' board fields of every province to those of
+/// one, then the names of the United States to those of Canada. Any other country has the legacy names alone.
+const FieldRenamer& fieldRenamer(std::int32_t country, std::int32_t province);
 
 } // namespace qncal

@@ -3,6 +3,7 @@
 #include "utilities/RunTimeError.h"
 #include "utilities/text.h"
 
+#include <algorithm>
 #include <bit>
 
 namespace qncal {
@@ -43,14 +44,14 @@ bool holds(const FieldListRow& row, std::int16_t column, std::string_view value)
 void FieldListCollection::clearRows()
 {
     rows_.clear();
-    nameIndex_.clear();
+    forgetSearches();
     current_ = -1;
 }
 
 void FieldListCollection::addRow(FieldListRow row)
 {
     rows_.push_back(std::move(row));
-    nameIndex_.clear();
+    forgetSearches();
     current_ = getCount() - 1;
 }
 
@@ -116,10 +117,11 @@ const FieldListRow& FieldListCollection::current() const
 
 std::int32_t FieldListCollection::positionOfDisplayName(std::string_view name, std::int32_t from)
 {
-    if (rows_.empty())
-        return -1;
-    if (nameIndex_.empty())
+    if (nameIndex_.empty()) {
+        if (++searches_ <= searchesWithoutIndex || rows_.empty())
+            return findWithoutIndex(name, from);
         indexDisplayNames();
+    }
     const std::size_t mask = nameIndex_.size() - 1;
     for (std::size_t slot = hashNoCase(name) & mask;; slot = (slot + 1) & mask) {
         const std::int32_t position = nameIndex_[slot];
@@ -130,20 +132,36 @@ std::int32_t FieldListCollection::positionOfDisplayName(std::string_view name, s
     }
 }
 
+std::int32_t FieldListCollection::findWithoutIndex(std::string_view name, std::int32_t from) const
+{
+    for (std::int32_t position = std::max(from, 0); position < getCount(); ++position) {
+        if (equalsNoCase(rows_[static_cast<std::size_t>(position)].displayName.view(), name))
+            return position;
+    }
+    return -1;
+}
+
 bool FieldListCollection::displayNamesHold(char byte)
 {
-    if (nameIndex_.empty())
-        indexDisplayNames();
-    return nameBytes_[static_cast<std::uint8_t>(byte)];
+    for (const auto& [asked, held] : heldBytes_) {
+        if (asked == byte)
+            return held;
+    }
+    const bool held = std::ranges::any_of(
+        rows_, [byte](const FieldListRow& row) { return row.displayName.view().find(byte) != std::string_view::npos; });
+    heldBytes_.emplace_back(byte, held);
+    return held;
+}
+
+void FieldListCollection::forgetSearches()
+{
+    nameIndex_.clear();
+    heldBytes_.clear();
+    searches_ = 0;
 }
 
 void FieldListCollection::indexDisplayNames()
 {
-    nameBytes_.reset();
-    for (const FieldListRow& row : rows_) {
-        for (const char c : row.displayName.view())
-            nameBytes_.set(static_cast<std::uint8_t>(c));
-    }
     nameIndex_.assign(std::bit_ceil(rows_.size() * 2), freeSlot);
     const std::size_t mask = nameIndex_.size() - 1;
     for (std::size_t i = 0; i < rows_.size(); ++i) {

@@ -85,10 +85,9 @@ public:
                 makeTask();
             else
                 makeDocket();
+            ++made_;
             if (progress_)
-                progress_(++made_, options_.items);
-            else
-                ++made_;
+                progress_(made_, options_.items);
         }
     }
 

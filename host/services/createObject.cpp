@@ -1,8 +1,8 @@
 #include "services/createObject.h"
 
+#include "server/Guid.h"
 #include "server/classRegistration.h"
 #include "server/entryPoints.h"
-#include "server/Guid.h"
 
 #include <algorithm>
 #include <dlfcn.h>
@@ -30,8 +30,7 @@ std::shared_ptr<void> createObject(std::string_view className)
     void* const library = dlopen(entry->library.c_str(), RTLD_NOW | RTLD_LOCAL);
     if (!library)
         fail(className, dlerror());
-    const auto getClassObject
-        = reinterpret_cast<decltype(&DllGetClassObject)>(dlsym(library, "DllGetClassObject"));
+    const auto getClassObject = reinterpret_cast<decltype(&DllGetClassObject)>(dlsym(library, "DllGetClassObject"));
     if (!getClassObject)
         fail(className, entry->library + " has no DllGetClassObject");
 

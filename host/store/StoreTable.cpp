@@ -1,7 +1,5 @@
 #include "store/StoreTable.h"
 
-#include "store/ddl.h"
-
 namespace qncal::host {
 
 namespace {
@@ -22,37 +20,40 @@ StoreTable::StoreTable(const schema::Table& table, SqliteConnection& connection)
 
 std::int64_t StoreTable::takeKey()
 {
-    if (nextKey_ == endKey_) {
-        SqliteTransaction transaction(connection_);
-        SqliteStatement find = connection_.prepare("SELECT MAX(IFNULL((SELECT nextKey FROM " + std::string(keyTable)
-                                                   + " WHERE tableName = ?1), 1), " + "IFNULL((SELECT MAX(" + keyName()
-                                                   + ") FROM " + quotedName(schema_.name) + "), 0) + 1)");
-        find.bind(1, schema_.name);
-        find.step();
-        const std::int64_t first = find.integer(0);
-        find.reset();
-        SqliteStatement store = connection_.prepare("INSERT OR REPLACE INTO " + std::string(keyTable)
-                                                    + " (tableName, nextKey) VALUES (?1, ?2)");
-        store.bind(1, schema_.name);
-        store.bind(2, first + keysTakenAtOnce);
-        store.step();
-        store.reset();
-        transaction.commit();
-        nextKey_ = first;
-        endKey_ = first + keysTakenAtOnce;
-    }
+    if (nextKey_ == endKey_)
+        takeKeys();
     return nextKey_++;
+}
+
+/// The engine's own number of the last key given moves past the keys taken, so that a record which an SQL tool
+/// adds gets none of them.
+void StoreTable::takeKeys()
+{
+    SqliteTransaction transaction(connection_);
+    SqliteStatement find = connection_.prepare("SELECT seq FROM sqlite_sequence WHERE name = ?1");
+    find.bind(1, schema_.name);
+    const bool known = find.step();
+    const std::int64_t last = known ? find.integer(0) : 0;
+    find.reset();
+    SqliteStatement store = connection_.prepare(known ? "UPDATE sqlite_sequence SET seq = ?2 WHERE name = ?1"
+                                                      : "INSERT INTO sqlite_sequence (name, seq) VALUES (?1, ?2)");
+    store.bind(1, schema_.name);
+    store.bind(2, last + keysTakenAtOnce);
+    store.step();
+    store.reset();
+    transaction.commit();
+    nextKey_ = last + 1;
+    endKey_ = nextKey_ + keysTakenAtOnce;
 }
 
 void StoreTable::returnKeys()
 {
     if (nextKey_ == endKey_)
         return;
-    SqliteStatement store = connection_.prepare("UPDATE " + std::string(keyTable)
-                                                + " SET nextKey = ?1 WHERE tableName = ?2 AND nextKey = ?3");
-    store.bind(1, nextKey_);
+    SqliteStatement store = connection_.prepare("UPDATE sqlite_sequence SET seq = ?1 WHERE name = ?2 AND seq = ?3");
+    store.bind(1, nextKey_ - 1);
     store.bind(2, schema_.name);
-    store.bind(3, endKey_);
+    store.bind(3, endKey_ - 1);
     store.step();
     nextKey_ = endKey_ = 0;
 }
@@ -115,6 +116,9 @@ void StoreTable::insert(const std::vector<Change>& values)
         statement.bind(++index, value);
     statement.step();
     ++version_;
+    // A key that the caller chose may be one of those waiting to be given.
+    if (const auto& [column, key] = values.front(); column == 0 && key.integer >= nextKey_ && key.integer < endKey_)
+        nextKey_ = key.integer + 1;
 }
 
 bool StoreTable::update(std::int64_t key, const std::vector<Change>& values)

@@ -45,6 +45,7 @@ public:
     void forgetDeletions() { deletions_.clear(); }
 
 private:
+    void takeKeys();
     SqliteStatement& statementFor(std::unordered_map<std::string, SqliteStatement>& cache, bool update,
                                   const std::vector<Change>& values);
     std::string insertText(const std::vector<Change>& values) const;

@@ -11,7 +11,7 @@ const char* typeText(schema::ColumnType type)
 {
     switch (type) {
     case schema::ColumnType::key:
-        return "INTEGER PRIMARY KEY";
+        return "INTEGER PRIMARY KEY AUTOINCREMENT";
     case schema::ColumnType::real:
     case schema::ColumnType::currency:
         return "REAL";
@@ -92,8 +92,6 @@ void prepareSchema(SqliteConnection& connection, std::span<const schema::Table> 
     if (!isNew && fileVersion == version)
         return;
     SqliteTransaction transaction(connection);
-    connection.execute(std::string("CREATE TABLE IF NOT EXISTS ") + keyTable
-                       + " (tableName TEXT PRIMARY KEY, nextKey INTEGER NOT NULL) WITHOUT ROWID");
     for (const schema::Table& table : tables)
         addMissing(connection, table);
     connection.execute("PRAGMA application_id = " + std::to_string(applicationId));

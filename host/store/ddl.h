@@ -9,8 +9,6 @@
 
 namespace qncal::host {
 
-/// The store's own table: for each table the next key to be given.
-inline constexpr const char* keyTable = "storeKeys";
 /// Marks a database file as one of this store's.
 inline constexpr std::int32_t applicationId = 0x714E4361;
 

@@ -11,6 +11,7 @@ class ComponentTest : public testing::Test, protected TestWorld {};
 
 /// The same, with a parameter.
 template <class Parameter>
-class ComponentTestWith : public ComponentTest, public testing::WithParamInterface<Parameter> {};
+class ComponentTestWith : public ComponentTest, public testing::WithParamInterface<Parameter> {
+};
 
 } // namespace qncal::test

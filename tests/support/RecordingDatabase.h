@@ -37,8 +37,8 @@ public:
     std::int32_t openRecordset(std::string_view sql, std::int32_t cursor, std::int32_t lock, bool showError,
                                std::string_view errorText, bool keep) override
     {
-        const std::int32_t handle
-            = ForwardingDatabaseService::openRecordset(sql, cursor, lock, showError, errorText, keep);
+        const std::int32_t handle =
+            ForwardingDatabaseService::openRecordset(sql, cursor, lock, showError, errorText, keep);
         opened.emplace_back(sql, lock);
         open.push_back(handle);
         return handle;

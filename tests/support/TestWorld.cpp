@@ -19,7 +19,7 @@ std::string rowByKey(std::string_view table, std::int32_t key)
 {
     const std::string name(table);
     return "SELECT " + name + ".* FROM " + name + " WHERE " + name + "." + keyColumn(table) + "=" + std::to_string(key)
-        + ";";
+           + ";";
 }
 
 std::string asText(const Variant& value) { return value.isNull() ? "Null" : value.toText(); }
@@ -93,8 +93,8 @@ std::string TestWorld::allRows()
     std::string text;
     for (const schema::Table& table : schema::tables()) {
         const std::string name(table.name);
-        const std::int32_t handle
-            = open(*database, "SELECT " + name + ".* FROM " + name + ";", DatabaseService::readOnly);
+        const std::int32_t handle =
+            open(*database, "SELECT " + name + ".* FROM " + name + ";", DatabaseService::readOnly);
         for (; database->hasRecords(handle) && !database->isEOF(handle); database->moveNext(handle)) {
             text += name;
             for (const schema::Column& column : table.columns)

@@ -12,7 +12,9 @@ namespace qncal {
 /// refuse them all: what it throws goes to the caller in place of the call.
 class ForwardingMessageDialogService : public MessageDialogService {
 public:
-    explicit ForwardingMessageDialogService(std::shared_ptr<MessageDialogService> target) : target_(std::move(target)) {}
+    explicit ForwardingMessageDialogService(std::shared_ptr<MessageDialogService> target) : target_(std::move(target))
+    {
+    }
     const std::shared_ptr<MessageDialogService>& target() const { return target_; }
 
     void showMessage(std::string_view text, std::int16_t style, Form* owner, std::int32_t fixed1, std::int32_t fixed2,

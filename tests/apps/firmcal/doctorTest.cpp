@@ -21,7 +21,8 @@ protected:
     {
         std::vector<std::string> arguments{"doctor", "--json"};
         arguments.insert(arguments.end(), options.begin(), options.end());
-        for (const auto& entry : nlohmann::ordered_json::parse(run(arguments).out)["checks"]) {
+        const auto results = nlohmann::ordered_json::parse(run(arguments).out);
+        for (const auto& entry : results["checks"]) {
             if (entry["check"] == check)
                 return {entry["found"], entry["mended"]};
         }

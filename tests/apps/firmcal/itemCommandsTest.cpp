@@ -49,7 +49,6 @@ TEST_F(ItemCommandsTest, AddsWithDateTimesClientAndOwner)
     EXPECT_EQ(added["userIDNum"], 1);
     EXPECT_EQ(added["Custom1"], "Slips");
     EXPECT_EQ(added["Status1"], true);
-    EXPECT_EQ(added["notifiedDate"], "2026-03-05") << "the day before the item, as for a new one";
 }
 
 TEST_F(ItemCommandsTest, TheSignedInUserOwnsANewItem)
@@ -86,12 +85,34 @@ TEST_F(ItemCommandsTest, ANewStartKeepsTheLength)
               "Changed appointment 1: Tue, Mar 3, 2026, 14:15-16:00, Call\n");
 }
 
+TEST_F(ItemCommandsTest, ChangesWhatDoesNotMarkTheItemDirty)
+{
+    succeed({"item", "add", "Call", "--contact", "1"});
+    succeed({"item", "set", "1", "--set", "Notified_ByEmail=yes", "--set", "Notified_ByPhone=yes"});
+    EXPECT_EQ(item("1")["notifyType"], 5);
+}
+
+TEST_F(ItemCommandsTest, TheClientIsNotifiedTheDayBeforeTheNewDate)
+{
+    succeed({"item", "add", "Call", "--date", "2026-03-20", "--contact", "1", "--set", "notifyType=1"});
+    EXPECT_EQ(rows("SELECT AppointmentNum, NotificationType, NotificationDate FROM ClientNotification"),
+              "{\"AppointmentNum\":1,\"NotificationType\":1,\"NotificationDate\":\"2026-03-19\"}\n");
+}
+
+TEST_F(ItemCommandsTest, AReminderComesAndGoesWithItsItem)
+{
+    succeed({"item", "add", "Call", "--date", "2026-03-20", "--set", "Remind=yes", "--set", "reminderPeriod=1 Hr"});
+    EXPECT_EQ(rows("SELECT AppointmentIDNum, ReminderDate, ReminderTime FROM Reminders"),
+              "{\"AppointmentIDNum\":1,\"ReminderDate\":\"2026-03-20\",\"ReminderTime\":\"08:00:00\"}\n");
+    succeed({"item", "set", "1", "--set", "Remind=no"});
+    EXPECT_EQ(rows("SELECT * FROM Reminders"), "");
+}
+
 TEST_F(ItemCommandsTest, ListsTheFieldsWithWhatTheyTake)
 {
     const std::string fields = output({"item", "fields"});
-    EXPECT_NE(fields.find("\nSubject                text\n"), std::string::npos) << fields;
-    EXPECT_NE(fields.find("\nNotified_ByFax         yes/no"), std::string::npos) << fields;
-    EXPECT_NE(fields.find("can only be read"), std::string::npos) << fields;
+    for (const char* part : {"\nSubject ", "\nNotified_ByFax ", " can only be read\n", " can only be set\n"})
+        EXPECT_NE(fields.find(part), std::string::npos) << part << fields;
 }
 
 TEST_F(ItemCommandsTest, ShowsWhatIsWorthShowing)

@@ -54,7 +54,7 @@ INSTANTIATE_TEST_SUITE_P(
               2,
               "--days: Value 0 not in range 1 to 366; see 'firmcal agenda --help'"},
         Wrong{
-            "BothAnswers", {"user", "list", "--yes", "--no"}, 2, "--no excludes --yes; see 'firmcal user list --help'"},
+            "BothAnswers", {"user", "list", "--yes", "--no"}, 2, "--yes excludes --no; see 'firmcal user list --help'"},
         Wrong{"ArchivedAppointments",
               {"item", "list", "--archived", "--kind", "appointment"},
               2,
@@ -96,7 +96,7 @@ INSTANTIATE_TEST_SUITE_P(
               1,
               "the item would end at 09:00, before it begins at 10:00"},
         Wrong{"EndAfterMidnight", {"item", "set", "1", "--start", "23:30"}, 1, "the item would end after midnight"},
-        Wrong{"NothingToChange", {"item", "set", "1"}, 1, "nothing to change; see 'firmcal item set --help'"},
+        Wrong{"NothingToChange", {"item", "set", "1"}, 2, "nothing to change; see 'firmcal item set --help'"},
         Wrong{"UnknownUser", {"agenda", "--user", "nobody"}, 1, "no user 'nobody'; 'firmcal user list' shows them"},
         Wrong{"UnknownOwner",
               {"item", "add", "x", "--for", "nobody"},

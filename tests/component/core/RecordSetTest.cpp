@@ -84,9 +84,8 @@ TEST_F(RecordSetTest, WritesEveryTypeAsText)
     rst.writeNew("TextBody", std::string("O'Neil"));
     rst.update();
     rst.close();
-    EXPECT_EQ(recording->written,
-              (std::vector<std::string>{"Completed=True", "UserIDNum=12", "ReminderDate=2026-03-31",
-                                        "ReminderTime=09:30:00", "TextBody=O'Neil"}));
+    EXPECT_EQ(recording->written, (std::vector<std::string>{"Completed=True", "UserIDNum=12", "ReminderDate=2026-03-31",
+                                                            "ReminderTime=09:30:00", "TextBody=O'Neil"}));
     EXPECT_EQ(cell("Reminders", 1, "TextBody"), "O'Neil");
 }
 
@@ -152,8 +151,8 @@ TEST_F(RecordSetTest, AWriteThroughOneHandleIsSeenThroughAnother)
 {
     const std::int32_t id = addRow("Reminders", {{"TextBody", "old"}});
     auto writer = RecordSet::openUpdatable("SELECT Reminders.* FROM Reminders;");
-    auto reader = RecordSet::openReadOnly("SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(id)
-                                          + ";");
+    auto reader =
+        RecordSet::openReadOnly("SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(id) + ";");
     writer.write("TextBody", std::string("new"));
     std::string text;
     reader.read("TextBody", text);
@@ -175,8 +174,8 @@ TEST_F(RecordSetTest, AnUnescapedQuoteInALikePatternFailsThroughTheErrorHandler)
 TEST_F(RecordSetTest, GetSqlDateRoundTripsWithTheDateLiteral)
 {
     addRow("Appointments", {{"DateFrom", "2026-03-31"}});
-    auto rst = RecordSet::openReadOnly("SELECT Appointments.* FROM Appointments WHERE Appointments.DateFrom="
-                                       + sqlDate(Date::of(2026, 3, 31)) + ";");
+    auto rst = RecordSet::openReadOnly(
+        "SELECT Appointments.* FROM Appointments WHERE Appointments.DateFrom=" + sqlDate(Date::of(2026, 3, 31)) + ";");
     EXPECT_TRUE(rst.hasRecords());
     rst.close();
 }

@@ -52,8 +52,7 @@ TEST_P(clsCalendarItemTypeKindTest, CreatesTheFirmWideRowWithItsDefaults)
     const std::string prefix = GetParam().tableText;
     EXPECT_EQ(cell("UserCalendarSettings", 1, prefix + "Template"), GetParam().defaultTemplate);
     EXPECT_EQ(recording->written,
-              (std::vector<std::string>{prefix + "TitleBarText=",
-                                        prefix + "Template=" + GetParam().defaultTemplate}));
+              (std::vector<std::string>{prefix + "TitleBarText=", prefix + "Template=" + GetParam().defaultTemplate}));
     EXPECT_EQ(type.CalendarItemDisplayTemplateText(), GetParam().defaultTemplate);
     EXPECT_EQ(type.CalendarItemTitleBarTemplateText(), "");
 }
@@ -114,12 +113,11 @@ TEST_F(clsCalendarItemTypeTest, TheSameKindTwiceLoadsTheTemplatesOnce)
 
 TEST_F(clsCalendarItemTypeTest, ChangingTheKindReloadsBothTemplates)
 {
-    addRow("UserCalendarSettings",
-           {{"UserIDNum", "-1"},
-            {"TaskTitleBarText", "task title"},
-            {"TaskTemplate", "task"},
-            {"ApptTitleBarText", "appt title"},
-            {"ApptTemplate", "appt"}});
+    addRow("UserCalendarSettings", {{"UserIDNum", "-1"},
+                                    {"TaskTitleBarText", "task title"},
+                                    {"TaskTemplate", "task"},
+                                    {"ApptTitleBarText", "appt title"},
+                                    {"ApptTemplate", "appt"}});
     type.calendarItemType(enumLocalCalendarTaskItem);
     EXPECT_EQ(type.CalendarItemTitleBarTemplateText(), "task title");
     type.calendarItemType(enumLocalCalendarAppointmentItem);
@@ -220,8 +218,7 @@ TEST_F(clsCalendarItemTypeTest, SettingTheDefaultsLeavesTheTitle)
 TEST_F(clsCalendarItemTypeTest, TheTitleVerificationWrapsAPlainText)
 {
     const std::pair<const char*, const char*> cases[] = {
-        {" 0 ", ""},   {"0", ""},           {"", ""},          {"Subject", "«Subject»"},
-        {"a «b»", "a «b»"}, {"a \\'ab b", "a \\'ab b"},
+        {" 0 ", ""}, {"0", ""}, {"", ""}, {"Subject", "«Subject»"}, {"a «b»", "a «b»"}, {"a \\'ab b", "a \\'ab b"},
     };
     recording->connected = false;
     type.CalendarItemTitleBarTemplateText(); // loads
@@ -248,13 +245,12 @@ TEST_F(clsCalendarItemTypeTest, ItsLabelsNameTheItem)
     type.calendarItemType(enumLocalCalendarTaskItem);
     type.CalendarItemDisplayTemplateText();
     type.verifyCalendarItemTitleBarTemplateText();
-    EXPECT_EQ(errors->labels(),
-              (std::vector<std::string>{
-                  "Vestrel.exe-clsCalendarItem-getCalendarItemTextTemplates",
-                  "Vestrel.exe-clsCalendarItem-verifyCalendarItemDisplayTemplateText",
-                  "Vestrel.exe-clsCalendarItem-setDefaultCalendarItemDisplayTextTemplates",
-                  "Vestrel.exe-clsCalendarItem-verifyCalendarItemTitleBarTemplateText",
-              }));
+    EXPECT_EQ(errors->labels(), (std::vector<std::string>{
+                                    "Vestrel.exe-clsCalendarItem-getCalendarItemTextTemplates",
+                                    "Vestrel.exe-clsCalendarItem-verifyCalendarItemDisplayTemplateText",
+                                    "Vestrel.exe-clsCalendarItem-setDefaultCalendarItemDisplayTextTemplates",
+                                    "Vestrel.exe-clsCalendarItem-verifyCalendarItemTitleBarTemplateText",
+                                }));
 }
 
 } // namespace

@@ -15,10 +15,7 @@ std::string asText(Date value) { return numberText(value.serial()); }
 std::string asText(bool value) { return value ? "True" : "False"; }
 template <class Number>
     requires(std::integral<Number> || std::floating_point<Number> || std::is_enum_v<Number>)
-std::string asText(Number value)
-{
-    return numberText(static_cast<double>(value));
-}
+std::string asText(Number value) { return numberText(static_cast<double>(value)); }
 
 /// A property that may be read and written, its default, and another value.
 struct Property {
@@ -286,12 +283,11 @@ TEST_F(clsCalendarItemPropertiesTest, EachNotificationChannelChangesItsBitAlone)
 
 TEST_F(clsCalendarItemPropertiesTest, TheColourSchemeBringsItsColours)
 {
-    const std::int32_t scheme = addRow("ColourSchemes",
-                                       {{"SchemeName", "Sea"},
-                                        {"TitleBackColour", "1"},
-                                        {"TitleForeColour", "2"},
-                                        {"BackColour", "3"},
-                                        {"ForeColour", "4"}});
+    const std::int32_t scheme = addRow("ColourSchemes", {{"SchemeName", "Sea"},
+                                                         {"TitleBackColour", "1"},
+                                                         {"TitleForeColour", "2"},
+                                                         {"BackColour", "3"},
+                                                         {"ForeColour", "4"}});
     item.ColourSchemeID(scheme);
     EXPECT_EQ(item.TitleBackColour(), 1);
     EXPECT_EQ(item.TitleForeColour(), 2);
@@ -338,8 +334,8 @@ TEST_F(clsCalendarItemPropertiesTest, TheKindGoesToTheKindObjectAndDoesNotMarkDi
 
 TEST_F(clsCalendarItemPropertiesTest, AnEmptyTemplateTakesTheKindsAndKeepsIt)
 {
-    const std::int32_t settings
-        = addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", "title"}, {"ApptTemplate", "body"}});
+    const std::int32_t settings =
+        addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", "title"}, {"ApptTemplate", "body"}});
     item.calendarItemType(enumLocalCalendarAppointmentItem);
     EXPECT_EQ(item.TitleBarTextDefaultTemplate(), "title");
     EXPECT_EQ(item.DisplayTextDefaultTemplate(), "body");

@@ -1,9 +1,8 @@
 #include "core/clsCalendarItemType.h"
-#include "core/RecordSet.h"
 #include "items/clsCalendarItem.h"
 #include "items/modDatabaseFunctions.h"
-#include "support/rowName.h"
 #include "support/RoutineSweep.h"
+#include "support/rowName.h"
 
 #include <gtest/gtest.h>
 
@@ -26,22 +25,24 @@ template <class Result>
 SweptRoutine onRows(const char* name, Result defaultResult, std::function<std::int32_t(TestWorld&)> fill,
                     std::function<Result(std::int32_t)> call)
 {
-    return {name, asText(defaultResult), [fill, call](TestWorld& world) -> Run {
-                return [call, id = fill(world)] { return asText(call(id)); };
-            }};
+    return {name, asText(defaultResult),
+            [fill, call](TestWorld& world) -> Run { return [call, id = fill(world)] { return asText(call(id)); }; }};
 }
 
 /// A routine of an item of the kind with the id that `fill` gives.
 SweptRoutine onItem(const char* name, const std::string& defaultResult, enumLocalCalendarItemType kind,
                     std::function<std::int32_t(TestWorld&)> fill, std::function<std::string(clsCalendarItem&)> call)
 {
-    return {name, defaultResult, [=](TestWorld& world) -> Run {
-                const std::int32_t id = fill(world);
-                auto item = std::make_shared<clsCalendarItem>();
-                item->calendarItemType(kind);
-                item->itemID(id);
-                return [item, call] { return call(*item); };
-            }};
+    return {
+        name, defaultResult, [=](TestWorld& world) -> Run {
+            // Templates without fields: the merge of texts has tests of its own.
+            world.addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTemplate", "a"}, {"TaskTemplate", "t"}});
+            const std::int32_t id = fill(world);
+            auto item = std::make_shared<clsCalendarItem>();
+            item->calendarItemType(kind);
+            item->itemID(id);
+            return [item, call] { return call(*item); };
+        }};
 }
 
 std::int32_t noRows(TestWorld&) { return -1; }
@@ -91,13 +92,15 @@ std::vector<SweptRoutine> routines()
     std::vector<SweptRoutine> all = {
         onItem("LoadById", "False", appointment, appointmentWithDependents,
                [](clsCalendarItem& item) { return asText(item.loadCalendarItem()); }),
-        onItem("LoadFromACallersSet", "False", appointment, appointmentWithDependents,
-               [](clsCalendarItem& item) {
-                   const auto& database = *serviceRegistry().database;
-                   const auto handle = const_cast<DatabaseService&>(database).openRecordset(
-                       "SELECT Appointments.* FROM Appointments;", 1, 1, true, {}, true);
-                   return asText(item.loadCalendarItem(handle));
-               }),
+        {"LoadFromACallersSet", "False",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->calendarItemType(appointment);
+             item->itemID(appointmentWithDependents(world));
+             const std::int32_t handle =
+                 world.database->openRecordset("SELECT Appointments.* FROM Appointments;", 1, 1, true, {}, true);
+             return [item, handle] { return asText(item->loadCalendarItem(handle)); };
+         }},
         onItem("SaveAnExistingRow", "False", appointment, appointmentWithDependents,
                [](clsCalendarItem& item) {
                    item.Subject("changed");
@@ -108,8 +111,9 @@ std::vector<SweptRoutine> routines()
                    item.TimeFrom(Date::timeOf(15));
                    return asText(item.saveCalendarItem());
                }),
-        onItem("SaveAVanishedRow", "False", appointment, [](TestWorld&) { return 17; },
-               [](clsCalendarItem& item) { return asText(item.saveCalendarItem()); }),
+        onItem(
+            "SaveAVanishedRow", "False", appointment, [](TestWorld&) { return 17; },
+            [](clsCalendarItem& item) { return asText(item.saveCalendarItem()); }),
         onItem("DeleteItem", "False", appointment, appointmentWithDependents,
                [](clsCalendarItem& item) { return asText(item.deleteCalendarItem()); }),
         onItem("ItemTaskFromSchedule", "False", task, archivedTask,
@@ -140,12 +144,23 @@ std::vector<SweptRoutine> routines()
         onRows<bool>("IndependentScheduleEntry", false, taskOfSchedule,
                      mod::isThisTaskAssociatedWithIndependentScheduleEntry),
         onRows<std::string>("ModuleSchemeName", "", colourScheme, mod::getColourSchemeNameFromColourSchemeID),
-        onItem("ItemSchemeName", "", appointment, colourScheme,
-               [](clsCalendarItem& item) {
-                   item.ColourSchemeID(1);
-                   return item.ColourSchemeName();
-               }),
-        {"LoadTemplates", "", [](TestWorld& world) -> Run {
+        {"ItemSchemeName", "",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->ColourSchemeID(colourScheme(world));
+             return [item] { return item->ColourSchemeName(); };
+         }},
+        {"ItemSchemeColours", "",
+         [](TestWorld& world) -> Run {
+             auto item = std::make_shared<clsCalendarItem>();
+             item->ColourSchemeID(colourScheme(world));
+             return [item] {
+                 item->populateColourSchemeColours();
+                 return std::string();
+             };
+         }},
+        {"LoadTemplates", "",
+         [](TestWorld& world) -> Run {
              world.addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", "t"}});
              auto type = std::make_shared<clsCalendarItemType>();
              return [type] {
@@ -153,7 +168,8 @@ std::vector<SweptRoutine> routines()
                  return std::string();
              };
          }},
-        {"CreateTheTemplatesRow", "", [](TestWorld&) -> Run {
+        {"CreateTheTemplatesRow", "",
+         [](TestWorld&) -> Run {
              auto type = std::make_shared<clsCalendarItemType>();
              return [type] {
                  type->calendarItemType(task);
@@ -161,9 +177,8 @@ std::vector<SweptRoutine> routines()
              };
          }},
     };
-    SweptRoutine validID{"ValidID", "False", [](TestWorld&) -> Run {
-                             return [] { return asText(mod::validTaskID("12")); };
-                         }};
+    SweptRoutine validID{"ValidID", "False",
+                         [](TestWorld&) -> Run { return [] { return asText(mod::validTaskID("12")); }; }};
     validID.needsDatabase = false;
     all.push_back(validID);
     SweptRoutine endTime{"EndTimeFromDuration", "10:00:00", [](TestWorld&) -> Run {

@@ -28,8 +28,8 @@ class validIDTest : public test::ComponentTestWith<ValidID> {};
 TEST_P(validIDTest, TakesNumbersAboveZeroAlone)
 {
     const std::pair<const char*, bool> texts[] = {
-        {"0", false}, {"-3", false}, {"abc", false}, {"", false}, {"12", true}, {" 12 ", true}, {"0.4", false},
-        {"1.6", true}, {"12a", false}, {"2147483647", true},
+        {"0", false},   {"-3", false},  {"abc", false}, {"", false},    {"12", true},
+        {" 12 ", true}, {"0.4", false}, {"1.6", true},  {"12a", false}, {"2147483647", true},
     };
     for (const auto& [text, valid] : texts)
         EXPECT_EQ(GetParam().valid(text), valid) << text;
@@ -44,18 +44,15 @@ TEST_P(validIDTest, ANumberThatIsNoIdIsReportedAndFalse)
     EXPECT_EQ(reported[0].number, 6);
 }
 
-INSTANTIATE_TEST_SUITE_P(Family, validIDTest,
-                         testing::Values(ValidID{"validAppointmentID", mod::validAppointmentID},
-                                         ValidID{"validDocketID", mod::validDocketID},
-                                         ValidID{"validScheduleID", mod::validScheduleID},
-                                         ValidID{"validTaskID", mod::validTaskID},
-                                         ValidID{"validClientID", mod::validClientID},
-                                         ValidID{"validCompanyID", mod::validCompanyID},
-                                         ValidID{"validContactID", mod::validContactID},
-                                         ValidID{"validFirmID", mod::validFirmID},
-                                         ValidID{"validEmployeeID", mod::validEmployeeID},
-                                         ValidID{"validColourSchemeID", mod::validColourSchemeID}),
-                         test::rowName);
+INSTANTIATE_TEST_SUITE_P(
+    Family, validIDTest,
+    testing::Values(ValidID{"validAppointmentID", mod::validAppointmentID},
+                    ValidID{"validDocketID", mod::validDocketID}, ValidID{"validScheduleID", mod::validScheduleID},
+                    ValidID{"validTaskID", mod::validTaskID}, ValidID{"validClientID", mod::validClientID},
+                    ValidID{"validCompanyID", mod::validCompanyID}, ValidID{"validContactID", mod::validContactID},
+                    ValidID{"validFirmID", mod::validFirmID}, ValidID{"validEmployeeID", mod::validEmployeeID},
+                    ValidID{"validColourSchemeID", mod::validColourSchemeID}),
+    test::rowName);
 
 // Clients of records.
 
@@ -73,8 +70,8 @@ TEST_P(ClientLookupTest, ReadsTheClientOfTheRecord)
 {
     const std::int32_t id = addRow(GetParam().table, {{GetParam().column, "31"}});
     EXPECT_EQ(GetParam().lookUp(id), 31);
-    EXPECT_EQ(recording->opened, (std::vector<std::pair<std::string, std::int32_t>>{
-                                     {GetParam().query + std::to_string(id) + ";", 1}}));
+    EXPECT_EQ(recording->opened,
+              (std::vector<std::pair<std::string, std::int32_t>>{{GetParam().query + std::to_string(id) + ";", 1}}));
     EXPECT_TRUE(recording->open.empty());
     EXPECT_EQ(errors->labels(),
               std::vector<std::string>{std::string("Vestrel.exe-modDatabaseFunctions-") + GetParam().name});
@@ -92,35 +89,34 @@ TEST_P(ClientLookupTest, NoRowNullOrNoConnectionIsMinusOne)
 
 INSTANTIATE_TEST_SUITE_P(
     Family, ClientLookupTest,
-    testing::Values(
-        ClientLookup{"getCompanyIDFromTaskID", mod::getCompanyIDFromTaskID, "Tasks", "CompanyIDNum",
-                     "SELECT Tasks.TaskID, Tasks.CompanyIDNum FROM Tasks WHERE TaskID="},
-        ClientLookup{"getContactIDFromTaskID", mod::getContactIDFromTaskID, "Tasks", "ContactIDNum",
-                     "SELECT Tasks.TaskID, Tasks.ContactIDNum FROM Tasks WHERE TaskID="},
-        ClientLookup{"getCompanyIDFromAppointmentID", mod::getCompanyIDFromAppointmentID, "Appointments",
-                     "CompanyIDNum",
-                     "SELECT Appointments.AppointmentID, Appointments.CompanyIDNum FROM Appointments WHERE "
-                     "AppointmentID="},
-        ClientLookup{"getContactIDFromAppointmentID", mod::getContactIDFromAppointmentID, "Appointments",
-                     "ContactIDNum",
-                     "SELECT Appointments.AppointmentID, Appointments.ContactIDNum FROM Appointments WHERE "
-                     "AppointmentID="},
-        ClientLookup{"getCompanyIDFromMissingInfoID", mod::getCompanyIDFromMissingInfoID, "MissingInfo",
-                     "CompanyIDNum",
-                     "SELECT MissingInfo.MissingInfoID, MissingInfo.CompanyIDNum FROM MissingInfo WHERE "
-                     "MissingInfoID="},
-        ClientLookup{"getContactIDFromMissingInfoID", mod::getContactIDFromMissingInfoID, "MissingInfo",
-                     "ContactIDNum",
-                     "SELECT MissingInfo.MissingInfoID, MissingInfo.ContactIDNum FROM MissingInfo WHERE "
-                     "MissingInfoID="},
-        ClientLookup{"getCompanyIDFromCommunicationLogID", mod::getCompanyIDFromCommunicationLogID,
-                     "CommunicationLog", "CompanyIDNum",
-                     "SELECT CommunicationLog.CommunicationLogID, CommunicationLog.CompanyIDNum FROM "
-                     "CommunicationLog WHERE CommunicationLogID="},
-        ClientLookup{"getContactIDFromCommunicationLogID", mod::getContactIDFromCommunicationLogID,
-                     "CommunicationLog", "ContactIDNum",
-                     "SELECT CommunicationLog.CommunicationLogID, CommunicationLog.ContactIDNum FROM "
-                     "CommunicationLog WHERE CommunicationLogID="}),
+    testing::Values(ClientLookup{"getCompanyIDFromTaskID", mod::getCompanyIDFromTaskID, "Tasks", "CompanyIDNum",
+                                 "SELECT Tasks.TaskID, Tasks.CompanyIDNum FROM Tasks WHERE TaskID="},
+                    ClientLookup{"getContactIDFromTaskID", mod::getContactIDFromTaskID, "Tasks", "ContactIDNum",
+                                 "SELECT Tasks.TaskID, Tasks.ContactIDNum FROM Tasks WHERE TaskID="},
+                    ClientLookup{"getCompanyIDFromAppointmentID", mod::getCompanyIDFromAppointmentID, "Appointments",
+                                 "CompanyIDNum",
+                                 "SELECT Appointments.AppointmentID, Appointments.CompanyIDNum FROM Appointments WHERE "
+                                 "AppointmentID="},
+                    ClientLookup{"getContactIDFromAppointmentID", mod::getContactIDFromAppointmentID, "Appointments",
+                                 "ContactIDNum",
+                                 "SELECT Appointments.AppointmentID, Appointments.ContactIDNum FROM Appointments WHERE "
+                                 "AppointmentID="},
+                    ClientLookup{"getCompanyIDFromMissingInfoID", mod::getCompanyIDFromMissingInfoID, "MissingInfo",
+                                 "CompanyIDNum",
+                                 "SELECT MissingInfo.MissingInfoID, MissingInfo.CompanyIDNum FROM MissingInfo WHERE "
+                                 "MissingInfoID="},
+                    ClientLookup{"getContactIDFromMissingInfoID", mod::getContactIDFromMissingInfoID, "MissingInfo",
+                                 "ContactIDNum",
+                                 "SELECT MissingInfo.MissingInfoID, MissingInfo.ContactIDNum FROM MissingInfo WHERE "
+                                 "MissingInfoID="},
+                    ClientLookup{"getCompanyIDFromCommunicationLogID", mod::getCompanyIDFromCommunicationLogID,
+                                 "CommunicationLog", "CompanyIDNum",
+                                 "SELECT CommunicationLog.CommunicationLogID, CommunicationLog.CompanyIDNum FROM "
+                                 "CommunicationLog WHERE CommunicationLogID="},
+                    ClientLookup{"getContactIDFromCommunicationLogID", mod::getContactIDFromCommunicationLogID,
+                                 "CommunicationLog", "ContactIDNum",
+                                 "SELECT CommunicationLog.CommunicationLogID, CommunicationLog.ContactIDNum FROM "
+                                 "CommunicationLog WHERE CommunicationLogID="}),
     test::rowName);
 
 // Series and groups.
@@ -146,7 +142,7 @@ TEST_P(TieTest, ReadsTheNumberByKind)
 {
     for (const char* table : {"Appointments", "Tasks", "Dockets"}) {
         const auto kind = static_cast<enumLocalCalendarItemType>(table == std::string("Appointments") ? 0
-                                                                     : table == std::string("Tasks")  ? 1
+                                                                 : table == std::string("Tasks")      ? 1
                                                                                                       : 2);
         const std::int32_t tied = addRow(table, {{GetParam().column, "6"}});
         const std::int32_t free = addRow(table, {{GetParam().column, "0"}});

@@ -172,8 +172,8 @@ TEST(GuidTest, ReadsItsTextAndNothingElse)
     EXPECT_EQ(id.data2, 0x89ab);
     EXPECT_EQ(id.data3, 0xcdef);
     EXPECT_EQ(id.data4, (std::array<std::uint8_t, 8>{0x01, 0x23, 0x45, 0x67, 0x89, 0xab, 0xcd, 0xef}));
-    for (const char* text : {"", "01234567", "01234567-89ab-cdef-0123-456789abcdeg", "01234567+89ab-cdef-0123-456789abcdef",
-                             "{01234567-89ab-cdef-0123-456789abcdef}"})
+    for (const char* text : {"", "01234567", "01234567-89ab-cdef-0123-456789abcdeg",
+                             "01234567+89ab-cdef-0123-456789abcdef", "{01234567-89ab-cdef-0123-456789abcdef}"})
         EXPECT_FALSE(parseGuid(text)) << text;
 }
 

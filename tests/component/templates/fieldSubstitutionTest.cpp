@@ -1,7 +1,7 @@
+#include "templates/fieldSubstitution.h"
 #include "component/templates/randomTemplate.h"
 #include "support/randomSeed.h"
 #include "templates/clsInsertFieldsInRTB.h"
-#include "templates/fieldSubstitution.h"
 #include "templates/unfoundFields.h"
 
 #include <gtest/gtest.h>
@@ -48,10 +48,11 @@ TEST(fieldSubstitutionTest, GivesWhatTryingEveryRowGives)
 
         std::string expected = text;
         Asked plainAsked;
-        const bool expectedReplaced = plainPass(expected, pair, fields, richText, [&](std::size_t i, const auto& format) {
-            plainAsked.add(i, format);
-            return values[i];
-        });
+        const bool expectedReplaced =
+            plainPass(expected, pair, fields, richText, [&](std::size_t i, const auto& format) {
+                plainAsked.add(i, format);
+                return values[i];
+            });
         std::string merged = text;
         Asked asked;
         FieldListCollection list = listOf(fields);

@@ -343,6 +343,31 @@ TEST_F(SqliteDatabaseTest, TheNextProgramGoesOnWithTheNextKey)
     EXPECT_EQ(store->getField(handle, "AppointmentID"), Variant(2));
 }
 
+TEST_F(SqliteDatabaseTest, ARecordThatAnSqlToolAddsTakesNoKeyThatWasGiven)
+{
+    auto store = SqliteDatabase::create(path_);
+    const auto handle = openUpdatable(*store, allAppointments);
+    store->addNew(handle);
+    runElsewhere(path_, "INSERT INTO Appointments (Subject) VALUES ('theirs')");
+    store->update(handle);
+    addAppointment(*store, "Mine");
+    EXPECT_EQ(appointmentCount(*store), 3);
+}
+
+TEST_F(SqliteDatabaseTest, AKeyThatTheCallerChoseIsNotGivenAgain)
+{
+    auto store = SqliteDatabase::create(path_);
+    const auto handle = openUpdatable(*store, "SELECT archiveTasks.* FROM archiveTasks;");
+    store->addNew(handle);
+    store->setNewField(handle, "oldTaskID", "3");
+    store->update(handle);
+    for (int i = 0; i < 5; ++i) {
+        store->addNew(handle);
+        store->update(handle);
+    }
+    EXPECT_EQ(store->getRecordCount(handle), 6);
+}
+
 TEST_F(SqliteDatabaseTest, AMoveSeesWhatAnotherProcessWrote)
 {
     auto mine = SqliteDatabase::create(path_);

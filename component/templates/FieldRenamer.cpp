@@ -1,0 +1,69 @@
+#include "templates/FieldRenamer.h"
+
+#include "utilities/replaceText.h"
+#include "utilities/text.h"
+
+namespace qncal {
+
+namespace {
+
+char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+std::size_t pairOf(char first, char second)
+{
+    return static_cast<std::size_t>(static_cast<std::uint8_t>(first)) << 8 | static_cast<std::uint8_t>(second);
+}
+
+} // namespace
+
+FieldRenamer::FieldRenamer(std::vector<FieldRenaming> lines) : lines_(std::move(lines))
+{
+    for (Line line = 0; line < lines_.size(); ++line) {
+        const std::string_view text = lines_[line].oldText.view();
+        for (const char first : {lowerAscii(text[0]), upperAscii(text[0])}) {
+            firstBytes_.set(static_cast<std::uint8_t>(first));
+            for (const char second : {lowerAscii(text[1]), upperAscii(text[1])})
+                firstPairs_.set(pairOf(first, second));
+        }
+        auto& place = text.size() < prefixLength ? shortLines_ : buckets_[bucketOf(text)];
+        place.push_back(line);
+    }
+}
+
+void FieldRenamer::apply(std::string& text) const
+{
+    for (Line line = firstMatching(text, 0); line != none; line = firstMatching(text, static_cast<Line>(line + 1)))
+        replaceNoCase(text, lines_[line].oldText.view(), lines_[line].newText.view());
+}
+
+/// The first line at or after `from` whose old text occurs.
+FieldRenamer::Line FieldRenamer::firstMatching(std::string_view text, Line from) const
+{
+    Line first = none;
+    const auto look = [&](const std::vector<Line>& place, std::string_view here) {
+        for (const Line line : place) {
+            const std::string_view oldText = lines_[line].oldText.view();
+            if (line >= from && line < first && equalsNoCase(here.substr(0, oldText.size()), oldText))
+                first = line;
+        }
+    };
+    for (std::size_t at = 0; at + 1 < text.size(); ++at) {
+        if (!firstBytes_[static_cast<std::uint8_t>(text[at])] || !firstPairs_[pairOf(text[at], text[at + 1])])
+            continue;
+        const std::string_view here = text.substr(at);
+        look(shortLines_, here);
+        if (here.size() >= prefixLength)
+            look(buckets_[bucketOf(here)], here);
+    }
+    return first;
+}
+
+std::size_t FieldRenamer::bucketOf(std::string_view text)
+{
+    std::uint32_t hash = 2166136261U;
+    for (std::size_t i = 0; i < prefixLength; ++i)
+        hash = (hash ^ static_cast<std::uint8_t>(lowerAscii(text[i]))) * 16777619U;
+    return (hash ^ hash >> 16) % bucketCount;
+}
+
+} // namespace qncal
