@@ -19,8 +19,8 @@ void storeFirmTemplate(DatabaseService& database, enumLocalCalendarItemType kind
 {
     const std::string column =
         std::string(calendarItemKind(kind).tableText) + (which == ItemText::titleBar ? "TitleBarText" : "Template");
-    host::Rows firm = host::Rows::change(
-        database, "SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum = -1;");
+    host::Rows firm =
+        host::Rows::change(database, "SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum = -1;");
     if (firm.isEmpty())
         host::addRow(database, "UserCalendarSettings", {{"UserIDNum", "-1"}, {column, text}});
     else

@@ -135,8 +135,7 @@ void generateHolidays(CommandContext& context, int year, int years)
     host::HostEnvironment& host = context.host();
     std::vector<StatutoryHoliday> added;
     for (int i = 0; i < years; ++i) {
-        for (StatutoryHoliday& holiday :
-             host::addStatutoryHolidays(host.database(), host.locale().values(), first + i))
+        for (StatutoryHoliday& holiday : host::addStatutoryHolidays(host.database(), host.locale().values(), first + i))
             added.push_back(std::move(holiday));
     }
     printHolidays(context, added);

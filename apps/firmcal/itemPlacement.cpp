@@ -79,12 +79,13 @@ void addPlacementCommands(CLI::App& item, CommandContext& context)
     auto bestTimeOptions = std::make_shared<BestTimeOptions>();
     addReference(*bestTime, bestTimeOptions->item);
     bestTime->add_flag("--apply", bestTimeOptions->apply, "Move the item there");
-    bestTime->footer("The first room for its length among the user's items of its kind, from 9:00 to 17:00; the item's\n"
-                     "own place counts as taken. A day without room gives its first gap of any size, or else an hour\n"
-                     "by chance.\n"
-                     "Examples:\n"
-                     "  firmcal item best-time 12\n"
-                     "  firmcal item best-time 7 --kind task --apply");
+    bestTime->footer(
+        "The first room for its length among the user's items of its kind, from 9:00 to 17:00; the item's\n"
+        "own place counts as taken. A day without room gives its first gap of any size, or else an hour\n"
+        "by chance.\n"
+        "Examples:\n"
+        "  firmcal item best-time 12\n"
+        "  firmcal item best-time 7 --kind task --apply");
     bestTime->callback([&context, bestTimeOptions] { findBestTime(context, *bestTimeOptions); });
 
     CLI::App* move = item.add_subcommand("move", "Move an item to another day");

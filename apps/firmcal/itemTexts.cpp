@@ -59,7 +59,8 @@ void addRenderCommand(CLI::App& item, CommandContext& context)
     CLI::App* command = item.add_subcommand("render", "Show the texts of an item as the calendar shows them");
     auto options = std::make_shared<RenderOptions>();
     addReference(*command, options->item);
-    command->add_flag("--rtf", options->rich, "The texts as they are, rich text included, instead of what they read as");
+    command->add_flag("--rtf", options->rich,
+                      "The texts as they are, rich text included, instead of what they read as");
     CLI::Option* title = command->add_flag("--title", options->title, "The text of the title bar alone");
     command->add_flag("--display", options->display, "The display text alone")->excludes(title);
     command->footer("The texts are made from the firm's templates; see 'firmcal template --help'.\n"

@@ -36,8 +36,7 @@ struct FirmOptions {
 void addListOption(CLI::App& command, std::string& kind)
 {
     command
-        .add_option("-k,--kind", kind,
-                    "appointment (the default), task, docket; for letters company, contact, address")
+        .add_option("-k,--kind", kind, "appointment (the default), task, docket; for letters company, contact, address")
         ->type_name("KIND");
 }
 

@@ -75,7 +75,7 @@ bool isGiven(const TemplateSource& source) { return source.hasText || !source.fi
 
 std::string readTemplate(CommandContext& context, const TemplateSource& source)
 {
-    std::string text = source.hasText      ? source.text
+    std::string text = source.hasText       ? source.text
                        : source.file == "-" ? contents(context.streams().in)
                                             : fileContents(source.file);
     if (isRichTextStream(text))

@@ -47,8 +47,7 @@ void addHoliday(DatabaseService& database, const StatutoryHoliday& holiday)
 
 void removeHoliday(DatabaseService& database, std::int32_t id)
 {
-    Rows rows =
-        Rows::change(database, "SELECT Holidays.* FROM Holidays WHERE HolidayID=" + std::to_string(id) + ";");
+    Rows rows = Rows::change(database, "SELECT Holidays.* FROM Holidays WHERE HolidayID=" + std::to_string(id) + ";");
     if (!rows.isEmpty())
         rows.deleteCurrent();
 }

@@ -22,8 +22,8 @@ TEST_F(HolidayCommandsTest, GeneratesTheHolidaysOfTheFirmsRegion)
 
 TEST_F(HolidayCommandsTest, GeneratesSeveralYearsOfAnotherRegion)
 {
-    const Json generated = Json::parse(
-        output({"holidays", "generate", "--year", "2030", "--years", "2", "--country", "US", "--json"}));
+    const Json generated =
+        Json::parse(output({"holidays", "generate", "--year", "2030", "--years", "2", "--country", "US", "--json"}));
     const auto holds = [&](const char* date, const char* name) {
         return std::ranges::find(generated, Json({{"date", date}, {"name", name}, {"type", "national"}}))
                != generated.end();
@@ -33,8 +33,7 @@ TEST_F(HolidayCommandsTest, GeneratesSeveralYearsOfAnotherRegion)
     EXPECT_EQ(Json::parse(output({"holidays", "list", "--year", "2030", "--json"})).size()
                   + Json::parse(output({"holidays", "list", "--year", "2031", "--json"})).size(),
               generated.size());
-    EXPECT_EQ(output({"holidays", "list"}),
-              "No holidays in 2026; 'firmcal holidays generate' adds those by law.\n");
+    EXPECT_EQ(output({"holidays", "list"}), "No holidays in 2026; 'firmcal holidays generate' adds those by law.\n");
     EXPECT_EQ(output({"holidays", "list", "--json"}), "[]\n");
 }
 
@@ -88,7 +87,8 @@ TEST_P(BusinessDaysTest, PassesOverWeekendsAndHolidays)
 {
     succeed({"holidays", "add", "2026-04-03", "Good Friday"});
     succeed({"holidays", "add", "2026-03-10", "Working day", "--type", "working"});
-    EXPECT_EQ(output({"day", "add", GetParam().days, "--from", GetParam().from}), std::string(GetParam().expected) + "\n");
+    EXPECT_EQ(output({"day", "add", GetParam().days, "--from", GetParam().from}),
+              std::string(GetParam().expected) + "\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(All, BusinessDaysTest,

@@ -27,12 +27,11 @@ TEST_F(ItemPlacementTest, ProposesTheFirstRoomForTheItemsLength)
     add("12:45", "13:30");
     const std::string before = times("3");
     EXPECT_EQ(output({"item", "best-time", "3"}), "Best time for appointment 3: Tue, Mar 3, 2026, 12:00-12:45, Call\n");
-    EXPECT_EQ(Json::parse(output({"item", "best-time", "3", "--json"})),
-              Json({{"kind", "appointment"},
-                    {"itemID", 3},
-                    {"DateFrom", "2026-03-03"},
-                    {"TimeFrom", "12:00"},
-                    {"TimeTo", "12:45"}}));
+    EXPECT_EQ(Json::parse(output({"item", "best-time", "3", "--json"})), Json({{"kind", "appointment"},
+                                                                               {"itemID", 3},
+                                                                               {"DateFrom", "2026-03-03"},
+                                                                               {"TimeFrom", "12:00"},
+                                                                               {"TimeTo", "12:45"}}));
     EXPECT_EQ(times("3"), before) << "only proposed";
 }
 

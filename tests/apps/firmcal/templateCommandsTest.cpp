@@ -61,7 +61,8 @@ TEST_F(TemplateCommandsTest, FieldsAsJsonHaveAllThatTheCatalogueKnows)
 TEST_F(TemplateCommandsTest, CustomFieldsHaveTheFirmsOwnNames)
 {
     succeed({"demo", (folder() / "demo.db").string(), "--items", "0"});
-    const std::string fields = output({"template", "fields", "Location", "--database", (folder() / "demo.db").string()});
+    const std::string fields =
+        output({"template", "fields", "Location", "--database", (folder() / "demo.db").string()});
     EXPECT_NE(fields.find("«Location»"), std::string::npos) << fields;
 }
 
@@ -272,7 +273,9 @@ TEST_F(TemplateCommandsTest, AFileFromAnotherSystemIsTakenWithItsMarkAndLineEnds
 
 TEST_F(TemplateCommandsTest, BytesThatAreNoTextAreRefused)
 {
-    EXPECT_EQ(errorOf({"template", "set", fileWith("\xAB" "Company Name\xBB")}),
+    EXPECT_EQ(errorOf({"template", "set",
+                       fileWith("\xAB"
+                                "Company Name\xBB")}),
               "firmcal: the template is neither UTF-8 text nor rich text\n");
     EXPECT_EQ(errorOf({"template", "check", (folder() / "nowhere.txt").string()}),
               "firmcal: cannot read " + (folder() / "nowhere.txt").string() + "\n");
