@@ -16,7 +16,7 @@ protected:
     }
     std::string times(const std::string& id)
     {
-        return rows("SELECT DateFrom, TimeFrom, TimeTo, TimeDuration FROM Appointments WHERE AppointmentID=" + id);
+        return rows("SELECT DateFrom, TimeFrom, TimeTo FROM Appointments WHERE AppointmentID=" + id);
     }
 };
 
@@ -41,8 +41,7 @@ TEST_F(ItemPlacementTest, AppliesTheProposalAndKeepsTheLength)
     add("16:00", "16:30");
     EXPECT_EQ(output({"item", "best-time", "2", "--apply"}),
               "Moved appointment 2: Tue, Mar 3, 2026, 10:00-10:30, Call\n");
-    EXPECT_EQ(times("2"), "{\"DateFrom\":\"2026-03-03\",\"TimeFrom\":\"10:00:00\",\"TimeTo\":\"10:30:00\","
-                          "\"TimeDuration\":0.5}\n");
+    EXPECT_EQ(times("2"), "{\"DateFrom\":\"2026-03-03\",\"TimeFrom\":\"10:00:00\",\"TimeTo\":\"10:30:00\"}\n");
 }
 
 TEST_F(ItemPlacementTest, TheItemsOwnPlaceIsTaken)
@@ -63,8 +62,7 @@ TEST_F(ItemPlacementTest, MovesToAnotherDayAtTheSameTime)
     add("9:30", "10:45");
     EXPECT_EQ(output({"item", "move", "1", "--to", "friday"}),
               "Moved appointment 1: Fri, Mar 6, 2026, 09:30-10:45, Call\n");
-    EXPECT_EQ(times("1"), "{\"DateFrom\":\"2026-03-06\",\"TimeFrom\":\"09:30:00\",\"TimeTo\":\"10:45:00\","
-                          "\"TimeDuration\":1.25}\n");
+    EXPECT_EQ(times("1"), "{\"DateFrom\":\"2026-03-06\",\"TimeFrom\":\"09:30:00\",\"TimeTo\":\"10:45:00\"}\n");
 }
 
 TEST_F(ItemPlacementTest, MovesToAnHourAndKeepsTheMinutes)
