@@ -29,7 +29,9 @@ std::string clsInsertFieldsInRTB::getDataFieldInfo(std::int32_t key, const std::
         if (value.empty())
             return value;
         std::string text = mergeValueText(std::move(value), type, format);
-        return !text.empty() && convertStrToRTF_ ? convertToRTF(std::move(text)) : text;
+        // Most values have no line breaks, and a routine for each would tell in a merge of many fields.
+        const bool converts = convertStrToRTF_ && text.find("\r\n") != std::string::npos;
+        return converts ? convertToRTF(std::move(text)) : text;
     });
 }
 

@@ -42,7 +42,7 @@ TEST(fieldSubstitutionTest, GivesWhatTryingEveryRowGives)
         std::vector<std::optional<std::string>> values;
         for (std::size_t i = 0; i < fields.size(); ++i)
             values.push_back(random.oneIn(5) ? std::nullopt : std::optional(random.text(fields, 3)));
-        const std::string text = random.text(fields, 14);
+        const std::string text = random.oneIn(4) ? random.denseText(20) : random.text(fields, 14);
         const bool richText = random.oneIn(2);
         const DelimiterPair& pair = random.oneIn(2) ? richDelimiters : plainDelimiters;
 
@@ -72,7 +72,7 @@ TEST(unfoundFieldsTest, RemovesWhatRemovingOneByOneRemoves)
     RandomTemplate random(seed);
     const std::vector<PlainField> fields{{"A", false}, {"", false}};
     for (int run = 0; run < 100000; ++run) {
-        const std::string text = random.text(fields, 30);
+        const std::string text = random.oneIn(2) ? random.denseText(40) : random.text(fields, 30);
         std::string expected = text;
         plainBlanking(expected);
         std::string removed = text;

@@ -35,6 +35,17 @@ std::string RandomTemplate::text(const std::vector<PlainField>& fields, int most
     return text;
 }
 
+std::string RandomTemplate::denseText(int mostPieces)
+{
+    constexpr std::array<std::string_view, 6> plain{"«", "«", "»", "A", "«A»", "\xC2"};
+    constexpr std::array<std::string_view, 8> rich{"\\'ab", "\\'ab", "\\'bb", "A", "\\'abA\\'bb", "\\", "'a", "b"};
+    const bool isRich = oneIn(2);
+    std::string text;
+    for (int pieces = below(mostPieces + 1); pieces > 0; --pieces)
+        text += isRich ? rich[static_cast<std::size_t>(below(8))] : plain[static_cast<std::size_t>(below(6))];
+    return text;
+}
+
 std::string RandomTemplate::piece(const std::vector<PlainField>& fields)
 {
     if (oneIn(2))
