@@ -8,7 +8,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace qncal::firmcal {
 
@@ -53,11 +52,11 @@ std::string sectionHeading(const std::string& heading)
 void mergeInto(std::vector<DocumentedField>& documented, const std::vector<MergeField>& fields, Region region)
 {
     auto place = documented.end();
-    for (const MergeField& field : std::views::reverse(fields)) {
+    for (auto field = fields.rbegin(); field != fields.rend(); ++field) {
         const auto found = std::ranges::find_if(documented, [&](const DocumentedField& known) {
-            return known.field.name == field.name && known.field.databaseField == field.databaseField;
+            return known.field.name == field->name && known.field.databaseField == field->databaseField;
         });
-        place = found != documented.end() ? found : documented.insert(place, {field, {}});
+        place = found != documented.end() ? found : documented.insert(place, {*field, {}});
         if (place->regions.empty() || place->regions.back() != region)
             place->regions.push_back(region);
     }
