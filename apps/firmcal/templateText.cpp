@@ -10,6 +10,7 @@
 #include "utilities/replaceText.h"
 #include "utilities/utf8.h"
 
+#include <filesystem>
 #include <fstream>
 #include <istream>
 #include <iterator>
@@ -25,10 +26,9 @@ std::string contents(std::istream& in) { return {std::istreambuf_iterator<char>(
 std::string fileContents(const std::string& name)
 {
     std::ifstream file(name, std::ios::binary);
-    std::string text = contents(file);
-    if (!file.is_open() || file.bad())
+    if (!file.is_open() || std::filesystem::is_directory(name))
         throw Failure("cannot read " + name);
-    return text;
+    return contents(file);
 }
 
 bool isUtf8(std::string_view text)

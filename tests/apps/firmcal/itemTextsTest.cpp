@@ -66,7 +66,7 @@ TEST_F(ItemTextsTest, EachKindHasItsOwnTemplate)
 {
     succeed({"item", "add", "File T2", "--kind", "task"});
     succeed({"item", "add", "Bookkeeping", "--kind", "docket"});
-    EXPECT_EQ(output({"item", "render", "1", "--kind", "task", "--display"}), " File T2 for \n 9:00 am to 10:00 am\n");
+    EXPECT_EQ(output({"item", "render", "1", "--kind", "task", "--display"}), "File T2 for \n 9:00 am to 10:00 am\n");
     EXPECT_EQ(output({"item", "render", "1", "--kind", "docket", "--display"}),
               "9:00 am to 10:00 am\n \n Bookkeeping\n");
 }

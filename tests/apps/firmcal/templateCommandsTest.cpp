@@ -133,6 +133,13 @@ TEST_F(TemplateCommandsTest, ChecksRichTextByItsOwnDelimiters)
               "firmcal: The firmcal Pad did not recognize: «Compny Name» as a valid placeholder field name.\n");
 }
 
+TEST_F(TemplateCommandsTest, AFieldWhoseNameEndsInARoundBracketIsTakenForADate)
+{
+    const std::string text = "«Time From (Actual Time)»";
+    EXPECT_EQ(errorOf({"template", "check", "--kind", "docket", "--text", text}),
+              "firmcal: You are missing the opening round bracket, '(' in one of your date expressions\n");
+}
+
 TEST_F(TemplateCommandsTest, CheckAsJson)
 {
     EXPECT_EQ(Json::parse(output({"template", "check", "--json"})), Json({{"clean", true}}));
