@@ -8,6 +8,7 @@
 #include "firmcal/itemChanges.h"
 #include "firmcal/itemKind.h"
 #include "firmcal/valueText.h"
+#include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>
 
@@ -219,7 +220,7 @@ void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemT
 
 void save(CommandContext& context, clsCalendarItem& item, std::string_view done)
 {
-    const bool saved = item.saveCalendarItem();
+    const bool saved = host::saveItem(item);
     context.throwIfComponentFailed();
     if (!saved)
         throw Failure("the item was not saved");

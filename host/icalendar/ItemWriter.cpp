@@ -3,6 +3,7 @@
 #include "icalendar/itemFields.h"
 #include "icalendar/notesBlock.h"
 #include "services/Rows.h"
+#include "services/saveItem.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/numberText.h"
@@ -137,7 +138,7 @@ void ItemWriter::fillNotes(clsCalendarItem& item, const Row& row)
 void ItemWriter::save(clsCalendarItem& item)
 {
     const std::size_t errorsBefore = host_.errors().reportCount();
-    const bool saved = item.saveCalendarItem();
+    const bool saved = saveItem(item);
     // A save schedules the reminder of an appointment alone.
     if (saved && item.calendarItemType() == enumLocalCalendarTaskItem)
         item.schedulePopupReminderForItem();
