@@ -4,6 +4,8 @@
 #include "utilities/dateText.h"
 
 #include <cstdlib>
+#include <stdexcept>
+#include <system_error>
 #include <utility>
 
 namespace qncal::bench {
@@ -43,11 +45,23 @@ std::string sampleValue(const schema::Column& column, int number)
     }
 }
 
-BenchFile::BenchFile()
+TemporaryFolder::TemporaryFolder()
 {
     std::string name = (std::filesystem::temp_directory_path() / "qncalBenchXXXXXX").string();
-    folder_ = mkdtemp(name.data());
-    const std::string path = (folder_ / "store.db").string();
+    if (!mkdtemp(name.data()))
+        throw std::runtime_error("no temporary folder");
+    path_ = name;
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+BenchFile::BenchFile()
+{
+    const std::string path = folder_.file("store.db");
     store_ = host::SqliteDatabase::create(path);
     const std::pair<std::string_view, int> counts[] = {{"Appointments", itemCount},
                                                        {"Tasks", itemCount},
@@ -67,8 +81,6 @@ BenchFile::~BenchFile()
     for (const auto& [sql, statement] : statements_)
         sqlite3_finalize(statement);
     sqlite3_close(raw_);
-    store_.reset();
-    std::filesystem::remove_all(folder_);
 }
 
 BenchFile& BenchFile::shared()

@@ -6,6 +6,7 @@
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
+#include <memory>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -18,9 +19,11 @@ namespace {
 using bench::BenchFile;
 using bench::bindTexts;
 using bench::compareWith;
+using bench::HeapUse;
 using bench::itemCount;
 using bench::run;
 using bench::sampleValue;
+using bench::TemporaryFolder;
 
 const std::string allTasks = "SELECT Tasks.* FROM Tasks;";
 
@@ -144,22 +147,39 @@ void storeAdd(benchmark::State& state)
 }
 BENCHMARK(storeAdd)->Iterations(2000);
 
+/// A database file whose table of holidays has so many rows.
+std::unique_ptr<SqliteDatabase> openFilled(const TemporaryFolder& folder, int rows)
+{
+    const std::string path = folder.file("store.db");
+    SqliteDatabase::create(path)->close();
+    sqlite3* raw = nullptr;
+    sqlite3_open(path.c_str(), &raw);
+    const std::string fill = "WITH RECURSIVE row(number) AS (SELECT 1 UNION ALL SELECT number + 1 FROM row LIMIT "
+                             + std::to_string(rows)
+                             + ") INSERT INTO Holidays (HolidayDate, HolidayType) SELECT '2026-01-01', 1 FROM row";
+    sqlite3_exec(raw, fill.c_str(), nullptr, nullptr, nullptr);
+    sqlite3_close(raw);
+    return SqliteDatabase::open(path);
+}
+
 /// Opening all of a table to add to it; the record is abandoned, so that the table keeps its size.
 void openForAdding(benchmark::State& state, int rows)
 {
-    const auto store = SqliteDatabase::openInMemory();
-    const auto filler = openUpdatable(*store, "SELECT Holidays.* FROM Holidays;");
-    for (int row = 0; row < rows; ++row) {
-        store->addNew(filler);
-        store->update(filler);
-    }
-    store->closeRecordset(filler);
-    for (auto _ : state) {
+    const TemporaryFolder folder;
+    const auto store = openFilled(folder, rows);
+    const auto openOne = [&store] {
         const auto handle = openUpdatable(*store, "SELECT Holidays.* FROM Holidays;");
         store->addNew(handle);
         store->setNewField(handle, "HolidayType", "1");
-        store->closeRecordset(handle);
-    }
+        return handle;
+    };
+    HeapUse heap;
+    const auto first = openOne();
+    heap.note();
+    store->closeRecordset(first);
+    for (auto _ : state)
+        store->closeRecordset(openOne());
+    heap.report(state);
 }
 
 void storeOpenForAddingTo10(benchmark::State& state) { openForAdding(state, 10); }
@@ -205,6 +225,17 @@ void dialectLookUp(benchmark::State& state)
     }
 }
 BENCHMARK(dialectLookUp);
+
+/// The same through the store: a record set is opened by a statement of a known shape, read nothing of, and closed.
+void storeOpenKnownShape(benchmark::State& state)
+{
+    compareWith(state, "dialectPrepareRaw", 0.2);
+    SqliteDatabase& store = file().store();
+    for (auto _ : state)
+        store.closeRecordset(
+            store.openRecordset(longSelect, 1, DatabaseService::readOnly, true, {}, true));
+}
+BENCHMARK(storeOpenKnownShape);
 
 } // namespace
 } // namespace qncal::host
