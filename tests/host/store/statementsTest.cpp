@@ -1,9 +1,10 @@
 #include "host/store/smallFirm.h"
 #include "host/store/statementRows.h"
-#include "lookups/mainBusinessQuery.h"
-#include "support/TestServices.h"
 
+#include "core/ServiceRegistry.h"
+#include "lookups/mainBusinessQuery.h"
 #include "store/SqliteDatabase.h"
+#include "support/TestServices.h"
 #include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
