@@ -16,8 +16,6 @@ namespace {
 
 /// Texts that differ in more than their literals are few; lists of IN may make many shapes.
 constexpr std::size_t mostPlans = 512;
-/// The log is written back in quiet moments; when none comes, a busy program does it at this length (64 MiB).
-constexpr int mostLogPages = 16384;
 
 std::string_view textArgument(sqlite3_value* value)
 {
@@ -73,6 +71,7 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
                          std::span<const schema::Table> tables, std::int32_t version, const Limits& limits)
     : connection_(openConnection(path, access, tables, version, limits)), logPages_(std::make_unique<int>(0)),
+      mostLogPages_(limits.longestLog / connection_.queryInteger("PRAGMA page_size")),
       catalogue_(tables, connection_)
 {
     sqlite3_wal_hook(
@@ -109,7 +108,7 @@ void StoreEngine::checkpoint()
 
 void StoreEngine::recordSetClosed()
 {
-    if (*logPages_ > mostLogPages)
+    if (*logPages_ > mostLogPages_)
         checkpoint();
     if (handles_.openCount() > 0)
         return;
