@@ -4,6 +4,7 @@
 #include "utilities/text.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 namespace qncal::host {
@@ -25,9 +26,8 @@ public:
 
     SelectPlan::Parts plan()
     {
-        for (const FromNode& node : select_.from) {
+        for (const FromNode& node : select_.from)
             collectTables(node);
-        }
         parts_.distinct = select_.distinct;
         parts_.top = select_.top;
         for (const FromNode& node : select_.from)
@@ -39,7 +39,7 @@ public:
             dialect::failAt(sql_, 0, "no columns");
         grouping();
         ordering();
-        parts_.byKey = !parts_.distinct && !grouped_ && parts_.tail.empty();
+        parts_.byKey = !parts_.distinct && parts_.tail.empty() && !hasAggregate();
         parts_.singleRecord = parts_.byKey && parts_.tables.size() == 1 && select_.where && givesKey(*select_.where);
         return std::move(parts_);
     }
@@ -125,7 +125,20 @@ private:
         return parts_.tables[found.table]->column(found.column);
     }
 
-    /// The expression that a bare name stands for when it is an alias of the column list.
+    /// What an expression stands for: a bare name that no table has may be an alias of the column list, and that
+    /// of another. None for a name that nobody knows.
+    const Expression* meant(const Expression& expression) const
+    {
+        const Expression* found = &expression;
+        // Aliases that stand for each other would go round for ever.
+        for (std::size_t steps = 0; found && steps <= select_.items.size(); ++steps) {
+            if (found->kind != Kind::column || findColumn(*found))
+                return found;
+            found = aliased(*found);
+        }
+        return nullptr;
+    }
+
     const Expression* aliased(const Expression& column) const
     {
         if (!column.qualifier.empty())
@@ -136,13 +149,23 @@ private:
         return nullptr;
     }
 
-    std::optional<ColumnType> typeOf(const Expression& expression) const
+    bool isTableColumn(const Expression& expression) const
     {
+        const Expression* const found = meant(expression);
+        return found && found->kind == Kind::column;
+    }
+
+    /// The type of an expression, none when only its values tell.
+    std::optional<ColumnType> typeOf(const Expression& written) const
+    {
+        const Expression* const found = meant(written);
+        if (!found)
+            return std::nullopt;
+        const Expression& expression = *found;
         switch (expression.kind) {
-        case Kind::column: {
-            const auto found = findColumn(expression);
-            return found ? std::optional(schemaColumn(*found).type) : std::nullopt;
-        }
+        case Kind::column:
+            return schemaColumn(*findColumn(expression)).type;
+        case Kind::comparison:
         case Kind::boolean:
         case Kind::logicalNot:
         case Kind::like:
@@ -150,12 +173,8 @@ private:
         case Kind::between:
         case Kind::isNull:
             return ColumnType::boolean;
-        case Kind::binary: {
-            static constexpr std::string_view arithmetic = "+-*/&";
-            if (arithmetic.find(expression.name) == std::string_view::npos)
-                return ColumnType::boolean;
-            return std::nullopt;
-        }
+        case Kind::chain:
+            return isLogical(expression) ? std::optional(ColumnType::boolean) : std::nullopt;
         case Kind::call:
             if (expression.name == "MIN" || expression.name == "MAX")
                 return typeOf(expression.operands.front());
@@ -164,6 +183,8 @@ private:
             return std::nullopt;
         }
     }
+
+    static bool isLogical(const Expression& chain) { return chain.name == "AND" || chain.name == "OR"; }
 
     LiteralUse useWith(const Expression& other) const
     {
@@ -177,17 +198,52 @@ private:
 
     std::string literal(const Expression& expression, LiteralUse use)
     {
+        if (use != LiteralUse::plain && expression.literalKind == dialect::LiteralKind::text)
+            dialect::failAt(sql_, expression.offset,
+                            use == LiteralUse::boolean ? "a boolean is compared with a text"
+                                                       : "a date is compared with a text");
         parts_.bindings.push_back({expression.literal, expression.negative, use});
         return "?" + std::to_string(parts_.bindings.size());
     }
 
+    /// What stands beside `other` in a comparison.
     std::string operand(const Expression& expression, const Expression& other)
     {
-        if (expression.kind != Kind::literal)
-            return text(expression);
-        const std::string parameter = literal(expression, useWith(other));
-        // Without a column that brings its own order, texts still compare as they do in columns.
-        return other.kind != Kind::column ? parameter + " COLLATE NOCASE" : parameter;
+        return expression.kind == Kind::literal ? literal(expression, useWith(other)) : text(expression);
+    }
+
+    /// The left side of a comparison, which brings the order of texts unless a column of a table does.
+    std::string subject(const Expression& expression, const Expression& other)
+    {
+        std::string written = operand(expression, other);
+        return isTableColumn(expression) || isTableColumn(other) ? written : written + " COLLATE NOCASE";
+    }
+
+    /// A term to sort or group by: texts have one order, whether or not they come straight from a column.
+    std::string sortable(const Expression& expression)
+    {
+        return isTableColumn(expression) ? text(expression) : text(expression) + " COLLATE NOCASE";
+    }
+
+    /// The engine would take numbers out of the texts in which dates are stored, and True is -1 in the dialect.
+    std::string number(const Expression& expression)
+    {
+        const auto type = typeOf(expression);
+        const bool isLiteral = expression.kind == Kind::literal;
+        const auto is = [&](dialect::LiteralKind literal, std::initializer_list<ColumnType> types) {
+            return (isLiteral && expression.literalKind == literal)
+                   || (type && std::ranges::find(types, *type) != types.end());
+        };
+        const char* wrong = nullptr;
+        if (is(dialect::LiteralKind::date, {ColumnType::date, ColumnType::time}))
+            wrong = "a date";
+        else if (is(dialect::LiteralKind::text, {ColumnType::text, ColumnType::memo}))
+            wrong = "a text";
+        else if (type == ColumnType::boolean)
+            wrong = "a boolean";
+        if (wrong)
+            dialect::failAt(sql_, expression.offset, std::string("there is no arithmetic with ") + wrong);
+        return text(expression);
     }
 
     std::string columnText(const Found& found) const
@@ -201,15 +257,18 @@ private:
         const char* const inverted = expression.negated ? " NOT" : "";
         switch (expression.kind) {
         case Kind::column: {
-            if (const auto found = findColumn(expression))
-                return columnText(*found);
-            if (const Expression* const meant = aliased(expression); meant && depth_ < select_.items.size()) {
-                ++depth_;
-                std::string written = text(*meant);
-                --depth_;
-                return written;
-            }
-            unknownColumn(expression);
+            const Expression* const found = meant(expression);
+            if (!found)
+                unknownColumn(expression);
+            if (found->kind == Kind::column)
+                return columnText(*findColumn(*found));
+            // An expression may hold its own alias, deeper down.
+            if (depth_ == select_.items.size())
+                unknownColumn(expression);
+            ++depth_;
+            std::string written = text(*found);
+            --depth_;
+            return written;
         }
         case Kind::literal:
             return literal(expression, LiteralUse::plain);
@@ -218,43 +277,79 @@ private:
         case Kind::null:
             return "NULL";
         case Kind::negate:
-            return "(-" + text(operands[0]) + ")";
+            return "(-" + number(operands[0]) + ")";
         case Kind::logicalNot:
             return "(NOT " + text(operands[0]) + ")";
-        case Kind::binary: {
-            const std::string left = operand(operands[0], operands[1]);
-            const std::string right = operand(operands[1], operands[0]);
-            if (expression.name == "&")
-                return "(IFNULL(" + left + ", '') || IFNULL(" + right + ", ''))";
-            if (expression.name == "/")
-                return "(CAST(" + left + " AS REAL) / " + right + ")";
-            return "(" + left + " " + expression.name + " " + right + ")";
+        case Kind::comparison: {
+            const std::string left = subject(operands[0], operands[1]);
+            return "(" + left + " " + expression.name + " " + operand(operands[1], operands[0]) + ")";
         }
+        case Kind::chain:
+            return chain(expression);
         case Kind::like: {
-            const std::string subject = text(operands[0]);
-            return "(" + subject + inverted + " LIKE " + text(operands[1]) + ")";
+            const std::string left = text(operands[0]);
+            return "(" + left + inverted + " LIKE " + text(operands[1]) + ")";
         }
         case Kind::in: {
             std::string list;
-            const std::string subject = text(operands[0]);
+            const std::string left = subject(operands[0], operands[0]);
             for (std::size_t i = 1; i < operands.size(); ++i)
                 list += (i == 1 ? "" : ", ") + operand(operands[i], operands[0]);
-            return "(" + subject + inverted + " IN (" + list + "))";
+            return "(" + left + inverted + " IN (" + list + "))";
         }
         case Kind::between: {
-            const std::string subject = text(operands[0]);
+            const std::string left = subject(operands[0], operands[0]);
             const std::string low = operand(operands[1], operands[0]);
-            return "(" + subject + inverted + " BETWEEN " + low + " AND " + operand(operands[2], operands[0]) + ")";
+            return "(" + left + inverted + " BETWEEN " + low + " AND " + operand(operands[2], operands[0]) + ")";
         }
         case Kind::isNull:
             return "(" + text(operands[0]) + " IS" + inverted + " NULL)";
         case Kind::call:
-            grouped_ = true;
-            if (operands.empty())
-                return "COUNT(*)";
-            return expression.name + "(" + (expression.distinct ? "DISTINCT " : "") + text(operands[0]) + ")";
+            return call(expression);
         }
         unknownColumn(expression);
+    }
+
+    std::string chain(const Expression& expression)
+    {
+        // Division of whole numbers gives a fraction; an empty field adds nothing to a text.
+        const bool isText = expression.name == "&";
+        std::string written;
+        for (const Expression& operand : expression.operands) {
+            if (!written.empty())
+                written += isText ? " || " : " " + expression.name + " ";
+            if (isText)
+                written += "IFNULL(" + text(operand) + ", '')";
+            else if (isLogical(expression))
+                written += text(operand);
+            else if (expression.name == "/" && written.empty())
+                written += "CAST(" + number(operand) + " AS REAL)";
+            else
+                written += number(operand);
+        }
+        return "(" + written + ")";
+    }
+
+    std::string call(const Expression& expression)
+    {
+        if (expression.operands.empty())
+            return "COUNT(*)";
+        const Expression& operand = expression.operands[0];
+        const bool counts = expression.name == "SUM" || expression.name == "AVG";
+        return expression.name + "(" + (expression.distinct ? "DISTINCT " : "")
+               + (counts ? number(operand) : text(operand)) + ")";
+    }
+
+    static bool holdsCall(const Expression& expression)
+    {
+        return expression.kind == Kind::call || std::ranges::any_of(expression.operands, holdsCall);
+    }
+
+    bool hasAggregate() const
+    {
+        return std::ranges::any_of(select_.items, [](const auto& item) { return holdsCall(item.expression); })
+               || std::ranges::any_of(select_.orderBy, [](const auto& term) { return holdsCall(term.expression); })
+               || (select_.where && holdsCall(*select_.where));
     }
 
     void columns()
@@ -281,7 +376,7 @@ private:
                 return;
             }
         PlanColumn computed;
-        computed.sql = text(item.expression);
+        computed.sql = parts_.distinct ? sortable(item.expression) : text(item.expression);
         computed.type = typeOf(item.expression);
         parts_.columnNames.add(item.alias.empty() ? "Expr" + std::to_string(1000 + parts_.columns.size()) : item.alias);
         parts_.qualifiedNames.add({});
@@ -299,7 +394,7 @@ private:
     void grouping()
     {
         for (const Expression& term : select_.groupBy)
-            parts_.tail += (parts_.tail.empty() ? "GROUP BY " : ", ") + text(term);
+            parts_.tail += (parts_.tail.empty() ? "GROUP BY " : ", ") + sortable(term);
         if (select_.having)
             parts_.tail += (parts_.tail.empty() ? "HAVING " : " HAVING ") + text(*select_.having);
     }
@@ -307,16 +402,13 @@ private:
     void ordering()
     {
         for (const dialect::OrderTerm& term : select_.orderBy) {
-            const Expression* expression = &term.expression;
-            std::string written;
-            if (term.place) {
-                written = parts_.columns[*term.place - 1].sql;
-            } else {
-                written = text(*expression);
-                // True is the smaller of the two in the dialect, where it counts as -1.
-                if (typeOf(*expression) == ColumnType::boolean)
-                    written = "-" + written;
-            }
+            const PlanColumn* const place = term.place ? &parts_.columns[*term.place - 1] : nullptr;
+            std::string written = place ? place->sql : sortable(term.expression);
+            if (place && place->table == PlanColumn::computed)
+                written += " COLLATE NOCASE";
+            // True is the smaller of the two in the dialect, where it counts as -1.
+            if ((place ? place->type : typeOf(term.expression)) == ColumnType::boolean)
+                written = "-" + written;
             parts_.order += (parts_.order.empty() ? "" : ", ") + written + (term.descending ? " DESC" : "");
         }
     }
@@ -324,13 +416,12 @@ private:
     /// True when the condition holds for one key at most.
     bool givesKey(const Expression& condition) const
     {
-        if (condition.kind != Kind::binary)
+        if (condition.kind == Kind::chain && condition.name == "AND")
+            return std::ranges::any_of(condition.operands, [this](const Expression& part) { return givesKey(part); });
+        if (condition.kind != Kind::comparison || condition.name != "=")
             return false;
-        if (condition.name == "AND")
-            return givesKey(condition.operands[0]) || givesKey(condition.operands[1]);
         const Expression& left = condition.operands[0];
-        const Expression& right = condition.operands[1];
-        if (condition.name != "=" || left.kind != Kind::column || right.kind != Kind::literal)
+        if (left.kind != Kind::column || condition.operands[1].kind != Kind::literal)
             return false;
         const auto found = findColumn(left);
         return found && found->column == 0;
@@ -343,7 +434,6 @@ private:
     std::vector<std::string> tableNames_; ///< alias or name
     std::size_t tablesWritten_ = 0;
     std::size_t depth_ = 0; ///< of aliases that stand for aliases
-    bool grouped_ = false;
 };
 
 } // namespace
