@@ -16,6 +16,8 @@ namespace {
 
 /// Texts that differ in more than their literals are few; lists of IN may make many shapes.
 constexpr std::size_t mostPlans = 512;
+/// Deletions that open record sets may be behind with.
+constexpr std::size_t mostDeletions = 4096;
 /// The log is written back in quiet moments; when none comes, a busy program does it at this length (64 MiB).
 constexpr int mostLogPages = 16384;
 
@@ -111,9 +113,22 @@ void StoreEngine::recordSetClosed()
 {
     if (*logPages_ > mostLogPages)
         checkpoint();
-    if (handles_.openCount() > 0)
-        return;
     // With no record set open nobody needs to hear of the records deleted so far.
+    if (handles_.openCount() == 0)
+        forgetDeletions();
+}
+
+void StoreEngine::recordDeleted()
+{
+    // A handle that was never closed must not let the lists grow for ever.
+    for (const auto& table : catalogue_.tables())
+        if (table->deletions().size() >= mostDeletions)
+            return forgetDeletions();
+}
+
+void StoreEngine::forgetDeletions()
+{
+    handles_.forEachOpen([](RecordCursor& cursor) { cursor.settleDeletions(); });
     for (const auto& table : catalogue_.tables())
         table->forgetDeletions();
 }

@@ -34,6 +34,8 @@ public:
     void checkpoint();
     /// To be called when a record set was closed: the moment for what may not stand between two writes.
     void recordSetClosed();
+    /// To be called when a record was deleted.
+    void recordDeleted();
     /// The last duties of a database that closes.
     void finish();
 
@@ -43,6 +45,8 @@ public:
     const Catalogue& catalogue() const { return catalogue_; }
 
 private:
+    void forgetDeletions();
+
     SqliteConnection connection_;
     std::unique_ptr<int> logPages_; ///< pages of the log after the last write; the engine holds its address
     StoreStatistics statistics_;
@@ -50,7 +54,7 @@ private:
     std::unordered_map<std::string, std::shared_ptr<SelectPlan>> plans_;
     dialect::ShapedText text_;
     HandleTable handles_;
-    WriteBuffer writes_{statistics_};
+    WriteBuffer writes_{connection_, statistics_};
 };
 
 } // namespace qncal::host
