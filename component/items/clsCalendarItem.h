@@ -307,10 +307,17 @@ private:
 
     /// A place for the item in its day as it stands in the database; none on a day without any.
     std::optional<Date> findGapInDay();
+
+    /// None until a text needs it. Its list of fields costs more than a merge, so that it serves both stages of a
+    /// merge, and both texts of a save.
+    using MergeEngine = std::unique_ptr<clsInsertFieldsInRTB>;
+    void renderBothTexts();
+    std::string renderDisplayText(MergeEngine& engine);
+    std::string renderTitleBarText(MergeEngine& engine);
     std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
-                                  bool withCompany);
-    std::unique_ptr<clsInsertFieldsInRTB> newMergeEngine() const;
-    std::string mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine);
+                                  bool withCompany, MergeEngine& engine);
+    MergeEngine newMergeEngine() const;
+    std::string mergeFromItem(const std::string& text, MergeEngine& engine);
     std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;
 
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);

@@ -14,21 +14,17 @@ namespace qncal {
 
 namespace {
 
-constexpr char placeholderStart = '{';
-
-bool hasPlaceholder(std::string_view text) { return text.find(placeholderStart) != std::string_view::npos; }
-
 /// The text with a word in place of its placeholder, which it holds.
 std::string withWord(std::string_view text, std::string_view placeholder, std::string_view word)
 {
     return std::string(text).replace(text.find(placeholder), placeholder.size(), word);
 }
 
-FieldText sampleText(std::string_view sample)
+FieldText sampleText(const MergeFieldEntry& entry)
 {
-    if (!hasPlaceholder(sample))
-        return FieldText::fixed(sample);
-    return FieldText::owned(withWord(sample, "{year}", std::to_string(today().civilDate().year)));
+    if (!entry.sampleHoldsWord)
+        return FieldText::fixed(entry.sample);
+    return FieldText::owned(withWord(entry.sample, "{year}", std::to_string(today().civilDate().year)));
 }
 
 std::string provinceName(std::string_view name, const RegionWords& words)
@@ -48,7 +44,7 @@ std::string provinceName(std::string_view name, const RegionWords& words)
 
 bool dependsOnProvince(const MergeFieldEntry& entry)
 {
-    return entry.province != ProvinceCondition::any || hasPlaceholder(entry.displayName);
+    return entry.province != ProvinceCondition::any || entry.nameHoldsWord;
 }
 
 bool isForProvince(ProvinceCondition condition, std::int32_t province)
@@ -78,7 +74,7 @@ FieldListRow rowOf(const MergeFieldEntry& entry)
     row.displayName = FieldText::fixed(entry.displayName);
     row.category = FieldText::fixed(entry.category);
     row.dataType = entry.type;
-    row.sampleText = sampleText(entry.sample);
+    row.sampleText = sampleText(entry);
     row.maximumLength = entry.maximumLength;
     return row;
 }

@@ -37,7 +37,7 @@ std::unique_ptr<StoreEngine> openEngine(const std::string& path, Access access, 
         if (path != inMemory)
             requirePlace(path, access);
         return std::make_unique<StoreEngine>(path, access, options.tables, options.version,
-                                             StoreEngine::Limits{options.busyTimeout, options.largestFile});
+                                             StoreEngine::Limits{options.busyTimeout, options.largestFile, options.longestLog});
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.number(), "Cannot open the database \"" + path + "\". " + error.what());
     }

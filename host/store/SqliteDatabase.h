@@ -30,6 +30,8 @@ public:
         std::int32_t version = schema::version;
         int busyTimeout = 5000;       ///< milliseconds to wait for another process
         std::int64_t largestFile = 0; ///< bytes that the file may grow to; 0 for as many as the disk holds
+        /// Bytes of the log from which on it is written back when no quiet moment comes.
+        std::int64_t longestLog = 64 << 20;
     };
 
     /// Each throws `RunTimeError` that names the file: when it is missing (open), is no database, is of a newer

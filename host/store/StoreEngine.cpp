@@ -8,6 +8,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace qncal::host {
@@ -18,8 +19,6 @@ namespace {
 constexpr std::size_t mostPlans = 512;
 /// Deletions that open record sets may be behind with.
 constexpr std::size_t mostDeletions = 4096;
-/// The log is written back in quiet moments; when none comes, a busy program does it at this length (64 MiB).
-constexpr int mostLogPages = 16384;
 
 std::string_view textArgument(sqlite3_value* value)
 {
@@ -75,6 +74,7 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
                          std::span<const schema::Table> tables, std::int32_t version, const Limits& limits)
     : connection_(openConnection(path, access, tables, version, limits)), logPages_(std::make_unique<int>(0)),
+      mostLogPages_(limits.longestLog / connection_.queryInteger("PRAGMA page_size")),
       catalogue_(tables, connection_)
 {
     sqlite3_wal_hook(
@@ -111,7 +111,7 @@ void StoreEngine::checkpoint()
 
 void StoreEngine::recordSetClosed()
 {
-    if (*logPages_ > mostLogPages)
+    if (*logPages_ > mostLogPages_)
         checkpoint();
     // With no record set open nobody needs to hear of the records deleted so far.
     if (handles_.openCount() == 0)
@@ -121,14 +121,15 @@ void StoreEngine::recordSetClosed()
 void StoreEngine::recordDeleted()
 {
     // A handle that was never closed must not let the lists grow for ever.
-    for (const auto& table : catalogue_.tables())
-        if (table->deletions().size() >= mostDeletions)
-            return forgetDeletions();
+    const auto isLong = [](const auto& table) { return table->deletions().size() >= mostDeletions; };
+    if (std::ranges::none_of(catalogue_.tables(), isLong))
+        return;
+    handles_.forEachOpen([](RecordCursor& cursor) { cursor.settleDeletions(); });
+    forgetDeletions();
 }
 
 void StoreEngine::forgetDeletions()
 {
-    handles_.forEachOpen([](RecordCursor& cursor) { cursor.settleDeletions(); });
     for (const auto& table : catalogue_.tables())
         table->forgetDeletions();
 }

@@ -22,6 +22,7 @@ public:
     struct Limits {
         int busyTimeout;          ///< milliseconds
         std::int64_t largestFile; ///< bytes, 0 for none
+        std::int64_t longestLog;  ///< bytes
     };
     StoreEngine(const std::string& path, SqliteConnection::Access access, std::span<const schema::Table> tables,
                 std::int32_t version, const Limits& limits);
@@ -49,6 +50,7 @@ private:
 
     SqliteConnection connection_;
     std::unique_ptr<int> logPages_; ///< pages of the log after the last write; the engine holds its address
+    std::int64_t mostLogPages_;
     StoreStatistics statistics_;
     Catalogue catalogue_;
     std::unordered_map<std::string, std::shared_ptr<SelectPlan>> plans_;

@@ -455,12 +455,14 @@ TEST_F(MergeDataTest, CompanyNameOfAContactIsTheRowsValueWhereTheListHasTheRow)
     engine.FieldList()->addRow({});
     EXPECT_EQ(engine.getMergeDataFromFieldName("companyname"), "DisplayName");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "");
-    FieldListRow row;
-    row.displayName = FieldText::fixed("Contact Full Name");
-    engine.FieldList()->addRow(row);
+    const auto addRowNamed = [&](std::string_view name) {
+        FieldListRow row;
+        row.displayName = FieldText::fixed(name);
+        engine.FieldList()->addRow(std::move(row));
+    };
+    addRowNamed("Contact Full Name");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "Contact Full Name");
-    row.displayName = FieldText::fixed("Contact Display Name");
-    engine.FieldList()->addRow(row);
+    addRowNamed("Contact Display Name");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "Contact Display Name");
 }
 

@@ -13,8 +13,6 @@
 namespace qncal::host {
 namespace {
 
-const std::string allAppointments = "SELECT Appointments.* FROM Appointments;";
-
 class LateFailureTest : public SharedFileTest {
 protected:
     LateFailureTest() { addAppointment("Before"); }

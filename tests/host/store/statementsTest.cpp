@@ -1,33 +1,40 @@
-#include "host/store/composedStatements.h"
 #include "host/store/smallFirm.h"
+#include "host/store/statementRows.h"
 
+#include "core/ServiceRegistry.h"
+#include "lookups/mainBusinessQuery.h"
 #include "store/SqliteDatabase.h"
+#include "support/TestServices.h"
 #include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
 namespace qncal::host {
 namespace {
 
+std::unique_ptr<SqliteDatabase> storeOfSmallFirm()
+{
+    auto store = SqliteDatabase::openInMemory();
+    for (const Record& record : smallFirm()) {
+        const auto handle = store->openRecordset("SELECT * FROM " + record.table, 1, 3, true, {}, true);
+        store->addNew(handle);
+        for (const auto& [field, value] : record.fields)
+            store->setNewField(handle, field, value);
+        store->update(handle);
+        store->closeRecordset(handle);
+    }
+    return store;
+}
+
 class StatementTest : public ::testing::TestWithParam<Statement> {
 protected:
-    static void SetUpTestSuite()
-    {
-        store_ = SqliteDatabase::openInMemory();
-        for (const Record& record : smallFirm()) {
-            const auto handle = store_->openRecordset("SELECT * FROM " + record.table, 1, 3, true, {}, true);
-            store_->addNew(handle);
-            for (const auto& [field, value] : record.fields)
-                store_->setNewField(handle, field, value);
-            store_->update(handle);
-            store_->closeRecordset(handle);
-        }
-    }
+    static void SetUpTestSuite() { store_ = storeOfSmallFirm(); }
     static void TearDownTestSuite() { store_.reset(); }
 
     static std::unique_ptr<SqliteDatabase> store_;
@@ -53,8 +60,76 @@ TEST_P(StatementTest, FindsItsRecords)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Composed, StatementTest, ::testing::ValuesIn(composedStatements()),
-                         [](const auto& row) { return row.param.name; });
+std::string statementName(const testing::TestParamInfo<Statement>& row) { return row.param.name; }
+
+INSTANTIATE_TEST_SUITE_P(Dialect, StatementTest, testing::ValuesIn(dialectStatements()), statementName);
+INSTANTIATE_TEST_SUITE_P(Items, StatementTest, testing::ValuesIn(itemStatements()), statementName);
+INSTANTIATE_TEST_SUITE_P(Clients, StatementTest, testing::ValuesIn(clientStatements()), statementName);
+
+// The whole record of a business client depends on the country, so the component composes the statement here.
+
+struct BusinessRow {
+    std::string name;
+    bool onlyShown;
+    std::int16_t active;
+    std::int32_t order;
+    std::int32_t clientDataID;
+    std::vector<std::string> companies;
+};
+
+class BusinessStatementTest : public testing::TestWithParam<std::tuple<std::int32_t, BusinessRow>> {
+protected:
+    BusinessStatementTest()
+    {
+        locale_->country = std::get<0>(GetParam());
+        serviceRegistry().locale = locale_;
+    }
+    ~BusinessStatementTest() override { serviceRegistry() = {}; }
+
+    std::vector<std::string> companies(const std::string& sql)
+    {
+        std::vector<std::string> names;
+        const auto handle = store_->openRecordset(sql, 1, DatabaseService::readOnly, true, {}, true);
+        for (; !store_->isEOF(handle); store_->moveNext(handle))
+            names.push_back(store_->getField(handle, "CompanyName").toText());
+        store_->closeRecordset(handle);
+        return names;
+    }
+
+    std::shared_ptr<test::TestLocale> locale_ = std::make_shared<test::TestLocale>();
+    std::unique_ptr<SqliteDatabase> store_ = storeOfSmallFirm();
+};
+
+TEST_P(BusinessStatementTest, FindsItsClients)
+{
+    const BusinessRow& row = std::get<1>(GetParam());
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLString(row.onlyShown, row.active, row.order,
+                                                                     row.clientDataID)),
+              row.companies);
+}
+
+TEST_P(BusinessStatementTest, FindsTheClientOfACompany)
+{
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(1)),
+              std::vector<std::string>{"North Ltd"});
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(2)), std::vector<std::string>{});
+}
+
+const BusinessRow businessRows[] = {
+    {"all", false, 3, 1, -1, {"North Ltd"}},          {"shown", true, 3, 2, -1, {"North Ltd"}},
+    {"active", false, 1, 3, -1, {"North Ltd"}},       {"inactive", false, 2, 1, -1, {}},
+    {"shownAndActive", true, 1, 3, -1, {"North Ltd"}}, {"shownAndInactive", true, 2, 2, -1, {}},
+    {"one", false, 3, 1, 1, {"North Ltd"}},           {"oneOfTheActive", true, 1, 3, 1, {"North Ltd"}},
+    {"none", false, 3, 1, 2, {}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Countries, BusinessStatementTest,
+                         testing::Combine(testing::Values(LocaleService::canada, LocaleService::unitedStates),
+                                          testing::ValuesIn(businessRows)),
+                         [](const auto& row) {
+                             return (std::get<0>(row.param) == LocaleService::canada ? "canada" : "unitedStates")
+                                    + std::string("_") + std::get<1>(row.param).name;
+                         });
 
 TEST(BadStatements, AreRefusedWhenTheyAreOpenedAndTheNextOneWorks)
 {
