@@ -1,7 +1,7 @@
 #include "store/planSelect.h"
 
+#include "store/SelectScope.h"
 #include "store/dialect/Lexer.h"
-#include "utilities/text.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -20,14 +20,13 @@ using Kind = Expression::Kind;
 class Planner {
 public:
     Planner(const Select& select, std::string_view sql, const Catalogue& catalogue)
-        : select_(select), sql_(sql), catalogue_(catalogue)
+        : select_(select), sql_(sql), scope_(select, sql, catalogue)
     {
     }
 
     SelectPlan::Parts plan()
     {
-        for (const FromNode& node : select_.from)
-            collectTables(node);
+        parts_.tables = scope_.tables();
         parts_.distinct = select_.distinct;
         parts_.top = select_.top;
         for (const FromNode& node : select_.from)
@@ -45,30 +44,7 @@ public:
     }
 
 private:
-    struct Found {
-        std::size_t table;
-        std::uint16_t column;
-    };
-
-    void collectTables(const FromNode& node)
-    {
-        if (node.isJoin()) {
-            collectTables(*node.left);
-            collectTables(*node.right);
-            return;
-        }
-        StoreTable* const table = catalogue_.find(node.table);
-        if (!table)
-            dialect::failAt(sql_, node.offset, "there is no table " + node.table);
-        const std::string& name = node.alias.empty() ? node.table : node.alias;
-        for (const std::string& other : tableNames_)
-            if (equalsNoCase(other, name))
-                dialect::failAt(sql_, node.offset, "the table " + name + " stands twice in the FROM clause");
-        parts_.tables.push_back(table);
-        tableNames_.push_back(name);
-    }
-
-    /// Tables get their numbers in the order of `collectTables`.
+    /// Tables get their numbers in the order of the scope.
     std::string fromText(const FromNode& node)
     {
         if (!node.isJoin()) {
@@ -82,113 +58,9 @@ private:
         return left + (node.outer ? " LEFT JOIN " : " JOIN ") + right + " ON " + text(node.on);
     }
 
-    std::optional<std::size_t> findTable(std::string_view name) const
-    {
-        for (std::size_t table = 0; table < tableNames_.size(); ++table)
-            if (equalsNoCase(tableNames_[table], name))
-                return table;
-        return std::nullopt;
-    }
-
-    std::size_t tableNamed(const std::string& name, std::size_t offset) const
-    {
-        const auto table = findTable(name);
-        if (!table)
-            dialect::failAt(sql_, offset, "the table " + name + " is not in the FROM clause");
-        return *table;
-    }
-
-    std::optional<Found> findColumn(const Expression& column) const
-    {
-        std::optional<Found> found;
-        for (std::size_t table = 0; table < parts_.tables.size(); ++table) {
-            if (!column.qualifier.empty() && table != tableNamed(column.qualifier, column.offset))
-                continue;
-            const auto place = parts_.tables[table]->columnNames().find(column.name);
-            if (!place)
-                continue;
-            if (found)
-                dialect::failAt(sql_, column.offset, "the column " + column.name + " is in more than one table");
-            found = Found{table, static_cast<std::uint16_t>(*place)};
-        }
-        return found;
-    }
-
-    [[noreturn]] void unknownColumn(const Expression& column) const
-    {
-        dialect::failAt(sql_, column.offset,
-                        "there is no column " + (column.qualifier.empty() ? "" : column.qualifier + ".") + column.name);
-    }
-
-    const schema::Column& schemaColumn(const Found& found) const
-    {
-        return parts_.tables[found.table]->column(found.column);
-    }
-
-    /// What an expression stands for: a bare name that no table has may be an alias of the column list, and that
-    /// of another. None for a name that nobody knows.
-    const Expression* meant(const Expression& expression) const
-    {
-        const Expression* found = &expression;
-        // Aliases that stand for each other would go round for ever.
-        for (std::size_t steps = 0; found && steps <= select_.items.size(); ++steps) {
-            if (found->kind != Kind::column || findColumn(*found))
-                return found;
-            found = aliased(*found);
-        }
-        return nullptr;
-    }
-
-    const Expression* aliased(const Expression& column) const
-    {
-        if (!column.qualifier.empty())
-            return nullptr;
-        for (const dialect::SelectItem& item : select_.items)
-            if (!item.star && &item.expression != &column && equalsNoCase(item.alias, column.name))
-                return &item.expression;
-        return nullptr;
-    }
-
-    bool isTableColumn(const Expression& expression) const
-    {
-        const Expression* const found = meant(expression);
-        return found && found->kind == Kind::column;
-    }
-
-    /// The type of an expression, none when only its values tell.
-    std::optional<ColumnType> typeOf(const Expression& written) const
-    {
-        const Expression* const found = meant(written);
-        if (!found)
-            return std::nullopt;
-        const Expression& expression = *found;
-        switch (expression.kind) {
-        case Kind::column:
-            return schemaColumn(*findColumn(expression)).type;
-        case Kind::comparison:
-        case Kind::boolean:
-        case Kind::logicalNot:
-        case Kind::like:
-        case Kind::in:
-        case Kind::between:
-        case Kind::isNull:
-            return ColumnType::boolean;
-        case Kind::chain:
-            return isLogical(expression) ? std::optional(ColumnType::boolean) : std::nullopt;
-        case Kind::call:
-            if (expression.name == "MIN" || expression.name == "MAX")
-                return typeOf(expression.operands.front());
-            return std::nullopt;
-        default:
-            return std::nullopt;
-        }
-    }
-
-    static bool isLogical(const Expression& chain) { return chain.name == "AND" || chain.name == "OR"; }
-
     LiteralUse useWith(const Expression& other) const
     {
-        const auto type = typeOf(other);
+        const auto type = scope_.typeOf(other);
         if (type == ColumnType::date)
             return LiteralUse::date;
         if (type == ColumnType::time)
@@ -216,19 +88,19 @@ private:
     std::string subject(const Expression& expression, const Expression& other)
     {
         std::string written = operand(expression, other);
-        return isTableColumn(expression) || isTableColumn(other) ? written : written + " COLLATE NOCASE";
+        return scope_.isTableColumn(expression) || scope_.isTableColumn(other) ? written : written + " COLLATE NOCASE";
     }
 
     /// A term to sort or group by: texts have one order, whether or not they come straight from a column.
     std::string sortable(const Expression& expression)
     {
-        return isTableColumn(expression) ? text(expression) : text(expression) + " COLLATE NOCASE";
+        return scope_.isTableColumn(expression) ? text(expression) : text(expression) + " COLLATE NOCASE";
     }
 
     /// The engine would take numbers out of the texts in which dates are stored, and True is -1 in the dialect.
     std::string number(const Expression& expression)
     {
-        const auto type = typeOf(expression);
+        const auto type = scope_.typeOf(expression);
         const bool isLiteral = expression.kind == Kind::literal;
         const auto is = [&](dialect::LiteralKind literal, std::initializer_list<ColumnType> types) {
             return (isLiteral && expression.literalKind == literal)
@@ -246,9 +118,9 @@ private:
         return text(expression);
     }
 
-    std::string columnText(const Found& found) const
+    std::string columnText(const SelectScope::Found& found) const
     {
-        return "t" + std::to_string(found.table) + "." + quotedName(schemaColumn(found).name);
+        return "t" + std::to_string(found.table) + "." + quotedName(scope_.column(found).name);
     }
 
     std::string text(const Expression& expression)
@@ -257,14 +129,14 @@ private:
         const char* const inverted = expression.negated ? " NOT" : "";
         switch (expression.kind) {
         case Kind::column: {
-            const Expression* const found = meant(expression);
+            const Expression* const found = scope_.meant(expression);
             if (!found)
-                unknownColumn(expression);
+                scope_.failUnknown(expression);
             if (found->kind == Kind::column)
-                return columnText(*findColumn(*found));
+                return columnText(*scope_.findColumn(*found));
             // An expression may hold its own alias, deeper down.
             if (depth_ == select_.items.size())
-                unknownColumn(expression);
+                scope_.failUnknown(expression);
             ++depth_;
             std::string written = text(*found);
             --depth_;
@@ -307,7 +179,7 @@ private:
         case Kind::call:
             return call(expression);
         }
-        unknownColumn(expression);
+        scope_.failUnknown(expression);
     }
 
     std::string chain(const Expression& expression)
@@ -320,7 +192,7 @@ private:
                 written += isText ? " || " : " " + expression.name + " ";
             if (isText)
                 written += "IFNULL(" + text(operand) + ", '')";
-            else if (isLogical(expression))
+            else if (SelectScope::isLogical(expression))
                 written += text(operand);
             else if (expression.name == "/" && written.empty())
                 written += "CAST(" + number(operand) + " AS REAL)";
@@ -360,7 +232,7 @@ private:
                 continue;
             }
             const std::size_t only =
-                item.qualifier.empty() ? parts_.tables.size() : tableNamed(item.qualifier, item.offset);
+                item.qualifier.empty() ? parts_.tables.size() : scope_.tableNamed(item.qualifier, item.offset);
             for (std::size_t table = 0; table < parts_.tables.size(); ++table)
                 if (item.qualifier.empty() || table == only)
                     for (std::size_t place = 0; place < parts_.tables[table]->schema().columns.size(); ++place)
@@ -371,23 +243,23 @@ private:
     void column(const dialect::SelectItem& item)
     {
         if (item.expression.kind == Kind::column)
-            if (const auto found = findColumn(item.expression)) {
+            if (const auto found = scope_.findColumn(item.expression)) {
                 addColumn(*found, item.alias);
                 return;
             }
         PlanColumn computed;
         computed.sql = parts_.distinct ? sortable(item.expression) : text(item.expression);
-        computed.type = typeOf(item.expression);
+        computed.type = scope_.typeOf(item.expression);
         parts_.columnNames.add(item.alias.empty() ? "Expr" + std::to_string(1000 + parts_.columns.size()) : item.alias);
         parts_.qualifiedNames.add({});
         parts_.columns.push_back(std::move(computed));
     }
 
-    void addColumn(const Found& found, const std::string& alias)
+    void addColumn(const SelectScope::Found& found, const std::string& alias)
     {
-        const schema::Column& column = schemaColumn(found);
+        const schema::Column& column = scope_.column(found);
         parts_.columnNames.add(alias.empty() ? column.name : alias);
-        parts_.qualifiedNames.add(tableNames_[found.table] + "." + std::string(column.name));
+        parts_.qualifiedNames.add(scope_.tableName(found.table) + "." + std::string(column.name));
         parts_.columns.push_back({found.table, found.column, column.type, columnText(found)});
     }
 
@@ -407,7 +279,7 @@ private:
             if (place && place->table == PlanColumn::computed)
                 written += " COLLATE NOCASE";
             // True is the smaller of the two in the dialect, where it counts as -1.
-            if ((place ? place->type : typeOf(term.expression)) == ColumnType::boolean)
+            if ((place ? place->type : scope_.typeOf(term.expression)) == ColumnType::boolean)
                 written = "-" + written;
             parts_.order += (parts_.order.empty() ? "" : ", ") + written + (term.descending ? " DESC" : "");
         }
@@ -423,15 +295,14 @@ private:
         const Expression& left = condition.operands[0];
         if (left.kind != Kind::column || condition.operands[1].kind != Kind::literal)
             return false;
-        const auto found = findColumn(left);
+        const auto found = scope_.findColumn(left);
         return found && found->column == 0;
     }
 
     const Select& select_;
     std::string_view sql_;
-    const Catalogue& catalogue_;
+    SelectScope scope_;
     SelectPlan::Parts parts_;
-    std::vector<std::string> tableNames_; ///< alias or name
     std::size_t tablesWritten_ = 0;
     std::size_t depth_ = 0; ///< of aliases that stand for aliases
 };

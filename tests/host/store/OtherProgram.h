@@ -67,7 +67,7 @@ std::int32_t errorOf(Operation&& operation)
 }
 
 /// A store in a file that others may reach too, and short ways to use it.
-class SharedFileTest : public ::testing::Test {
+class StoreInFileTest : public ::testing::Test {
 protected:
     std::int32_t open(const std::string& sql) { return store_->openRecordset(sql, 1, 3, true, {}, true); }
     bool set(std::int32_t handle, const std::string& field, const std::string& value)

@@ -82,13 +82,13 @@ TEST_P(AnswersTest, AnAliasOfAColumnComparesAsTheColumn)
 TEST_P(AnswersTest, WhatWouldGiveAWrongAnswerIsRefusedWithItsPlace)
 {
     const std::pair<const char*, const char*> rows[] = {
-        {"WHERE DateFrom + 1 > #2026-04-01#", "column 48: there is no arithmetic with a date"},
+        {"WHERE DateFrom + 1 > #2026-04-01#", "column 46: there is no arithmetic with a date"},
         {"WHERE #2026-04-01# - 1 < DateFrom", "there is no arithmetic with a date"},
         {"WHERE Subject + 'x' = 'ax'", "there is no arithmetic with a text"},
         {"WHERE Remind + 1 = 0", "there is no arithmetic with a boolean"},
         {"WHERE -Remind = 1", "there is no arithmetic with a boolean"},
         {"WHERE Remind = 'True'", "a boolean is compared with a text"},
-        {"WHERE DateFrom = '3/31/2026 10:00 AM'", "column 53: a date is compared with a text"},
+        {"WHERE DateFrom = '3/31/2026 10:00 AM'", "column 57: a date is compared with a text"},
         {"WHERE DateFrom BETWEEN '2026' AND '2027'", "a date is compared with a text"},
         {"WHERE DateFrom IN ('2026-03-31')", "a date is compared with a text"},
         {"WHERE AppointmentID = 1 ! 2", "unexpected character"},

@@ -20,7 +20,7 @@ const std::string outer = "SELECT Tasks.*, Schedule.ScheduleName FROM Tasks LEFT
                           "= Schedule.ScheduleID ORDER BY Tasks.TaskID;";
 
 /// Tasks A and B on the schedule entry Year end, and C on none.
-class JoinTest : public SharedFileTest {
+class JoinTest : public StoreInFileTest {
 protected:
     JoinTest()
     {

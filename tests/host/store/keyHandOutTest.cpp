@@ -14,7 +14,7 @@ namespace {
 
 const std::string allArchived = "SELECT archiveTasks.* FROM archiveTasks;";
 
-class KeyHandOutTest : public SharedFileTest {
+class KeyHandOutTest : public StoreInFileTest {
 protected:
     OtherProgram other_{path_};
 };

@@ -13,7 +13,7 @@
 namespace qncal::host {
 namespace {
 
-class LateFailureTest : public SharedFileTest {
+class LateFailureTest : public StoreInFileTest {
 protected:
     LateFailureTest() { addAppointment("Before"); }
     std::string stored() { return other_.value("SELECT Subject FROM Appointments WHERE AppointmentID = 1"); }
