@@ -18,8 +18,9 @@ constexpr int wrongUsage = 2;
 
 using AddCommands = void (*)(CLI::App&, CommandContext&);
 constexpr AddCommands commandGroups[] = {
-    addInitCommand,    addDemoCommand,  addItemCommands, addAgendaCommand,
-    addClientCommands, addUserCommands, addSqlCommand,   addDoctorCommand,
+    addInitCommand,      addDemoCommand,     addItemCommands, addAgendaCommand,
+    addTemplateCommands, addHolidayCommands, addDayCommands,  addCalendarFileCommands,
+    addClientCommands,   addUserCommands,    addSqlCommand,   addDoctorCommand,
 };
 
 void addGlobalOptions(CLI::App& program, GlobalOptions& options)

@@ -12,8 +12,12 @@ void addInitCommand(CLI::App& program, CommandContext& context);
 void addDemoCommand(CLI::App& program, CommandContext& context);
 void addItemCommands(CLI::App& program, CommandContext& context);
 void addAgendaCommand(CLI::App& program, CommandContext& context);
+void addTemplateCommands(CLI::App& program, CommandContext& context);
+void addHolidayCommands(CLI::App& program, CommandContext& context);
+void addDayCommands(CLI::App& program, CommandContext& context);
 void addClientCommands(CLI::App& program, CommandContext& context);
 void addUserCommands(CLI::App& program, CommandContext& context);
+void addCalendarFileCommands(CLI::App& program, CommandContext& context);
 void addSqlCommand(CLI::App& program, CommandContext& context);
 void addDoctorCommand(CLI::App& program, CommandContext& context);
 

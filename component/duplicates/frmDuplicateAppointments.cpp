@@ -2,7 +2,7 @@
 
 namespace qncal {
 
-std::shared_ptr<RegisteredForm> newDuplicateAppointmentsForm()
+std::shared_ptr<Form> newDuplicateAppointmentsForm()
 {
     return std::make_shared<frmDuplicateAppointments>();
 }

@@ -2,6 +2,7 @@
 
 #include "core/HostReferences.h"
 #include "core/clsCalendarItemType.h"
+#include "core/routineScope.h"
 #include "items/CalendarItemRecord.h"
 #include "utilities/Date.h"
 #include "utilities/Event.h"
@@ -265,9 +266,18 @@ public:
 
     // Inside the component:
 
-    void raiseColourSelectionChanged(std::int32_t& ColourSchemeID) { colourSelectionChanged.raise(ColourSchemeID); }
-    void raiseRefreshedAppointmentText(std::string& text) { refreshedAppointmentText.raise(text); }
-    void raiseRefreshedTitleBarText(std::string& text) { refreshedTitleBarText.raise(text); }
+    void raiseColourSelectionChanged(std::int32_t& ColourSchemeID)
+    {
+        callHost([&] { colourSelectionChanged.raise(ColourSchemeID); });
+    }
+    void raiseRefreshedAppointmentText(std::string& text)
+    {
+        callHost([&] { refreshedAppointmentText.raise(text); });
+    }
+    void raiseRefreshedTitleBarText(std::string& text)
+    {
+        callHost([&] { refreshedTitleBarText.raise(text); });
+    }
 
     /// Whether the item may be saved; always True, there is no condition so far.
     bool checkOKToSave();

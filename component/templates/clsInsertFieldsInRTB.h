@@ -185,8 +185,8 @@ public:
     // --- Inside the component ---
 
     /// Both passes of the merge with values of the caller's own: « and » first, the rich form where that has
-    /// replaced nothing.
-    void mergeFields(std::string& text, const FieldValueSource& valueOf);
+    /// replaced nothing. True when expressions between « and » were replaced.
+    bool mergeFields(std::string& text, const FieldValueSource& valueOf);
 
 private:
     /// The catalogue, or run-time error 91 after `Terminate`.
@@ -194,6 +194,7 @@ private:
     void addBlocksOfListType(FieldListCollection& list, bool noListBox);
     void addBlock(FieldListCollection& list, MergeFieldBlock block, bool noListBox);
     void buildListForIDs();
+    void removeUnfoundFields(std::string& text, bool plainOnesMerged);
     bool showsContactForCompany() const;
 
     /// The firm's template from a settings column with the kind's prefix, merged when the item has an id.

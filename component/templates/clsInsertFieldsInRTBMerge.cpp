@@ -53,20 +53,21 @@ std::string clsInsertFieldsInRTB::parseRTBComment()
         const auto valueOf = [this](std::int32_t position, const std::string& format) {
             return std::optional(getDataFieldInfo(fieldList().rows()[static_cast<std::size_t>(position)].key, format));
         };
-        mergeFields(text, valueOf);
-        replaceUnfoundMergeFieldsWithBlanks(text);
+        const bool plainOnesMerged = mergeFields(text, valueOf);
+        removeUnfoundFields(text, plainOnesMerged);
         return text;
     });
 }
 
-void clsInsertFieldsInRTB::mergeFields(std::string& text, const FieldValueSource& valueOf)
+bool clsInsertFieldsInRTB::mergeFields(std::string& text, const FieldValueSource& valueOf)
 {
     for (const DelimiterPair& pair : {plainDelimiters, richDelimiters}) {
         text = parseTodaysDateInRTBComment(std::move(text), pair.open, pair.close);
         // Expressions between « and » keep those of rich text from being merged; today's date does not.
         if (substituteFields(text, pair, fieldList(), convertStrToRTF_, valueOf))
-            return;
+            return pair.open == plainDelimiters.open;
     }
+    return false;
 }
 
 std::string clsInsertFieldsInRTB::parseTodaysDateInRTBComment(std::string text, std::string_view openDelimiter,
@@ -106,10 +107,18 @@ std::string clsInsertFieldsInRTB::removeBlankLinesFromRTFText(const std::string&
 
 bool clsInsertFieldsInRTB::replaceUnfoundMergeFieldsWithBlanks(std::string& text)
 {
-    return routine("Vestrel.exe-clsInsertFieldsInRTB-replaceUnfoundMergeFieldsWithBlanks", false, [&] {
-        if (fieldList().getCount() > 0 && !removeExpressions(text, plainDelimiters))
+    removeUnfoundFields(text, false);
+    return false;
+}
+
+void clsInsertFieldsInRTB::removeUnfoundFields(std::string& text, bool plainOnesMerged)
+{
+    routine("Vestrel.exe-clsInsertFieldsInRTB-replaceUnfoundMergeFieldsWithBlanks", [&] {
+        if (fieldList().getCount() == 0)
+            return;
+        // Beside expressions between « and », merged or removed, those of rich text stay: meant.
+        if (!removeExpressions(text, plainDelimiters) && !plainOnesMerged)
             removeExpressions(text, richDelimiters);
-        return false;
     });
 }
 

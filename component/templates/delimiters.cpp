@@ -22,6 +22,8 @@ bool endsWithinDelimiter(std::string_view text, const DelimiterPair& pair)
 {
     for (std::size_t length = 1; length < pair.open.size() && length <= text.size(); ++length) {
         const std::string_view end = text.substr(text.size() - length);
+        if (end.front() != pair.open.front())
+            continue;
         if (equalsNoCase(end, pair.open.substr(0, length)) || equalsNoCase(end, pair.close.substr(0, length)))
             return true;
     }
