@@ -1,22 +1,22 @@
 #include "host/store/smallFirm.h"
 #include "host/store/statementRows.h"
 
-#include "core/ServiceRegistry.h"
 #include "lookups/mainBusinessQuery.h"
 #include "store/SqliteDatabase.h"
-#include "support/TestServices.h"
+#include "support/ComponentTest.h"
 #include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 #include <string>
-#include <tuple>
 #include <utility>
 #include <vector>
 
 namespace qncal::host {
 namespace {
+
+using Texts = std::vector<std::string>;
 
 std::unique_ptr<SqliteDatabase> storeOfSmallFirm()
 {
@@ -68,27 +68,13 @@ INSTANTIATE_TEST_SUITE_P(Clients, StatementTest, testing::ValuesIn(clientStateme
 
 // The whole record of a business client depends on the country, so the component composes the statement here.
 
-struct BusinessRow {
-    std::string name;
-    bool onlyShown;
-    std::int16_t active;
-    std::int32_t order;
-    std::int32_t clientDataID;
-    std::vector<std::string> companies;
-};
-
-class BusinessStatementTest : public testing::TestWithParam<std::tuple<std::int32_t, BusinessRow>> {
+class BusinessStatementTest : public test::ComponentTestWith<std::int32_t> {
 protected:
-    BusinessStatementTest()
-    {
-        locale_->country = std::get<0>(GetParam());
-        serviceRegistry().locale = locale_;
-    }
-    ~BusinessStatementTest() override { serviceRegistry() = {}; }
+    BusinessStatementTest() { locale->country = GetParam(); }
 
-    std::vector<std::string> companies(const std::string& sql)
+    Texts companies(const std::string& sql)
     {
-        std::vector<std::string> names;
+        Texts names;
         const auto handle = store_->openRecordset(sql, 1, DatabaseService::readOnly, true, {}, true);
         for (; !store_->isEOF(handle); store_->moveNext(handle))
             names.push_back(store_->getField(handle, "CompanyName").toText());
@@ -96,40 +82,49 @@ protected:
         return names;
     }
 
-    std::shared_ptr<test::TestLocale> locale_ = std::make_shared<test::TestLocale>();
+    const Texts found_{"North Ltd"};
+    const Texts none_;
     std::unique_ptr<SqliteDatabase> store_ = storeOfSmallFirm();
 };
 
+INSTANTIATE_TEST_SUITE_P(Countries, BusinessStatementTest,
+                         testing::Values(LocaleService::canada, LocaleService::unitedStates), [](const auto& country) {
+                             return country.param == LocaleService::canada ? "canada" : "unitedStates";
+                         });
+
 TEST_P(BusinessStatementTest, FindsItsClients)
 {
-    const BusinessRow& row = std::get<1>(GetParam());
-    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLString(row.onlyShown, row.active, row.order,
-                                                                     row.clientDataID)),
-              row.companies);
+    struct Row {
+        const char* name;
+        bool onlyShown;
+        std::int16_t active;
+        std::int32_t order;
+        std::int32_t clientDataID;
+        const Texts& companies;
+    };
+    const Row rows[] = {
+        {"all", false, 3, 1, -1, found_},
+        {"shown", true, 3, 2, -1, found_},
+        {"active", false, 1, 3, -1, found_},
+        {"inactive", false, 2, 1, -1, none_},
+        {"shown and active", true, 1, 3, -1, found_},
+        {"shown and inactive", true, 2, 2, -1, none_},
+        {"one", false, 3, 1, 1, found_},
+        {"one of the active", true, 1, 3, 1, found_},
+        {"one that is not there", false, 3, 1, 2, none_},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLString(row.onlyShown, row.active, row.order,
+                                                                         row.clientDataID)),
+                  row.companies)
+            << row.name;
 }
 
 TEST_P(BusinessStatementTest, FindsTheClientOfACompany)
 {
-    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(1)),
-              std::vector<std::string>{"North Ltd"});
-    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(2)), std::vector<std::string>{});
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(1)), found_);
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(2)), none_);
 }
-
-const BusinessRow businessRows[] = {
-    {"all", false, 3, 1, -1, {"North Ltd"}},          {"shown", true, 3, 2, -1, {"North Ltd"}},
-    {"active", false, 1, 3, -1, {"North Ltd"}},       {"inactive", false, 2, 1, -1, {}},
-    {"shownAndActive", true, 1, 3, -1, {"North Ltd"}}, {"shownAndInactive", true, 2, 2, -1, {}},
-    {"one", false, 3, 1, 1, {"North Ltd"}},           {"oneOfTheActive", true, 1, 3, 1, {"North Ltd"}},
-    {"none", false, 3, 1, 2, {}},
-};
-
-INSTANTIATE_TEST_SUITE_P(Countries, BusinessStatementTest,
-                         testing::Combine(testing::Values(LocaleService::canada, LocaleService::unitedStates),
-                                          testing::ValuesIn(businessRows)),
-                         [](const auto& row) {
-                             return (std::get<0>(row.param) == LocaleService::canada ? "canada" : "unitedStates")
-                                    + std::string("_") + std::get<1>(row.param).name;
-                         });
 
 TEST(BadStatements, AreRefusedWhenTheyAreOpenedAndTheNextOneWorks)
 {
