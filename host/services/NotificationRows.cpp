@@ -107,6 +107,7 @@ void NotificationRows::deleteNotification(std::int32_t notificationID)
     Rows rows = Rows::change(*database_, rowByKey(notificationID));
     if (!rows.isEmpty())
         rows.deleteCurrent();
+    rows.close();
 }
 
 std::int32_t NotificationRows::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
@@ -123,6 +124,7 @@ void NotificationRows::set(std::int32_t notificationID, std::string_view field, 
     Rows rows = Rows::change(*database_, rowByKey(notificationID));
     if (!rows.isEmpty())
         rows.set(field, value);
+    rows.close();
 }
 
 } // namespace qncal::host

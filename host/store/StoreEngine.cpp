@@ -8,6 +8,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace qncal::host {
@@ -16,6 +17,8 @@ namespace {
 
 /// Texts that differ in more than their literals are few; lists of IN may make many shapes.
 constexpr std::size_t mostPlans = 512;
+/// Deletions that open record sets may be behind with.
+constexpr std::size_t mostDeletions = 4096;
 
 std::string_view textArgument(sqlite3_value* value)
 {
@@ -110,9 +113,23 @@ void StoreEngine::recordSetClosed()
 {
     if (*logPages_ > mostLogPages_)
         checkpoint();
-    if (handles_.openCount() > 0)
-        return;
     // With no record set open nobody needs to hear of the records deleted so far.
+    if (handles_.openCount() == 0)
+        forgetDeletions();
+}
+
+void StoreEngine::recordDeleted()
+{
+    // A handle that was never closed must not let the lists grow for ever.
+    const auto isLong = [](const auto& table) { return table->deletions().size() >= mostDeletions; };
+    if (std::ranges::none_of(catalogue_.tables(), isLong))
+        return;
+    handles_.forEachOpen([](RecordCursor& cursor) { cursor.settleDeletions(); });
+    forgetDeletions();
+}
+
+void StoreEngine::forgetDeletions()
+{
     for (const auto& table : catalogue_.tables())
         table->forgetDeletions();
 }

@@ -35,6 +35,8 @@ public:
     void checkpoint();
     /// To be called when a record set was closed: the moment for what may not stand between two writes.
     void recordSetClosed();
+    /// To be called when a record was deleted.
+    void recordDeleted();
     /// The last duties of a database that closes.
     void finish();
 
@@ -44,6 +46,8 @@ public:
     const Catalogue& catalogue() const { return catalogue_; }
 
 private:
+    void forgetDeletions();
+
     SqliteConnection connection_;
     std::unique_ptr<int> logPages_; ///< pages of the log after the last write; the engine holds its address
     std::int64_t mostLogPages_;
@@ -52,7 +56,7 @@ private:
     std::unordered_map<std::string, std::shared_ptr<SelectPlan>> plans_;
     dialect::ShapedText text_;
     HandleTable handles_;
-    WriteBuffer writes_{statistics_};
+    WriteBuffer writes_{connection_, statistics_};
 };
 
 } // namespace qncal::host
