@@ -58,7 +58,7 @@ void clsCalendarItem::getBestStartTime(Date startTimeRange, Date endTimeRange)
             RecordSet rows = RecordSet::openReadOnly(
                 "SELECT " + table + ".UserIDNum, " + table + ".DateFrom, " + table + ".TimeTo FROM " + table + " WHERE "
                 + table + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table
-                + ".DateFrom=" + sqlDate(record_.dateFrom) + " AND " + table + ".TimeTo>=" + sqlTime(startTimeRange)
+                + ".DateFrom=" + sqlDate(record_.dateFrom.dateOnly()) + " AND " + table + ".TimeTo>=" + sqlTime(startTimeRange)
                 + " And " + table + ".TimeTo<=" + sqlTime(endTimeRange) + " ORDER BY " + table + ".TimeTo DESC;");
             if (rows.hasRecords() && rows.read("TimeTo", best))
                 best = statement([&] { return dateTimeService().getTimeOnly(best); });
@@ -78,7 +78,7 @@ std::optional<Date> clsCalendarItem::findGapInDay()
         RecordSet rows = RecordSet::openReadOnly("SELECT " + table + ".UserIDNum, " + table + ".DateFrom, " + table
                                                  + ".TimeFrom, " + table + ".TimeTo FROM " + table + " WHERE " + table
                                                  + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table
-                                                 + ".DateFrom=" + sqlDate(record_.dateFrom) + " ORDER BY " + table
+                                                 + ".DateFrom=" + sqlDate(record_.dateFrom.dateOnly()) + " ORDER BY " + table
                                                  + ".TimeTo;");
         bool found = false;
         for (; !found && !rows.isEOF(); rows.moveNext()) {

@@ -113,6 +113,14 @@ INSTANTIATE_TEST_SUITE_P(
                     AddRow{"BeforeDayNought", -1, Date::of(1899, 12, 25), Date::of(1899, 12, 22)}),
     test::rowName);
 
+TEST_F(HolidayTest, NoDaysAreSettledInNineRoundsAtMost)
+{
+    // A Saturday and nine more days off: the tenth of them is as far as it gets.
+    for (const int day : {6, 7, 8, 9, 10, 13, 14})
+        addHoliday(Date::of(2026, 4, day), "1");
+    EXPECT_EQ(dateAddBusinessDaysWithoutWeekendsAndHolidays(0, Date::of(2026, 4, 4)), Date::of(2026, 4, 13));
+}
+
 TEST_F(HolidayTest, WithoutAConnectionOnlyWeekendsCount)
 {
     addHoliday(monday, "1");
