@@ -71,23 +71,25 @@ TEST_P(BestTimeTest, IsTheFirstGapThatHoldsTheItem)
 
 INSTANTIATE_TEST_SUITE_P(
     Days, BestTimeTest,
-    testing::Values(
-        DayRow{"EmptyDay", {}, 2, "09:00:00"},
-        DayRow{"BetweenTwo", {{"9:00", "10:00"}, {"11:00", "12:00"}}, 1, "10:00:00"},
-        DayRow{"ARowToTheEndOfTheDayIsPassedOver", {{"9:00", "10:00"}, {"10:30", "17:00"}}, 1, "10:00:00"},
-        DayRow{"AnEarlyRowIsPassedOver", {{"8:00", "8:30"}}, 1, "09:00:00"},
-        DayRow{"ARowThatEndsAtNineIsPassedOver", {{"8:00", "9:00"}}, 1, "09:00:00"},
-        DayRow{"ARowIntoTheMorning", {{"8:00", "9:30"}}, 1, "09:30:00"},
-        DayRow{"TheGapIsTooSmall", {{"9:30", "10:00"}, {"11:30", "12:00"}}, 1, "10:00:00"},
-        DayRow{"AGapOfJustTheLength", {{"9:00", "10:00"}, {"10:20", "16:50"}}, 1.0F / 3, "10:00:00"},
-        DayRow{"AfterTheLastRow", {{"9:00", "12:00"}, {"12:10", "15:00"}}, 2, "15:00:00"},
-        DayRow{"NoRoomTakesTheFirstGap", {{"9:00", "11:00"}, {"11:30", "16:30"}}, 4, "11:00:00"},
-        DayRow{"NoRoomTakesTheGapBeforeTheFirstRow", {{"9:30", "16:30"}}, 3, "09:00:00"},
-        DayRow{"NoRoomTakesTheFirstOfTwoGaps", {{"9:00", "10:00"}, {"10:30", "11:30"}, {"12:00", "16:30"}}, 4, "10:00:00"},
-        DayRow{"NoRoomTakesAnOverlapForAGap", {{"9:00", "10:20"}, {"10:00", "16:30"}}, 4, "10:20:00"},
-        DayRow{"OverlappingRows", {{"9:00", "11:00"}, {"9:30", "12:00"}}, 1, "12:00:00"},
-        DayRow{"RowsAreTakenByTheirEnd", {{"11:00", "12:00"}, {"9:00", "10:00"}}, 1, "10:00:00"},
-        DayRow{"SecondsAreCutOff", {{"9:00:40", "10:00:50"}, {"10:30:20", "11:00"}}, 0.5F, "10:00:00"}),
+    testing::Values(DayRow{"EmptyDay", {}, 2, "09:00:00"},
+                    DayRow{"BetweenTwo", {{"9:00", "10:00"}, {"11:00", "12:00"}}, 1, "10:00:00"},
+                    DayRow{"ARowToTheEndOfTheDayIsPassedOver", {{"9:00", "10:00"}, {"10:30", "17:00"}}, 1, "10:00:00"},
+                    DayRow{"AnEarlyRowIsPassedOver", {{"8:00", "8:30"}}, 1, "09:00:00"},
+                    DayRow{"ARowThatEndsAtNineIsPassedOver", {{"8:00", "9:00"}}, 1, "09:00:00"},
+                    DayRow{"ARowIntoTheMorning", {{"8:00", "9:30"}}, 1, "09:30:00"},
+                    DayRow{"TheGapIsTooSmall", {{"9:30", "10:00"}, {"11:30", "12:00"}}, 1, "10:00:00"},
+                    DayRow{"AGapOfJustTheLength", {{"9:00", "10:00"}, {"10:20", "16:50"}}, 1.0F / 3, "10:00:00"},
+                    DayRow{"AfterTheLastRow", {{"9:00", "12:00"}, {"12:10", "15:00"}}, 2, "15:00:00"},
+                    DayRow{"NoRoomTakesTheFirstGap", {{"9:00", "11:00"}, {"11:30", "16:30"}}, 4, "11:00:00"},
+                    DayRow{"NoRoomTakesTheGapBeforeTheFirstRow", {{"9:30", "16:30"}}, 3, "09:00:00"},
+                    DayRow{"NoRoomTakesTheFirstOfTwoGaps",
+                           {{"9:00", "10:00"}, {"10:30", "11:30"}, {"12:00", "16:30"}},
+                           4,
+                           "10:00:00"},
+                    DayRow{"NoRoomTakesAnOverlapForAGap", {{"9:00", "10:20"}, {"10:00", "16:30"}}, 4, "10:20:00"},
+                    DayRow{"OverlappingRows", {{"9:00", "11:00"}, {"9:30", "12:00"}}, 1, "12:00:00"},
+                    DayRow{"RowsAreTakenByTheirEnd", {{"11:00", "12:00"}, {"9:00", "10:00"}}, 1, "10:00:00"},
+                    DayRow{"SecondsAreCutOff", {{"9:00:40", "10:00:50"}, {"10:30:20", "11:00"}}, 0.5F, "10:00:00"}),
     test::rowName);
 
 TEST_F(PlacementTest, RowsOfOtherUsersAndDaysDoNotCount)
@@ -338,8 +340,9 @@ TEST_F(PlacementTest, ThePromptBeginsWithTheItemsTimeAndSetsTheChosenOneAsAUserW
 
 TEST_F(PlacementTest, ACancelledPromptChangesNothing)
 {
-    for (const auto& leave : {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
-                              +[](host::Hand& hand) { hand.pressEscape(); }}) {
+    for (const auto& leave :
+         {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
+          +[](host::Hand& hand) { hand.pressEscape(); }}) {
         dialogs->whenShown("frmSelectStartTime", [&](host::Hand& hand) {
             hand.pickDate("dtpTime", Date::timeOf(14, 20));
             leave(hand);

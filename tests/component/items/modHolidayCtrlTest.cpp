@@ -1,8 +1,8 @@
 #include "items/modHolidayCtrl.h"
 
 #include "support/ComponentTest.h"
-#include "support/rowName.h"
 #include "support/RoutineSweep.h"
+#include "support/rowName.h"
 
 #include <gtest/gtest.h>
 
@@ -39,9 +39,9 @@ TEST_P(HolidayTypeTest, DecidesWhetherTheRowCounts)
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, HolidayTypeTest,
-                         testing::Values(TypeRow{"None", "", true}, TypeRow{"One", "1", true}, TypeRow{"Two", "2", false},
-                                         TypeRow{"Three", "3", true}, TypeRow{"Zero", "0", false},
-                                         TypeRow{"Four", "4", false}),
+                         testing::Values(TypeRow{"None", "", true}, TypeRow{"One", "1", true},
+                                         TypeRow{"Two", "2", false}, TypeRow{"Three", "3", true},
+                                         TypeRow{"Zero", "0", false}, TypeRow{"Four", "4", false}),
                          test::rowName);
 
 TEST_F(HolidayTest, OneStatutoryRowAmongOthersOfTheDayIsEnough)

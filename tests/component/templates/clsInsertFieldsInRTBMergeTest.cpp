@@ -312,10 +312,11 @@ TEST_F(MergeTest, MergesRandomTemplatesAsThePlainRulesDo)
         engine.ConvertStrToRTF(richText);
         const std::string text = random.text(fields, 14);
         std::string expected = engine.convertProvinceFields(text);
-        const bool plainOnesMerged = plainMerge(expected, fields, richText, today(), [&](std::size_t i, const std::string& format) {
-            engine.TestComment(true);
-            return std::optional(engine.getDataFieldInfo(static_cast<std::int32_t>(i) + 1, format));
-        });
+        const bool plainOnesMerged =
+            plainMerge(expected, fields, richText, today(), [&](std::size_t i, const std::string& format) {
+                engine.TestComment(true);
+                return std::optional(engine.getDataFieldInfo(static_cast<std::int32_t>(i) + 1, format));
+            });
         plainBlanking(expected, plainOnesMerged);
         ASSERT_EQ(merged(text), expected) << "seed " << seed << ", run " << run << ", template " << text;
     }
