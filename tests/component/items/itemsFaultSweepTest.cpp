@@ -87,22 +87,21 @@ std::int32_t colourScheme(TestWorld& world)
 /// The first hour of a working day of user 1, taken.
 std::int32_t takenMorning(TestWorld& world)
 {
-    return world.addRow("Appointments", {{"UserIDNum", "1"},
-                                         {"DateFrom", "2026-04-02"},
-                                         {"TimeFrom", "09:00:00"},
-                                         {"TimeTo", "10:00:00"}});
+    return world.addRow(
+        "Appointments",
+        {{"UserIDNum", "1"}, {"DateFrom", "2026-04-02"}, {"TimeFrom", "09:00:00"}, {"TimeTo", "10:00:00"}});
 }
 
 /// What a routine that places the item of user 1 on that day makes of its start; 9:00 where it fails.
 SweptRoutine onPlacement(const char* name, std::function<void(clsCalendarItem&)> place, bool needsDatabase = true)
 {
-    SweptRoutine routine = onItem(name, "09:00:00", enumLocalCalendarAppointmentItem, takenMorning,
-                                  [place](clsCalendarItem& item) {
-                                      item.userIDNum(1);
-                                      item.DateFrom(Date::of(2026, 4, 2));
-                                      place(item);
-                                      return defaultDateText(item.TimeFrom());
-                                  });
+    SweptRoutine routine =
+        onItem(name, "09:00:00", enumLocalCalendarAppointmentItem, takenMorning, [place](clsCalendarItem& item) {
+            item.userIDNum(1);
+            item.DateFrom(Date::of(2026, 4, 2));
+            place(item);
+            return defaultDateText(item.TimeFrom());
+        });
     routine.needsDatabase = needsDatabase;
     return routine;
 }
@@ -110,11 +109,11 @@ SweptRoutine onPlacement(const char* name, std::function<void(clsCalendarItem&)>
 /// A text of a saved item with fields of both stages.
 SweptRoutine onText(const char* name, std::function<std::string(clsCalendarItem&, const std::string&)> call)
 {
-    SweptRoutine routine = onItem(name, "", enumLocalCalendarAppointmentItem, appointmentWithDependents,
-                                  [call](clsCalendarItem& item) {
-                                      item.contactIDNum(6);
-                                      return call(item, "«Appointment Start Time» «Contact Job Title» «Your City»");
-                                  });
+    SweptRoutine routine =
+        onItem(name, "", enumLocalCalendarAppointmentItem, appointmentWithDependents, [call](clsCalendarItem& item) {
+            item.contactIDNum(6);
+            return call(item, "«Appointment Start Time» «Contact Job Title» «Your City»");
+        });
     routine.needsDatabase = false;
     return routine;
 }
@@ -159,10 +158,9 @@ std::vector<SweptRoutine> routines()
                     [](clsCalendarItem& item) { item.getBestStartTime(Date::timeOf(8), Date::timeOf(12)); }),
         onPlacement("BestTimeOfTheDay",
                     [](clsCalendarItem& item) { item.getBestTimeInCalendarForSpecificDayAndUser(); }),
-        onPlacement("MoveToTheBestTime",
-                    [](clsCalendarItem& item) {
-                        item.moveCalendarItemToNewDateAndBestTimeInCalendar(Date::of(2026, 4, 2));
-                    }),
+        onPlacement(
+            "MoveToTheBestTime",
+            [](clsCalendarItem& item) { item.moveCalendarItemToNewDateAndBestTimeInCalendar(Date::of(2026, 4, 2)); }),
         onPlacement(
             "MoveToAnHourSlot",
             [](clsCalendarItem& item) {

@@ -32,8 +32,8 @@ struct ListCase {
 };
 
 /// Every list, row by row as the pick lists show it: for the normal use in Canada in full, for the other uses and the
-/// United States and Quebec by what differs from that. A row is display name, database field, category, type, sample and maximum
-/// length; a line of the list that is not the display name comes after it; # begins a header line.
+/// United States and Quebec by what differs from that. A row is display name, database field, category, type, sample
+/// and maximum length; a line of the list that is not the display name comes after it; # begins a header line.
 class CatalogueGoldenTest : public MergeEngineTestWith<ListCase> {
 protected:
     std::string listText(std::int32_t country, std::int32_t use, std::int32_t province = ontario)

@@ -30,8 +30,9 @@ std::shared_ptr<clsInsertFieldsInRTB> engineWithAnAppointment(TestWorld& world, 
     return engine;
 }
 
-SweptRoutine onEngine(const char* name, const char* defaultResult, std::function<std::string(clsInsertFieldsInRTB&)> call,
-                      bool needsDatabase = true, std::int32_t listUse = 1)
+SweptRoutine onEngine(const char* name, const char* defaultResult,
+                      std::function<std::string(clsInsertFieldsInRTB&)> call, bool needsDatabase = true,
+                      std::int32_t listUse = 1)
 {
     return {name, defaultResult,
             [call, listUse](TestWorld& world) -> Run {
@@ -78,7 +79,9 @@ std::vector<SweptRoutine> routines()
             1),
         onOpenRecords(
             "WriteDataToField", "False",
-            [](clsInsertFieldsInRTB& engine) { return asText(engine.writeDataToField("BusinessPhone_Main", "555-0199")); },
+            [](clsInsertFieldsInRTB& engine) {
+                return asText(engine.writeDataToField("BusinessPhone_Main", "555-0199"));
+            },
             5),
         onEngine("CreateDisplayTextByID2", "",
                  [](clsInsertFieldsInRTB& engine) { return engine.createDisplayTextByID2(); }),

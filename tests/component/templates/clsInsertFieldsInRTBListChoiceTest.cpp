@@ -46,16 +46,17 @@ TEST_P(ListChoiceTest, FollowsTheIDs)
     EXPECT_TRUE(engine.verifyFieldListIsPopulated());
 }
 
-INSTANTIATE_TEST_SUITE_P(Rows, ListChoiceTest,
-                         testing::Values(ListRow{"Appointment", {appointment}, 5}, ListRow{"Task", {task}, 8},
-                                         ListRow{"TimeEntry", {timeEntry}, 6}, ListRow{"Company", {company}, 2},
-                                         ListRow{"Contact", {contact}, 2},
-                                         ListRow{"AppointmentBeforeAll", {contact, company, timeEntry, task, appointment}, 5},
-                                         ListRow{"TaskBeforeTimeEntry", {timeEntry, task}, 8},
-                                         ListRow{"TaskBeforeItsClient", {company, contact, task}, 8},
-                                         ListRow{"TimeEntryBeforeItsClient", {company, contact, timeEntry}, 6},
-                                         ListRow{"CompanyAndContact", {company, contact}, 2}),
-                         rowName);
+INSTANTIATE_TEST_SUITE_P(
+    Rows, ListChoiceTest,
+    testing::Values(ListRow{"Appointment", {appointment}, 5}, ListRow{"Task", {task}, 8},
+                    ListRow{"TimeEntry", {timeEntry}, 6}, ListRow{"Company", {company}, 2},
+                    ListRow{"Contact", {contact}, 2},
+                    ListRow{"AppointmentBeforeAll", {contact, company, timeEntry, task, appointment}, 5},
+                    ListRow{"TaskBeforeTimeEntry", {timeEntry, task}, 8},
+                    ListRow{"TaskBeforeItsClient", {company, contact, task}, 8},
+                    ListRow{"TimeEntryBeforeItsClient", {company, contact, timeEntry}, 6},
+                    ListRow{"CompanyAndContact", {company, contact}, 2}),
+    rowName);
 
 TEST_F(MergeEngineTest, WithoutIDsEveryMergeOnlyNormalises)
 {

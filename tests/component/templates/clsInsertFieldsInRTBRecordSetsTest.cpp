@@ -168,10 +168,17 @@ TEST_F(MergeDataTest, InitialisationClosesWhatIsOpenInAnOrderOfItsOwn)
     log->closed.clear();
     engine.resetAllItemIDs();
     engine.initializeDataRecordsetsForSingleDocMerge();
-    const std::vector<std::string> tables{
-        "ClientData.CompanyIDNum=", "Companies.CompanyID=",       "CompaniesNotes.CompanyNum=", "Contacts.ContactID=",
-        "ContactsNotes.ContactNum=", "SoftwareInfo.CompanyIDNum=", "From AccountantFirmInfo",    "From AccountantEmployeeInfo",
-        "Appointments.AppointmentID=", "Tasks.TaskID=",           "Dockets.DocketID="};
+    const std::vector<std::string> tables{"ClientData.CompanyIDNum=",
+                                          "Companies.CompanyID=",
+                                          "CompaniesNotes.CompanyNum=",
+                                          "Contacts.ContactID=",
+                                          "ContactsNotes.ContactNum=",
+                                          "SoftwareInfo.CompanyIDNum=",
+                                          "From AccountantFirmInfo",
+                                          "From AccountantEmployeeInfo",
+                                          "Appointments.AppointmentID=",
+                                          "Tasks.TaskID=",
+                                          "Dockets.DocketID="};
     ASSERT_EQ(log->closed.size(), tables.size());
     for (std::size_t i = 0; i < tables.size(); ++i)
         EXPECT_NE(log->closed[i].find(tables[i]), std::string::npos) << tables[i] << " in " << log->closed[i];
