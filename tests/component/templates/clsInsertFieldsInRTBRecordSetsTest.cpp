@@ -152,8 +152,8 @@ public:
 
 TEST_F(MergeDataTest, InitialisationClosesWhatIsOpenInAnOrderOfItsOwn)
 {
-    const auto database = std::make_shared<ClosingOrder>(recorded);
-    serviceRegistry().database = database;
+    const auto log = std::make_shared<ClosingOrder>(recorded);
+    serviceRegistry().database = log;
     addCompany({{"CompanyName", "Maple Leaf"}});
     addContact({});
     engine.firmID(7);
@@ -165,7 +165,7 @@ TEST_F(MergeDataTest, InitialisationClosesWhatIsOpenInAnOrderOfItsOwn)
     engine.initializeDataRecordsetsForSingleDocMerge();
     field("Company Notes");
     field("Contact Notes");
-    database->closed.clear();
+    log->closed.clear();
     engine.resetAllItemIDs();
     engine.initializeDataRecordsetsForSingleDocMerge();
     const std::vector<std::string> tables{"ClientData.CompanyIDNum=",
@@ -179,9 +179,9 @@ TEST_F(MergeDataTest, InitialisationClosesWhatIsOpenInAnOrderOfItsOwn)
                                           "Appointments.AppointmentID=",
                                           "Tasks.TaskID=",
                                           "Dockets.DocketID="};
-    ASSERT_EQ(database->closed.size(), tables.size());
+    ASSERT_EQ(log->closed.size(), tables.size());
     for (std::size_t i = 0; i < tables.size(); ++i)
-        EXPECT_NE(database->closed[i].find(tables[i]), std::string::npos) << tables[i] << " in " << database->closed[i];
+        EXPECT_NE(log->closed[i].find(tables[i]), std::string::npos) << tables[i] << " in " << log->closed[i];
 }
 
 TEST_F(MergeDataTest, AContactThatIsOpenedForItsFieldBringsItsSoftware)
