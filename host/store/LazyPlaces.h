@@ -67,8 +67,8 @@ private:
     RecordCopies copies_;
     std::vector<std::int64_t> block_;
     bool started_ = false;
-    bool complete_ = false;  ///< all places are known
-    bool listening_ = false; ///< to the tables, for their next write
+    bool complete_ = false;                  ///< all places are known
+    bool listening_ = false;                 ///< to the tables, for their next write
     std::vector<std::size_t> deletionsSeen_; ///< by table
 };
 

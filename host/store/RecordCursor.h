@@ -101,8 +101,8 @@ private:
     Row row_;
     std::vector<std::int64_t> rowKeys_;
     bool rowLoaded_ = false;
-    std::uint64_t rowVersion_ = 0;       ///< of the tables as this store wrote them
-    std::uint32_t rowDataVersion_ = 0;   ///< of the database, whoever wrote
+    std::uint64_t rowVersion_ = 0;     ///< of the tables as this store wrote them
+    std::uint32_t rowDataVersion_ = 0; ///< of the database, whoever wrote
     std::size_t lastColumn_ = 0;
 
     NewRecord newRecord_;

@@ -18,9 +18,8 @@ SelectPlan::SelectPlan(Parts parts, SqliteConnection& connection)
     for (const PlanColumn& column : parts_.columns)
         if (column.table != PlanColumn::computed && !seen.emplace(column.table, column.column).second)
             hasTwins_ = true;
-    hasDependentColumns_ = std::ranges::any_of(parts_.columns, [](const PlanColumn& column) {
-        return column.table == PlanColumn::computed;
-    });
+    hasDependentColumns_ = std::ranges::any_of(
+        parts_.columns, [](const PlanColumn& column) { return column.table == PlanColumn::computed; });
     const std::set<StoreTable*> different(parts_.tables.begin(), parts_.tables.end());
     hasDependentColumns_ = hasDependentColumns_ || different.size() < parts_.tables.size();
     // Whatever the engine has to say against the statement is said when it is opened.
@@ -211,16 +210,14 @@ SqliteStatement& SelectPlan::count(const dialect::Literals& literals)
 SqliteStatement& SelectPlan::findFirst(const dialect::Literals& literals, std::size_t column)
 {
     return ready(findFirst_[column], literals, [this, column] {
-        return "SELECT " + keys() + " FROM " + parts_.from + whereClause(equality(column))
-               + orderClause() + " LIMIT 1";
+        return "SELECT " + keys() + " FROM " + parts_.from + whereClause(equality(column)) + orderClause() + " LIMIT 1";
     });
 }
 
 SqliteStatement& SelectPlan::findAll(const dialect::Literals& literals, std::size_t column)
 {
-    return ready(findAll_[column], literals, [this, column] {
-        return "SELECT " + keys() + " FROM " + parts_.from + " WHERE " + equality(column);
-    });
+    return ready(findAll_[column], literals,
+                 [this, column] { return "SELECT " + keys() + " FROM " + parts_.from + " WHERE " + equality(column); });
 }
 
 } // namespace qncal::host

@@ -155,10 +155,7 @@ std::string SqliteConnection::queryText(const std::string& sql)
 std::int64_t SqliteConnection::changes() const { return sqlite3_changes64(connection_.get()); }
 bool SqliteConnection::isInTransaction() const { return sqlite3_get_autocommit(connection_.get()) == 0; }
 
-void SqliteConnection::rollback() noexcept
-{
-    sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr);
-}
+void SqliteConnection::rollback() noexcept { sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr); }
 
 std::uint32_t SqliteConnection::dataVersion() const
 {

@@ -36,8 +36,9 @@ std::unique_ptr<StoreEngine> openEngine(const std::string& path, Access access, 
     try {
         if (path != inMemory)
             requirePlace(path, access);
-        return std::make_unique<StoreEngine>(path, access, options.tables, options.version,
-                                             StoreEngine::Limits{options.busyTimeout, options.largestFile, options.longestLog});
+        return std::make_unique<StoreEngine>(
+            path, access, options.tables, options.version,
+            StoreEngine::Limits{options.busyTimeout, options.largestFile, options.longestLog});
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.number(), "Cannot open the database \"" + path + "\". " + error.what());
     }

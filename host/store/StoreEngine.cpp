@@ -74,8 +74,7 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
                          std::span<const schema::Table> tables, std::int32_t version, const Limits& limits)
     : connection_(openConnection(path, access, tables, version, limits)), logPages_(std::make_unique<int>(0)),
-      mostLogPages_(limits.longestLog / connection_.queryInteger("PRAGMA page_size")),
-      catalogue_(tables, connection_)
+      mostLogPages_(limits.longestLog / connection_.queryInteger("PRAGMA page_size")), catalogue_(tables, connection_)
 {
     sqlite3_wal_hook(
         connection_.raw(),

@@ -61,8 +61,8 @@ TEST_F(TurnActionTest, ARowThatCannotBeWrittenIsToldByItsClose)
     database_->close();
     const auto size = static_cast<std::int64_t>(std::filesystem::file_size(path_));
     const auto small = SqliteDatabase::open(path_, {.largestFile = size + 4096 * 4});
-    Rows rows = Rows::change(*small, "SELECT Appointments.* FROM Appointments WHERE AppointmentID="
-                                         + std::to_string(id) + ";");
+    Rows rows =
+        Rows::change(*small, "SELECT Appointments.* FROM Appointments WHERE AppointmentID=" + std::to_string(id) + ";");
     rows.set("Subject", std::string(100000, 'x'));
     EXPECT_THROW(rows.close(), RunTimeError);
     EXPECT_EQ(other_.value("SELECT Subject FROM Appointments"), "Before");

@@ -18,10 +18,7 @@ namespace qncal::host {
 /// Another program at work on the file of a store. Whatever it holds it lets go at its end.
 class OtherProgram {
 public:
-    explicit OtherProgram(const std::string& path)
-    {
-        EXPECT_EQ(sqlite3_open(path.c_str(), &connection_), SQLITE_OK);
-    }
+    explicit OtherProgram(const std::string& path) { EXPECT_EQ(sqlite3_open(path.c_str(), &connection_), SQLITE_OK); }
     ~OtherProgram() { sqlite3_close(connection_); }
     OtherProgram(const OtherProgram&) = delete;
     OtherProgram& operator=(const OtherProgram&) = delete;
@@ -30,10 +27,7 @@ public:
     {
         EXPECT_EQ(tryRun(sql), SQLITE_OK) << sql << ": " << sqlite3_errmsg(connection_);
     }
-    int tryRun(const std::string& sql)
-    {
-        return sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr);
-    }
+    int tryRun(const std::string& sql) { return sqlite3_exec(connection_, sql.c_str(), nullptr, nullptr, nullptr); }
     /// The first column of the first row; empty when there is none.
     std::string value(const std::string& sql)
     {

@@ -73,12 +73,9 @@ std::vector<Statement> labelStatements()
         const char* value;
     };
     const Row rows[] = {
-        {"CustomFields", "CustomName", "Custom 1:"},
-        {"CustomAddressFields", "ContactLabel", ""},
-        {"CustomAddressFields", "CompanyLabel", "Fax 2:"},
-        {"CustomFields", "ApptCustomName", "Room:"},
-        {"CustomFields", "RemittanceLabel", ""},
-        {"CustomFields", "TaskCustomName", ""},
+        {"CustomFields", "CustomName", "Custom 1:"},       {"CustomAddressFields", "ContactLabel", ""},
+        {"CustomAddressFields", "CompanyLabel", "Fax 2:"}, {"CustomFields", "ApptCustomName", "Room:"},
+        {"CustomFields", "RemittanceLabel", ""},           {"CustomFields", "TaskCustomName", ""},
         {"CustomFields", "DocketCustomName", ""},
     };
     std::vector<Statement> statements;
@@ -92,7 +89,8 @@ std::vector<Statement> labelStatements()
         }
         const std::string from = std::string(" FROM ") + row.table + ";";
         const std::string field = std::string(row.prefix) + "1";
-        statements.push_back({std::string("bare") + row.prefix, "SELECT " + columns + from, field, {row.value}, "bare"});
+        statements.push_back(
+            {std::string("bare") + row.prefix, "SELECT " + columns + from, field, {row.value}, "bare"});
         statements.push_back(
             {std::string("full") + row.prefix, "SELECT " + qualified + from, field, {row.value}, "qualified"});
     }

@@ -68,8 +68,8 @@ TEST_P(FixedSetKinds, RecordsAddedLaterAreNotInIt)
         EXPECT_FALSE(find(begun, "AppointmentID", std::to_string(id))) << sql;
         store().closeRecordset(unread);
         store().closeRecordset(begun);
-        const auto added = openUpdatable("SELECT Appointments.* FROM Appointments WHERE AppointmentID = "
-                                         + std::to_string(id) + ";");
+        const auto added =
+            openUpdatable("SELECT Appointments.* FROM Appointments WHERE AppointmentID = " + std::to_string(id) + ";");
         store().deleteRecord(added);
         store().closeRecordset(added);
     }

@@ -36,9 +36,9 @@ protected:
     }
     std::int32_t borrow(std::int32_t id)
     {
-        return database_->openRecordset("SELECT Appointments.* FROM Appointments WHERE AppointmentID="
-                                            + std::to_string(id) + ";",
-                                        1, 3, true, {}, true);
+        return database_->openRecordset(
+            "SELECT Appointments.* FROM Appointments WHERE AppointmentID=" + std::to_string(id) + ";", 1, 3, true, {},
+            true);
     }
     std::string stored() { return other_.value("SELECT Subject FROM Appointments"); }
     /// The number of the only error reported since the last call; 0 for none.

@@ -77,8 +77,8 @@ TEST_F(KeyHandOutTest, AHandleThatIsNeverClosedStillLearnsOfManyDeletions)
 {
     const auto left = open("SELECT archiveTasks.* FROM archiveTasks ORDER BY archiveTasks.Subject;");
     constexpr int records = 5000;
-    other_.run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < "
-               + std::to_string(records + 1) + ") INSERT INTO archiveTasks (oldTaskID, Subject) SELECT i, 's' FROM n");
+    other_.run("WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < " + std::to_string(records + 1)
+               + ") INSERT INTO archiveTasks (oldTaskID, Subject) SELECT i, 's' FROM n");
     EXPECT_EQ(store_->getRecordCount(left), records + 1);
     EXPECT_EQ(get(left, "Subject"), Variant("s"));
     const auto handle = open(allArchived);

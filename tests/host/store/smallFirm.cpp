@@ -98,8 +98,8 @@ std::vector<Record> smallFirm()
              {{"TaxYear", "2025"}, {"ShowProfileT1InfoInSummary", "True"}}},
             {"PersonalTaxClientSummary", "PersonalTaxClientSummaryID", {{"ContactNum", "1"}, {"TaxYear", "2025"}}},
         });
-    for (const char* table : {"AccountingServices", "ClientOptions", "ClientUSInfo", "CorpTaxInfo", "LawInfo",
-                              "OtherInfo", "WSIB_EHTInfo"})
+    for (const char* table :
+         {"AccountingServices", "ClientOptions", "ClientUSInfo", "CorpTaxInfo", "LawInfo", "OtherInfo", "WSIB_EHTInfo"})
         records.push_back({table, std::string(table) + "ID", {{"ClientDataIDNum", "1"}}});
     return records;
 }

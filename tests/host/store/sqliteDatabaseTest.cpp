@@ -1,5 +1,5 @@
-#include "host/store/OtherProgram.h"
 #include "host/store/SqliteDatabaseTest.h"
+#include "host/store/OtherProgram.h"
 
 #include "store/storeError.h"
 #include "utilities/RunTimeError.h"
