@@ -34,8 +34,8 @@ private:
     std::filesystem::path path_;
 };
 
-/// A temporary database file with appointments, tasks, companies and labels of custom fields. The store has it open, and beside it a bare connection
-/// with the same settings.
+/// A temporary database file with appointments, tasks, companies and labels of custom fields. The store has it open,
+/// and beside it a bare connection with the same settings.
 class BenchFile {
 public:
     BenchFile();

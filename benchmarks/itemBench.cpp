@@ -109,9 +109,8 @@ void saveRaw(benchmark::State& state, const schema::Table& table, const std::vec
         assignments.append(assignments.empty() ? "" : ", ").append(column).append(" = ?");
         texts.push_back(sampleValue(*schema::findColumn(table, column), 7));
     }
-    sqlite3_stmt* const update =
-        file().prepared("UPDATE " + std::string(table.name) + " SET " + assignments + " WHERE "
-                        + std::string(table.columns.front().name) + " = ?");
+    sqlite3_stmt* const update = file().prepared("UPDATE " + std::string(table.name) + " SET " + assignments + " WHERE "
+                                                 + std::string(table.columns.front().name) + " = ?");
     std::vector<std::string> values(table.columns.size());
     int round = 0;
     for (auto _ : state) {
@@ -146,10 +145,7 @@ void changeThreeColumns(clsCalendarItem& item, int round)
     item.RepeatNum(round);
 }
 
-void saveThreeColumnsRaw(benchmark::State& state)
-{
-    saveRaw(state, tasks(), {"Subject", "Custom1", "RepeatNum"});
-}
+void saveThreeColumnsRaw(benchmark::State& state) { saveRaw(state, tasks(), {"Subject", "Custom1", "RepeatNum"}); }
 BENCHMARK(saveThreeColumnsRaw);
 
 /// No text to render and no reminders to look after: the row alone.
@@ -204,8 +200,7 @@ void itemSaveWithTexts(benchmark::State& state)
         item->TitleBarTextTemplate("«Appointment Name», «Appointment Start Time»");
         item->DisplayTextTemplate(item->DisplayTextDefaultTemplate());
     }
-    save(state, items,
-         [](clsCalendarItem& item, int round) { item.Subject("Subject " + std::to_string(round)); });
+    save(state, items, [](clsCalendarItem& item, int round) { item.Subject("Subject " + std::to_string(round)); });
 }
 BENCHMARK(itemSaveWithTexts);
 

@@ -232,8 +232,7 @@ void storeOpenKnownShape(benchmark::State& state)
     compareWith(state, "dialectPrepareRaw", 0.2);
     SqliteDatabase& store = file().store();
     for (auto _ : state)
-        store.closeRecordset(
-            store.openRecordset(longSelect, 1, DatabaseService::readOnly, true, {}, true));
+        store.closeRecordset(store.openRecordset(longSelect, 1, DatabaseService::readOnly, true, {}, true));
 }
 BENCHMARK(storeOpenKnownShape);
 

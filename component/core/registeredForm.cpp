@@ -1,8 +1,8 @@
 #include "core/registeredForm.h"
 
 #include "core/ClientDropDownService.h"
-#include "core/ServiceRegistry.h"
 #include "core/FormRegistry.h"
+#include "core/ServiceRegistry.h"
 #include "core/routineScope.h"
 #include "utilities/RunTimeError.h"
 

@@ -324,8 +324,8 @@ private:
     void renderBothTexts();
     std::string renderDisplayText(MergeEngine& engine);
     std::string renderTitleBarText(MergeEngine& engine);
-    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
-                                  bool withCompany, MergeEngine& engine);
+    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(), bool withCompany,
+                                  MergeEngine& engine);
     MergeEngine newMergeEngine() const;
     std::string mergeFromItem(const std::string& text, MergeEngine& engine);
     std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;

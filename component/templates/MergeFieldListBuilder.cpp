@@ -89,10 +89,13 @@ int numberOfUntouchedLabel(std::string_view label)
     return number >= 1 && number <= customFieldCount ? number : 0;
 }
 
+std::string_view withoutColonAtTheEnd(std::string_view label)
+{
+    return label.ends_with(':') ? label.substr(0, label.size() - 1) : label;
+}
+
 FieldText customName(std::string_view label, const CustomFieldTexts& texts)
 {
-    if (label.ends_with(':'))
-        label.remove_suffix(1);
     if (const int number = numberOfUntouchedLabel(label); number > 0)
         return FieldText::fixed(texts.fallbackNames[static_cast<std::size_t>(number - 1)].view());
     return FieldText::owned(std::string(texts.labelPrefix).append(label));
@@ -153,8 +156,9 @@ MergeFieldListBuilder::CustomNames MergeFieldListBuilder::customNames(const Cust
     RecordSet labels = RecordSet::openReadOnly(texts.labelQuery);
     if (labels.hasRecords()) {
         for (std::size_t i = 0; i < names.size(); ++i) {
-            std::string label;
-            if (labels.read(texts.labelColumns[i].view(), label))
+            std::string text;
+            labels.read(texts.labelColumns[i].view(), text);
+            if (const std::string_view label = withoutColonAtTheEnd(text); !label.empty())
                 names[i] = customName(label, texts);
         }
     }

@@ -178,7 +178,8 @@ public:
 
     // --- Texts of a calendar item by its id ---
 
-    /// The item's display text by the firm's template. The ids and `ListType` are set first.
+    /// The item's display text by the firm's template. The ids and `ListType` are set first; the text is empty for
+    /// a `ListType` that is not an item's.
     std::string createDisplayTextByID2();
     std::string createTitleBarTextByID2();
 

@@ -22,11 +22,6 @@ bool containsNoCase(std::string_view text, std::string_view wanted)
     return findNoCase(text, wanted) != std::string_view::npos;
 }
 
-std::string inDelimiters(std::string_view name, const DelimiterPair& pair)
-{
-    return std::string(pair.open).append(name).append(pair.close);
-}
-
 /// For an item without a company: its contact's name where the template asks for the company's.
 void askForContactName(std::string& text)
 {
@@ -61,10 +56,13 @@ std::string clsInsertFieldsInRTB::parseRTBComment()
 
 bool clsInsertFieldsInRTB::mergeFields(std::string& text, const FieldValueSource& valueOf)
 {
+    FieldListCollection& list = fieldList();
+    // Values let other events run, and one of those may end this engine.
+    const auto keepsTheList = fieldList_;
     for (const DelimiterPair& pair : {plainDelimiters, richDelimiters}) {
         text = parseTodaysDateInRTBComment(std::move(text), pair.open, pair.close);
         // Expressions between « and » keep those of rich text from being merged; today's date does not.
-        if (substituteFields(text, pair, fieldList(), convertStrToRTF_, valueOf))
+        if (substituteFields(text, pair, list, convertStrToRTF_, valueOf))
             return pair.open == plainDelimiters.open;
     }
     return false;

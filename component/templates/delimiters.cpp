@@ -4,6 +4,11 @@
 
 namespace qncal {
 
+std::string inDelimiters(std::string_view expression, const DelimiterPair& pair)
+{
+    return std::string(pair.open).append(expression).append(pair.close);
+}
+
 DelimiterPosition findDelimiter(std::string_view text, const DelimiterPair& pair, std::size_t from)
 {
     // Both halves of a pair begin with the same byte, which is no letter.

@@ -99,9 +99,12 @@ std::optional<KnownItems::Row> KnownItems::findMadeUp(const Wanted& wanted)
     const std::string table(calendarItemKind(wanted.kind).tableName);
     const std::string key(calendarItemKind(wanted.kind).fieldName);
     const std::string columns =
-        "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, DateFrom, Subject FROM " + table + " WHERE ";
+        "SELECT " + key + ", UserIDNum, RepeatNum, UserGroupNum, DateFrom, Subject, TextBody FROM " + table + " WHERE ";
     const Rows named = Rows::read(database_, columns + key + "=" + std::to_string(id) + ";");
     if (named.atEnd() || named.field("DateFrom").isNull())
+        return std::nullopt;
+    // An item that a file gave its UID goes by that one alone.
+    if (keptComponent(readNotes(named.text("TextBody"))).find("UID"))
         return std::nullopt;
     // Another firm of the same name may have an item of this number: so much must be the same.
     const Date day = named.field("DateFrom").toDate().dateOnly();

@@ -51,7 +51,8 @@ TEST_F(clsCalendarSetCtrlTest, OpensTheStatusFieldsDialogModally)
     bool modal = false;
     dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) {
         modal = hand.form().isModal();
-        EXPECT_EQ(dynamic_cast<frmChangeApptStatusFields&>(hand.form()).calendarKind(), enumLocalCalendarAppointmentItem);
+        EXPECT_EQ(dynamic_cast<frmChangeApptStatusFields&>(hand.form()).calendarKind(),
+                  enumLocalCalendarAppointmentItem);
     });
     control.openChangeApptStatusFieldsForm(enumFormShowAppointments);
     EXPECT_TRUE(modal);
