@@ -20,6 +20,7 @@ using AddCommands = void (*)(CLI::App&, CommandContext&);
 constexpr AddCommands commandGroups[] = {
     addInitCommand,    addDemoCommand,  addItemCommands, addAgendaCommand,
     addClientCommands, addUserCommands, addSqlCommand,   addDoctorCommand,
+    addRemindCommand,  addNotifyCommand, addSchemeCommands, addFieldsCommands, addDialogCommand,
 };
 
 void addGlobalOptions(CLI::App& program, GlobalOptions& options)
