@@ -10,7 +10,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string_view text(reinterpret_cast<const char*>(data), size);
     for (const DelimiterPair& pair : {plainDelimiters, richDelimiters}) {
         try {
-            const auto fault = findTemplateFault(text, pair, [](const std::string& name) { return name.size() % 2 == 0; });
+            const auto fault =
+                findTemplateFault(text, pair, [](const std::string& name) { return name.size() % 2 == 0; });
             if (fault && templateFaultMessage(*fault, "Product").empty())
                 __builtin_trap();
         } catch (const RunTimeError& error) {

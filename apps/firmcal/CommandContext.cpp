@@ -5,6 +5,8 @@
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 
+#include <nlohmann/json.hpp>
+
 #include <filesystem>
 #include <ostream>
 
@@ -75,12 +77,12 @@ std::shared_ptr<host::SqliteDatabase> CommandContext::sharedDatabase()
 
 host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase> database)
 {
-    database_ = database;
+    database_ = std::move(database);
     host::HostServices services;
-    services.database = database;
+    services.database = database_;
     services.messages =
         std::make_shared<host::TerminalMessages>(streams_.in, streams_.err, messageMode(options_, streams_));
-    services.locale = localeFor(options_, *database);
+    services.locale = localeFor(options_, *database_);
     host_.reset();
     host_ = std::make_unique<host::HostEnvironment>(std::move(services));
     errorsSeen_ = 0;

@@ -44,8 +44,9 @@ std::vector<ClientRow> findClients(DatabaseService& database, ClientKind kind, s
                       + ", " + std::string(columns.email) + " FROM " + std::string(columns.table);
     if (!text.empty())
         sql += " WHERE " + name + " LIKE '%" + database.getSQLText(text) + "%'";
+    sql += " ORDER BY " + name + ";";
     std::vector<ClientRow> clients;
-    for (host::Rows rows = host::Rows::read(database, sql + " ORDER BY " + name + ";"); !rows.atEnd(); rows.moveNext())
+    for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext())
         clients.push_back({kind, rows.integer(columns.key), rows.text(name), rows.text("ClientID"),
                            rows.text(columns.phone), rows.text(columns.email)});
     return clients;

@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <map>
+#include <span>
 #include <unordered_set>
 
 namespace qncal::firmcal {

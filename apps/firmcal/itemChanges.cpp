@@ -6,6 +6,8 @@
 #include "firmcal/clientLookup.h"
 #include "firmcal/valueText.h"
 
+#include <cmath>
+
 namespace qncal::firmcal {
 
 namespace {
@@ -22,7 +24,7 @@ void applyTimes(clsCalendarItem& item, const ItemChanges& changes)
             throw Failure("the item would end at " + timeText(item.TimeTo()) + ", before it begins at "
                           + timeText(item.TimeFrom()));
     } else if (!changes.start.empty() || !changes.hours.empty()) {
-        const Date end = item.TimeFrom().addSeconds(static_cast<std::int64_t>(hours * 3600.0F + 0.5F));
+        const Date end = item.TimeFrom().addSeconds(std::lround(hours * 3600.0F));
         if (end.dateOnly().serial() != 0.0)
             throw Failure("the item would end after midnight");
         item.TimeTo(end);

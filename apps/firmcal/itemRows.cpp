@@ -50,9 +50,8 @@ void readItemsOf(enumLocalCalendarItemType kind, DatabaseService& database, cons
     const std::string table = (filter.archived ? "archive" : "") + std::string(names.tableName);
     const std::string key = (filter.archived ? "old" : "") + std::string(names.fieldName);
     const std::string columns = key + ", DateFrom, TimeFrom, TimeTo, Subject, UserIDNum, CompanyIDNum, ContactIDNum";
-    for (host::Rows rows =
-             host::Rows::read(database, "SELECT " + columns + " FROM " + table + conditionsOf(database, filter) + ";");
-         !rows.atEnd(); rows.moveNext()) {
+    const std::string sql = "SELECT " + columns + " FROM " + table + conditionsOf(database, filter) + ";";
+    for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext()) {
         items.push_back({kind, rows.integer(key), dateOf(rows, "DateFrom").dateOnly(),
                          dateOf(rows, "TimeFrom").timeOnly(), dateOf(rows, "TimeTo").timeOnly(), rows.text("Subject"),
                          rows.integer("UserIDNum"), rows.integer("CompanyIDNum"), rows.integer("ContactIDNum")});

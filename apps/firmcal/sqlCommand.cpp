@@ -54,6 +54,7 @@ void printAsTable(CommandContext& context, host::Rows& rows, const std::vector<s
         table.limitCells(cellLimitOnTerminal);
     for (; !rows.atEnd(); rows.moveNext()) {
         std::vector<std::string> cells;
+        cells.reserve(fields.size());
         for (const std::string& field : fields)
             cells.push_back(rows.text(field));
         table.add(std::move(cells));

@@ -10,7 +10,11 @@ Control::Control(Form& form, std::string name, std::optional<int> index)
     form.add(*this);
 }
 
-Control::~Control() { form_->remove(*this); }
+Control::~Control()
+{
+    form_->remove(*this);
+    destroyed.raise();
+}
 
 std::string Control::path() const { return index_ ? name_ + "(" + std::to_string(*index_) + ")" : name_; }
 

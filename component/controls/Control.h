@@ -67,6 +67,8 @@ public:
 
     /// For the window: something that it shows has changed.
     Event<> updated;
+    /// For the window: the control goes away; nothing of it but its events may be used any more.
+    Event<> destroyed;
 
 protected:
     /// True when the value was another one; the window has been told then.

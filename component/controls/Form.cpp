@@ -11,6 +11,7 @@ Form::~Form()
 {
     if (visible_)
         hide();
+    destroyed.raise();
 }
 
 void Form::caption(std::string caption)

@@ -55,6 +55,8 @@ public:
     Event<> updated;
     /// For the window: the focus has moved.
     Event<> focusMoved;
+    /// For the window: the form goes away.
+    Event<> destroyed;
 
 protected:
     virtual void Form_QueryUnload(bool& /*cancel*/, bool /*byUser*/) {}

@@ -62,7 +62,8 @@ void RowList::listIndex(std::int32_t index)
 
 bool RowList::selectItemData(std::int32_t itemData)
 {
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [=](const ListRow& row) { return row.itemData == itemData; });
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [=](const ListRow& row) { return row.itemData == itemData; });
     listIndex(found == rows_.end() ? -1 : static_cast<std::int32_t>(found - rows_.begin()));
     return found != rows_.end();
 }
@@ -74,9 +75,11 @@ void ComboBox::text(std::string text)
         listIndex(row == rows().end() ? -1 : static_cast<std::int32_t>(row - rows().begin()));
         return;
     }
-    selLength_ = 0;
-    if (store(text_, std::move(text)))
-        raise(Change);
+    if (text_ == text)
+        return;
+    caretToEndOf(text);
+    store(text_, std::move(text));
+    raise(Change);
 }
 
 void ComboBox::autoComplete(std::string typed)
@@ -99,7 +102,7 @@ void ComboBox::autoComplete(std::string typed)
 void ComboBox::autoCompleteKey(std::int32_t& keyAscii)
 {
     constexpr std::int32_t firstPrintable = 32;
-    if (keyAscii < firstPrintable)
+    if (keyAscii < firstPrintable || selStart_ + selLength_ < static_cast<std::int32_t>(countCodePoints(text_)))
         return;
     std::string typed = text_;
     if (selLength_ > 0)
@@ -111,6 +114,8 @@ void ComboBox::autoCompleteKey(std::int32_t& keyAscii)
 
 void ComboBox::select(std::int32_t start, std::int32_t length)
 {
+    if (selStart_ == start && selLength_ == length)
+        return;
     selStart_ = start;
     selLength_ = length;
     updated.raise();
@@ -121,8 +126,17 @@ void ComboBox::rowSelected()
     std::string text = list(listIndex());
     if (listIndex() < 0 && editable_)
         return; // a typed text stays when no row is selected any more
-    if (store(text_, std::move(text)))
-        raise(Change);
+    if (text_ == text)
+        return;
+    caretToEndOf(text);
+    store(text_, std::move(text));
+    raise(Change);
+}
+
+void ComboBox::caretToEndOf(std::string_view text)
+{
+    selStart_ = static_cast<std::int32_t>(countCodePoints(text));
+    selLength_ = 0;
 }
 
 } // namespace qncal

@@ -74,11 +74,12 @@ public:
     /// selected until the typed text is all of it.
     void autoComplete(std::string typed);
     /// For a KeyPress event: types the character into the text and completes it. A character taken becomes 0;
-    /// control characters are left to the toolkit.
+    /// control characters, and any with the caret inside of the text, are left to the toolkit.
     void autoCompleteKey(std::int32_t& keyAscii);
-    /// The part of the text that was completed, in characters; none when the length is 0.
+    /// The caret, or the marked part of the text, in characters: what was completed or what the user marked.
     std::int32_t selStart() const { return selStart_; }
     std::int32_t selLength() const { return selLength_; }
+    void select(std::int32_t start, std::int32_t length);
 
     std::function<void()> Change;
 
@@ -86,7 +87,7 @@ protected:
     void rowSelected() override;
 
 private:
-    void select(std::int32_t start, std::int32_t length);
+    void caretToEndOf(std::string_view text);
 
     std::string text_;
     std::int32_t selStart_ = 0;

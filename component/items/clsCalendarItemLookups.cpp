@@ -2,6 +2,7 @@
 #include "core/routineScope.h"
 #include "items/clsCalendarItem.h"
 #include "items/itemQueries.h"
+#include "lookups/taskOfSchedule.h"
 
 #include <utility>
 

@@ -122,8 +122,8 @@ std::unique_ptr<clsInsertFieldsInRTB> clsCalendarItem::newMergeEngine() const
 std::string clsCalendarItem::buildDisplayText(const std::string& templateResult)
 {
     return routine("Vestrel.exe-clsCalendarItem-buildDisplayText", std::string(), [&] {
-        record_.appointmentText
-            = joinedDisplayText(record_.beforeAppointmentText, templateResult, record_.afterAppointmentText);
+        record_.appointmentText =
+            joinedDisplayText(record_.beforeAppointmentText, templateResult, record_.afterAppointmentText);
         return record_.appointmentText;
     });
 }
@@ -143,13 +143,14 @@ std::string clsCalendarItem::mergeFromItem(const std::string& text, std::unique_
             return merged;
         engine = newMergeEngine();
         const FieldListCollection& list = *engine->FieldList();
-        engine->mergeFields(merged, [&](std::int32_t position, const std::string& format) -> std::optional<std::string> {
-            const FieldListRow& row = list.rows()[static_cast<std::size_t>(position)];
-            std::string value = getApptDataFieldInfo(row.displayName.str(), row.category.str(), format);
-            if (value.empty())
-                return std::nullopt;
-            return value;
-        });
+        engine->mergeFields(
+            merged, [&](std::int32_t position, const std::string& format) -> std::optional<std::string> {
+                const FieldListRow& row = list.rows()[static_cast<std::size_t>(position)];
+                std::string value = getApptDataFieldInfo(row.displayName.str(), row.category.str(), format);
+                if (value.empty())
+                    return std::nullopt;
+                return value;
+            });
         return merged;
     });
 }

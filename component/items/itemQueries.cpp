@@ -51,22 +51,4 @@ std::string readColourSchemeName(std::int32_t schemeID)
     return name;
 }
 
-std::optional<TaskOfSchedule> findTaskOfSchedule(const std::string& table, const std::string& key,
-                                                 std::int32_t scheduleID)
-{
-    const auto find = [&](const std::string& from, const std::string& column, TaskOfSchedule& found) {
-        return readFirstRow("SELECT " + from + "." + column + ", " + from + ".ScheduleIDNum FROM " + from
-                                + " WHERE ScheduleIDNum=" + std::to_string(scheduleID) + ";",
-                            column, found.taskID);
-    };
-    TaskOfSchedule found;
-    if (find(table, key, found))
-        return found;
-    if (find("archive" + table, "old" + key, found)) {
-        found.archiveStatus = CalendarItemArchiveStatus_Archived;
-        return found;
-    }
-    return std::nullopt;
-}
-
 } // namespace qncal

@@ -117,7 +117,8 @@ std::optional<ItemTextField> findItemTextField(std::string_view category, std::s
 std::string_view clientListField(ClientKind client, std::string_view displayName)
 {
     const bool isContact = client == ClientKind::contact;
-    for (const ClientFieldName& name : isContact ? std::span<const ClientFieldName>(contactFieldNames) : companyFieldNames) {
+    for (const ClientFieldName& name :
+         isContact ? std::span<const ClientFieldName>(contactFieldNames) : companyFieldNames) {
         if (equalsNoCase(name.displayName, displayName))
             return name.databaseField;
     }

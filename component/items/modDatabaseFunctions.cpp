@@ -228,18 +228,6 @@ bool deleteRepeaterAppointmentForUser(enumLocalCalendarItemType kind, std::int32
     });
 }
 
-std::int32_t getTaskIDFromScheduleID(std::int32_t scheduleID)
-{
-    return routine("Vestrel.exe-modDatabaseFunctions-getTaskIDFromScheduleID", -1, [&] {
-        if (scheduleID < 0 || !isDatabaseConnected())
-            return -1;
-        const CalendarItemKind& task = calendarItemKind(enumLocalCalendarTaskItem);
-        return findTaskOfSchedule(std::string(task.tableName), std::string(task.fieldName), scheduleID)
-            .value_or(TaskOfSchedule{})
-            .taskID;
-    });
-}
-
 bool isThisTaskAssociatedWithIndependentScheduleEntry(std::int32_t taskID)
 {
     return routine("Vestrel.exe-modDatabaseFunctions-isThisTaskAssociatedWithIndependentScheduleEntry", false, [&] {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/enumerations.h"
+#include "lookups/taskOfSchedule.h"
 
 #include <cstdint>
 #include <string>
@@ -45,8 +46,6 @@ std::int32_t getAppointmentGroupUniqueID(enumLocalCalendarItemType kind);
 /// True when there were some and all are deleted.
 bool deleteRepeaterAppointmentForUser(enumLocalCalendarItemType kind, std::int32_t repeatNum, std::int32_t userID);
 
-/// The task that stands for a schedule row, also an archived one; -1 for none.
-std::int32_t getTaskIDFromScheduleID(std::int32_t scheduleID);
 /// True for a task that stands by itself rather than in a series of scheduled steps.
 bool isThisTaskAssociatedWithIndependentScheduleEntry(std::int32_t taskID);
 

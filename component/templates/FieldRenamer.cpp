@@ -25,8 +25,13 @@ FieldRenamer::FieldRenamer(std::vector<FieldRenaming> lines) : lines_(std::move(
             for (const char second : {lowerAscii(text[1]), upperAscii(text[1])})
                 firstPairs_.set(pairOf(first, second));
         }
-        auto& place = text.size() < prefixLength ? shortLines_ : buckets_[bucketOf(text)];
-        place.push_back(line);
+        if (text.size() >= prefixLength) {
+            buckets_[bucketOf(text)].push_back(line);
+        } else {
+            shortLines_.push_back(line);
+            shortFirstBytes_.set(static_cast<std::uint8_t>(lowerAscii(text[0])));
+            shortFirstBytes_.set(static_cast<std::uint8_t>(upperAscii(text[0])));
+        }
     }
 }
 
@@ -51,7 +56,8 @@ FieldRenamer::Line FieldRenamer::firstMatching(std::string_view text, Line from)
         if (!firstBytes_[static_cast<std::uint8_t>(text[at])] || !firstPairs_[pairOf(text[at], text[at + 1])])
             continue;
         const std::string_view here = text.substr(at);
-        look(shortLines_, here);
+        if (shortFirstBytes_[static_cast<std::uint8_t>(text[at])])
+            look(shortLines_, here);
         if (here.size() >= prefixLength)
             look(buckets_[bucketOf(here)], here);
     }

@@ -40,6 +40,7 @@ private:
     std::bitset<65536> firstPairs_;
     std::array<std::vector<Line>, bucketCount> buckets_;
     std::vector<Line> shortLines_;
+    std::bitset<256> shortFirstBytes_;
 };
 
 } // namespace qncal

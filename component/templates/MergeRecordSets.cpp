@@ -17,7 +17,7 @@ struct RowSource {
     std::string_view customPrefix;
     /// The column that holds the id.
     std::string_view keyColumn;
-    std::int32_t MergeItemIDs::* id;
+    std::int32_t MergeItemIDs::*id;
 };
 
 constexpr RowSource rowSources[] = {
@@ -126,8 +126,8 @@ void MergeRecordSets::closeAll()
 
 void MergeRecordSets::open(MergeRecord record, const std::string& sql, std::int32_t listUse)
 {
-    records_[static_cast<std::size_t>(record)]
-        = listUse == mergeListUse::writeBack ? RecordSet::openUpdatable(sql) : RecordSet::openReadOnly(sql);
+    records_[static_cast<std::size_t>(record)] =
+        listUse == mergeListUse::writeBack ? RecordSet::openUpdatable(sql) : RecordSet::openReadOnly(sql);
 }
 
 void MergeRecordSets::openRow(MergeRecord record, const MergeItemIDs& ids, std::int32_t listUse)

@@ -15,6 +15,7 @@
 
 namespace qncal {
 
+class FieldRenamer;
 class MergeRecordSets;
 class RecordSet;
 struct MergeItemIDs;
@@ -207,6 +208,13 @@ private:
     /// The contact's company when the contact inherits its data; none otherwise.
     RecordSet* companyToInheritFrom();
 
+    /// The text that `convertProvinceFields` gave last, and what it was made of.
+    struct Conversion {
+        const FieldRenamer* renamer = nullptr;
+        std::string text;
+        std::string converted;
+    };
+    Conversion lastConversion_;
     std::shared_ptr<FieldListCollection> fieldList_;
     std::shared_ptr<MergeRecordSets> recordSets_;
     std::shared_ptr<RichTextTarget> rtb_;

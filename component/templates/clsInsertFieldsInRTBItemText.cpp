@@ -2,9 +2,9 @@
 
 #include "templates/clsInsertFieldsInRTB.h"
 
-#include "core/RecordSet.h"
 #include "core/calendarItemKinds.h"
 #include "core/routineScope.h"
+#include "lookups/firstRow.h"
 #include "lookups/modDatabaseClientFunctions.h"
 #include "templates/MergeRecordSets.h"
 #include "templates/itemTextParts.h"
@@ -18,7 +18,7 @@ namespace {
 struct ItemList {
     enumLocalCalendarItemType kind = enumLocalCalendarUnknownItem;
     MergeRecord record = MergeRecord::appointment;
-    std::int32_t MergeItemIDs::* id = &MergeItemIDs::appointment;
+    std::int32_t MergeItemIDs::*id = &MergeItemIDs::appointment;
 };
 
 ItemList itemListOf(std::int32_t listType)
@@ -39,13 +39,8 @@ ItemList itemListOf(std::int32_t listType)
 std::string firmSetting(const std::string& column)
 {
     std::string text;
-    if (!isDatabaseConnected())
-        return text;
-    RecordSet settings = RecordSet::openReadOnly(
-        "SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum = -1;");
-    if (settings.hasRecords())
-        settings.read(column, text);
-    settings.close();
+    if (isDatabaseConnected())
+        readFirstRow("SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum = -1;", column, text);
     return text;
 }
 

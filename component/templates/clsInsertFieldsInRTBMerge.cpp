@@ -73,9 +73,10 @@ std::string clsInsertFieldsInRTB::parseTodaysDateInRTBComment(std::string text, 
                                                               std::string_view closeDelimiter)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-parseTodaysDateInRTBComment", std::string(), [&] {
-        const std::string beginning = std::string(openDelimiter).append(beginningOfTodaysDate);
-        if (!containsNoCase(text, beginning))
+        // Looked for without its delimiter, which many fields begin with.
+        if (!containsNoCase(text, beginningOfTodaysDate))
             return std::move(text);
+        const std::string beginning = std::string(openDelimiter).append(beginningOfTodaysDate);
         for (const DateFormatKeyword& format : dateFormatKeywords) {
             const std::string expression = (beginning + std::string(format.keyword) + ")").append(closeDelimiter);
             if (containsNoCase(text, expression))

@@ -6,8 +6,8 @@
 #include "core/RecordSet.h"
 #include "core/ServiceRegistry.h"
 #include "core/routineScope.h"
-#include "items/modDatabaseFunctions.h"
 #include "lookups/clientCodeTables.h"
+#include "lookups/taskOfSchedule.h"
 #include "templates/MergeRecordSets.h"
 #include "templates/inheritedFields.h"
 #include "templates/mergeFieldSource.h"
@@ -60,7 +60,8 @@ std::string clientField(const RecordSet& record, std::string_view column)
 
 std::string inheritedField(const RecordSet& contact, const RecordSet& company, const InheritedField& field)
 {
-    std::string first = field.companyFirst ? textIn(company, field.companyColumn) : textIn(contact, field.contactColumn);
+    std::string first =
+        field.companyFirst ? textIn(company, field.companyColumn) : textIn(contact, field.contactColumn);
     if (!first.empty())
         return first;
     return field.companyFirst ? textIn(contact, field.contactColumn) : textIn(company, field.companyColumn);

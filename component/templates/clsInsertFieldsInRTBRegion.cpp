@@ -14,8 +14,13 @@ std::string clsInsertFieldsInRTB::convertProvinceFields(std::string text)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-convertProvinceFields", std::string(), [&] {
         const std::int32_t country = currentCountry();
-        fieldRenamer(country, country == LocaleService::canada ? currentProvince() : 0).apply(text);
-        return std::move(text);
+        const FieldRenamer& renamer = fieldRenamer(country, country == LocaleService::canada ? currentProvince() : 0);
+        // One template is converted again and again: to be checked, to be merged, and merged for the next item.
+        if (lastConversion_.renamer != &renamer || lastConversion_.text != text) {
+            lastConversion_ = {&renamer, text, std::move(text)};
+            renamer.apply(lastConversion_.converted);
+        }
+        return lastConversion_.converted;
     });
 }
 

@@ -19,8 +19,8 @@ bool clsInsertFieldsInRTB::testRTBComment(const std::string& text, bool isRichTe
                                              skipFieldNameCheck ? FieldNameTest() : isFieldName);
         if (fault && showErrorMessages) {
             const bool namesProduct = fault->kind == TemplateFault::Kind::fieldNameUnknown;
-            const std::string product
-                = namesProduct ? statement([] { return localeService().getProductName(); }) : std::string();
+            const std::string product =
+                namesProduct ? statement([] { return localeService().getProductName(); }) : std::string();
             testErrorComment.raise(templateFaultMessage(*fault, product));
         }
         return fault.has_value();

@@ -29,7 +29,9 @@ std::string clsInsertFieldsInRTB::getDataFieldInfo(std::int32_t key, const std::
         if (value.empty())
             return value;
         std::string text = mergeValueText(std::move(value), type, format);
-        return !text.empty() && convertStrToRTF_ ? convertToRTF(std::move(text)) : text;
+        // Most values have no line breaks, and a routine for each would tell in a merge of many fields.
+        const bool converts = convertStrToRTF_ && text.find("\r\n") != std::string::npos;
+        return converts ? convertToRTF(std::move(text)) : text;
     });
 }
 
@@ -83,7 +85,8 @@ std::string clsInsertFieldsInRTB::getTodaysDate(const std::string& format)
 std::string clsInsertFieldsInRTB::getTimeDurationFieldValue(Date timeFrom, Date timeTo)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-getTimeDurationFieldValue", std::string(), [&] {
-        const auto minutes = static_cast<std::int32_t>(std::abs(timeTo.linearSeconds() - timeFrom.linearSeconds()) / 60);
+        const auto minutes =
+            static_cast<std::int32_t>(std::abs(timeTo.linearSeconds() - timeFrom.linearSeconds()) / 60);
         return statement([&] { return dateTimeService().getDurationText(minutes); });
     });
 }

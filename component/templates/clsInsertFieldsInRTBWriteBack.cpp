@@ -60,8 +60,8 @@ bool clsInsertFieldsInRTB::writeDataToField(const std::string& databaseField, co
             return false;
         if (source->record == MergeRecord::contactNotes || source->record == MergeRecord::companyNotes)
             recordSets().openIfClosed(source->record, itemIDs(), mergeFieldListUse_);
-        const InheritedField* inherited
-            = source->record == MergeRecord::contact ? findInheritedField(databaseField) : nullptr;
+        const InheritedField* inherited =
+            source->record == MergeRecord::contact ? findInheritedField(databaseField) : nullptr;
         if (inherited) {
             if (RecordSet* company = companyToInheritFrom())
                 company->write(inherited->companyColumn, *text);

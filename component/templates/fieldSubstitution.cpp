@@ -18,6 +18,7 @@ constexpr auto npos = std::string_view::npos;
 /// The turn of a row, and within a date row of a keyword, in the walk over the list.
 using Turn = std::int64_t;
 constexpr Turn turnsOfRow = 16;
+constexpr std::size_t usualExpressions = 32;
 constexpr Turn noTurn = std::numeric_limits<Turn>::max();
 static_assert(dateFormatKeywords.size() <= turnsOfRow);
 
@@ -57,6 +58,10 @@ public:
          const FieldValueSource& valueOf)
         : text_(text), pair_(pair), list_(list), blankBefore_(blankBefore), valueOf_(valueOf)
     {
+        expressions_.reserve(usualExpressions);
+        byTurn_.reserve(usualExpressions);
+        groups_.reserve(usualExpressions);
+        values_.reserve(usualExpressions);
     }
 
     bool run()

@@ -15,9 +15,9 @@ struct InheritedField {
 };
 
 inline constexpr InheritedField inheritedFields[] = {
-    {"BusinessPhone_Main", "OfficeNumber", false},  {"BusinessPhone_Fax", "FaxNumber", false},
-    {"BusinessAddress", "Address", true},           {"BusinessCity", "City", true},
-    {"BusinessProvince", "Province", true},         {"BusinessPostalCode", "PostalCode", true},
+    {"BusinessPhone_Main", "OfficeNumber", false}, {"BusinessPhone_Fax", "FaxNumber", false},
+    {"BusinessAddress", "Address", true},          {"BusinessCity", "City", true},
+    {"BusinessProvince", "Province", true},        {"BusinessPostalCode", "PostalCode", true},
     {"BusinessCountry", "Country", true},
 };
 

@@ -11,7 +11,7 @@ namespace qncal {
 struct MergeFieldSource {
     std::string_view category;
     MergeRecord record;
-    std::int32_t MergeItemIDs::* id;
+    std::int32_t MergeItemIDs::*id;
     /// The column by which the row of the id is found in the record set.
     std::string_view keyColumn;
 };

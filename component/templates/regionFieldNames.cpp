@@ -139,7 +139,10 @@ const ProvinceRules& rulesOf(std::int32_t province)
 
 using Lines = std::vector<FieldRenaming>;
 
-void addLines(Lines& lines, std::span<const FieldRenaming> more) { lines.insert(lines.end(), more.begin(), more.end()); }
+void addLines(Lines& lines, std::span<const FieldRenaming> more)
+{
+    lines.insert(lines.end(), more.begin(), more.end());
+}
 
 void addCorpTaxLines(Lines& lines, const ProvinceRules& rules)
 {

@@ -66,8 +66,7 @@ std::optional<TemplateFault> findTemplateFault(std::string_view text, const Deli
             DelimiterPosition next = first;
             while (next.at != npos && !next.isOpen)
                 next = findDelimiter(text, pair, next.at + pair.open.size());
-            return next.at == npos ? std::nullopt
-                                   : std::optional(TemplateFault{Kind::openingDelimiterMissing, {}});
+            return next.at == npos ? std::nullopt : std::optional(TemplateFault{Kind::openingDelimiterMissing, {}});
         }
         const std::size_t begin = first.at + pair.open.size();
         DelimiterPosition close = findDelimiter(text, pair, begin);
@@ -89,8 +88,7 @@ std::string templateFaultMessage(const TemplateFault& fault, std::string_view pr
     case Kind::closingRoundBracketMissing:
         return "You are missing the closing round bracket, ')' in one of your date expressions";
     case Kind::dateFormatUnknown:
-        return "The date format of: '" + fault.subject
-               + "' is not valid.  Please see help for valid date formats.";
+        return "The date format of: '" + fault.subject + "' is not valid.  Please see help for valid date formats.";
     case Kind::openingRoundBracketMissing:
         return "You are missing the opening round bracket, '(' in one of your date expressions";
     case Kind::closingDelimiterMissing:

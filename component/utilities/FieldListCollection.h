@@ -2,11 +2,11 @@
 
 #include "utilities/Variant.h"
 
-#include <bitset>
 #include <cstdint>
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -90,14 +90,20 @@ public:
     void reserve(std::size_t count) { rows_.reserve(count); }
 
 private:
+    std::int32_t findWithoutIndex(std::string_view name, std::int32_t from) const;
     void indexDisplayNames();
+    void forgetSearches();
+
+    /// So many searches are cheaper without an index.
+    static constexpr int searchesWithoutIndex = 12;
 
     std::vector<FieldListRow> rows_;
     std::int32_t current_ = -1;
     /// Open-addressing hash table of row positions by display name, -1 free; empty until it is needed.
     std::vector<std::int32_t> nameIndex_;
-    /// The bytes of all display names; kept with `nameIndex_`.
-    std::bitset<256> nameBytes_;
+    int searches_ = 0;
+    /// The answers of `displayNamesHold` so far.
+    std::vector<std::pair<char, bool>> heldBytes_;
 };
 
 } // namespace qncal

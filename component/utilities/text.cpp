@@ -4,16 +4,12 @@
 
 namespace qncal {
 
-char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
-
 std::string lowerAscii(std::string_view text)
 {
     std::string lowered(text);
     std::transform(lowered.begin(), lowered.end(), lowered.begin(), [](char c) { return lowerAscii(c); });
     return lowered;
 }
-
-bool equalsNoCase(std::string_view a, std::string_view b) { return a.size() == b.size() && compareNoCase(a, b) == 0; }
 
 int compareNoCase(std::string_view a, std::string_view b)
 {

@@ -6,9 +6,18 @@
 namespace qncal {
 
 /// ASCII letters only; every other byte, and so every multi-byte character, stands as it is.
-char lowerAscii(char c);
+constexpr char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 std::string lowerAscii(std::string_view text);
-bool equalsNoCase(std::string_view a, std::string_view b);
+inline bool equalsNoCase(std::string_view a, std::string_view b)
+{
+    if (a.size() != b.size())
+        return false;
+    for (std::size_t i = 0; i < a.size(); ++i) {
+        if (a[i] != b[i] && lowerAscii(a[i]) != lowerAscii(b[i]))
+            return false;
+    }
+    return true;
+}
 /// Order by ASCII case-folded bytes; below, equal or above zero.
 int compareNoCase(std::string_view a, std::string_view b);
 std::string_view trimmed(std::string_view text);

@@ -17,7 +17,7 @@ public:
     std::size_t below(std::size_t count) { return engine_() % count; }
     int between(int lowest, int highest)
     {
-        return lowest + static_cast<int>(below(static_cast<std::size_t>(highest - lowest + 1)));
+        return lowest + static_cast<int>(below(static_cast<std::size_t>(highest - lowest) + 1));
     }
     bool chance(int percent) { return between(1, 100) <= percent; }
     template <class Values>

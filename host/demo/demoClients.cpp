@@ -72,8 +72,8 @@ public:
     {
         for (;;) {
             const bool woman = random_.chance(50);
-            const Person person{std::string(woman ? random_.pick(womensNames) : random_.pick(mensNames)),
-                                std::string(random_.pick(familyNames))};
+            Person person{std::string(woman ? random_.pick(womensNames) : random_.pick(mensNames)),
+                          std::string(random_.pick(familyNames))};
             if (used_.insert(person.name()).second)
                 return person;
         }

@@ -48,6 +48,12 @@ constexpr std::string_view kindPrefixes[]{"Appt", "Task", "Docket"};
 /// The label of each kind's first custom field.
 constexpr std::string_view customLabels[]{"Location", "Waiting for", "Activity code"};
 
+/// "ApptStatusName1"
+std::string numbered(std::string_view prefix, std::string_view name, std::size_t number)
+{
+    return std::string(prefix).append(name).append(std::to_string(number));
+}
+
 } // namespace
 
 void addDemoHolidays(HostEnvironment& host)
@@ -85,15 +91,14 @@ void addDemoLabels(HostEnvironment& host)
     addRow(host.database(), "CustomFields", {});
     Rows rows = Rows::change(host.database(), "SELECT CustomFields.* FROM CustomFields;");
     for (std::size_t kind = 0; kind < std::size(kindPrefixes); ++kind) {
-        const std::string prefix(kindPrefixes[kind]);
-        rows.set(prefix + "CustomName1", customLabels[kind]);
+        const std::string_view prefix = kindPrefixes[kind];
+        rows.set(numbered(prefix, "CustomName", 1), customLabels[kind]);
         for (std::size_t i = 0; i < std::size(statuses); ++i) {
-            const std::string number = std::to_string(i + 1);
-            rows.set(prefix + "StatusName" + number, statuses[i].name);
-            rows.set(prefix + "UseStatusColour" + number, booleanText(true));
-            rows.set(prefix + "StatusColour" + number, std::to_string(statuses[i].colour));
-            rows.set(prefix + "UseStatusIcon" + number, booleanText(true));
-            rows.set(prefix + "StatusIcon" + number, std::to_string(statuses[i].icon));
+            rows.set(numbered(prefix, "StatusName", i + 1), statuses[i].name);
+            rows.set(numbered(prefix, "UseStatusColour", i + 1), booleanText(true));
+            rows.set(numbered(prefix, "StatusColour", i + 1), std::to_string(statuses[i].colour));
+            rows.set(numbered(prefix, "UseStatusIcon", i + 1), booleanText(true));
+            rows.set(numbered(prefix, "StatusIcon", i + 1), std::to_string(statuses[i].icon));
         }
     }
 }

@@ -9,6 +9,20 @@
 
 namespace qncal::host {
 
+namespace {
+
+std::vector<UserEntry> readUsers(DatabaseService& database)
+{
+    std::vector<UserEntry> users;
+    for (Rows rows = Rows::read(database, "SELECT AccountantEmployeeInfo.ContactID, AccountantEmployeeInfo.DisplayName "
+                                          "FROM AccountantEmployeeInfo ORDER BY AccountantEmployeeInfo.DisplayName;");
+         !rows.atEnd(); rows.moveNext())
+        users.push_back({rows.integer("ContactID"), rows.text("DisplayName")});
+    return users;
+}
+
+} // namespace
+
 ClientDropDown::ClientDropDown(std::shared_ptr<DatabaseService> database)
     : database_(std::move(database)), windows_(std::make_shared<WindowRegistry>())
 {
@@ -21,34 +35,26 @@ void ClientDropDown::invalidate()
     contactNames_.clear();
 }
 
-std::vector<UserEntry> ClientDropDown::getUsers()
+const std::vector<UserEntry>& ClientDropDown::users()
 {
-    if (users_ || !database_->isConnected())
-        return users_.value_or(std::vector<UserEntry>());
-    std::vector<UserEntry> users;
-    for (Rows rows =
-             Rows::read(*database_, "SELECT AccountantEmployeeInfo.ContactID, AccountantEmployeeInfo.DisplayName "
-                                    "FROM AccountantEmployeeInfo ORDER BY AccountantEmployeeInfo.DisplayName;");
-         !rows.atEnd(); rows.moveNext())
-        users.push_back({rows.integer("ContactID"), rows.text("DisplayName")});
-    users_ = users;
-    return users;
+    static const std::vector<UserEntry> nobody;
+    if (!users_ && database_->isConnected())
+        users_ = readUsers(*database_);
+    return users_ ? *users_ : nobody;
 }
 
 std::optional<UserEntry> ClientDropDown::findUser(std::string_view nameOrID)
 {
-    const std::vector<UserEntry> users = getUsers();
-    const auto found = std::ranges::find_if(users, [&](const UserEntry& user) {
+    const auto found = std::ranges::find_if(users(), [&](const UserEntry& user) {
         return equalsNoCase(user.name, nameOrID) || std::to_string(user.id) == nameOrID;
     });
-    return found == users.end() ? std::nullopt : std::optional(*found);
+    return found == users().end() ? std::nullopt : std::optional(*found);
 }
 
 std::string ClientDropDown::getUserName(std::int32_t userID)
 {
-    const std::vector<UserEntry> users = getUsers();
-    const auto found = std::ranges::find(users, userID, &UserEntry::id);
-    return found == users.end() ? std::string() : found->name;
+    const auto found = std::ranges::find(users(), userID, &UserEntry::id);
+    return found == users().end() ? std::string() : found->name;
 }
 
 std::string ClientDropDown::getCompanyName(std::int32_t companyID)

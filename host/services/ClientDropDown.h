@@ -22,7 +22,7 @@ public:
     std::optional<UserEntry> findUser(std::string_view nameOrID);
 
     std::shared_ptr<FormRegistry> getFormRegistry() override { return windows_; }
-    std::vector<UserEntry> getUsers() override;
+    std::vector<UserEntry> getUsers() override { return users(); }
     std::string getUserName(std::int32_t userID) override;
     std::string getCompanyName(std::int32_t companyID) override;
     std::string getContactName(std::int32_t contactID) override;
@@ -30,6 +30,8 @@ public:
     Variant getClientListField(ClientKind kind, std::int32_t id, std::string_view fieldName) override;
 
 private:
+    const std::vector<UserEntry>& users();
+
     using Names = std::unordered_map<std::int32_t, std::string>;
     std::string rememberedName(Names& names, ClientKind kind, std::int32_t id, std::string_view fieldName);
     std::string clientText(ClientKind kind, std::int32_t id, std::string_view fieldName);

@@ -26,7 +26,7 @@ std::string contactAndSpouseName(PersonNames names)
     names.spouse = trimmed(names.spouse);
     splitDisplayName(names);
     const bool known = !names.first.empty() && !names.last.empty();
-    const std::string alone = known && names.display.empty() ? names.first + " " + names.last : names.display;
+    std::string alone = known && names.display.empty() ? names.first + " " + names.last : names.display;
     if (names.spouse.empty())
         return alone;
     if (known && names.spouse.find(' ') == std::string::npos)

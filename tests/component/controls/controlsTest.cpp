@@ -9,6 +9,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 namespace qncal {
 namespace {
 
@@ -92,6 +95,40 @@ TEST_F(ControlsTest, AComboBoxCompletesWhatIsTypedFromTheFirstMatchingRow)
     EXPECT_EQ(box.listIndex(), 0);
     box.autoComplete("noon");
     EXPECT_EQ(box.text(), "noon");
+}
+
+TEST_F(ControlsTest, AKeyReplacesWhatTheUserMarkedAndIsLeftAloneInsideOfTheText)
+{
+    ComboBox box(form, "cboField");
+    box.addItem("9:15 AM");
+    box.addItem("10:00 AM");
+    std::int32_t key = '9';
+    box.autoCompleteKey(key);
+    EXPECT_EQ(box.text(), "9:15 AM");
+    EXPECT_EQ(key, 0);
+    box.select(0, 7);
+    key = '1';
+    box.autoCompleteKey(key);
+    EXPECT_EQ(box.text(), "10:00 AM");
+    EXPECT_EQ(box.selStart(), 1);
+    EXPECT_EQ(box.selLength(), 7);
+    box.select(2, 0);
+    key = '5';
+    box.autoCompleteKey(key);
+    EXPECT_EQ(key, '5');
+    EXPECT_EQ(box.text(), "10:00 AM");
+}
+
+TEST_F(ControlsTest, ATextThatCodeSetsHasTheCaretAtItsEnd)
+{
+    ComboBox box(form, "cboField");
+    box.addItem("9:15 AM");
+    box.select(1, 1);
+    box.text("10");
+    EXPECT_EQ(box.selStart(), 2);
+    EXPECT_EQ(box.selLength(), 0);
+    box.listIndex(0);
+    EXPECT_EQ(box.selStart(), 7);
 }
 
 TEST_F(ControlsTest, AFixedComboBoxTakesOnlyTheTextOfARow)
@@ -189,6 +226,21 @@ TEST_F(ControlsTest, ATabStripTellsThePageThatWasLeft)
     tabs.selectedTab(7);
     EXPECT_EQ(left, 0);
     EXPECT_EQ(tabs.selectedTab(), 1);
+}
+
+TEST_F(ControlsTest, AWindowIsToldWhenAControlOrAFormEnds)
+{
+    std::vector<std::string> ended;
+    {
+        Form shortLived("frmShort");
+        shortLived.destroyed.subscribe([&] { ended.push_back("form"); });
+        TextBox box(shortLived, "txtName");
+        box.destroyed.subscribe([&] {
+            ended.push_back("control");
+            EXPECT_FALSE(shortLived.findControl("txtName"));
+        });
+    }
+    EXPECT_EQ(ended, (std::vector<std::string>{"control", "form"}));
 }
 
 TEST_F(ControlsTest, AControlThatEndsLeavesItsForm)

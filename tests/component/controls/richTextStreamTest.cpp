@@ -34,14 +34,22 @@ INSTANTIATE_TEST_SUITE_P(
                     StreamCase{"LoneSurrogate", "{\\rtf1 \\u-8704?x}", "\uFFFDx"},
                     StreamCase{"RawUtf8", "{\\rtf1 Müller «x»}", "Müller «x»"},
                     StreamCase{"RawCodePageByte", "{\\rtf1 caf\xE9}", "café"},
+                    StreamCase{"BulletsAreNoText", "{\\rtf1{\\pntext\\'b7\\tab}one{\\listtext 2.\\tab}two}", "onetwo"},
                     StreamCase{"EscapedBraces", "{\\rtf1 \\{a\\\\b\\}}", "{a\\b}"},
-                    StreamCase{"CutShort", "{\\rtf1 a\\'4", "a4"}, StreamCase{"UnbalancedBraces", "{\\rtf1 a}}b}", "ab"}),
+                    StreamCase{"CutShort", "{\\rtf1 a\\'4", "a4"},
+                    StreamCase{"UnbalancedBraces", "{\\rtf1 a}}b}", "ab"}),
     [](const auto& streamCase) { return streamCase.param.name; });
 
 TEST(RichTextStream, EscapedTextReadsBackTheSame)
 {
     const std::string text = "Naïve \\ {brace}\ttab «field» € 😀\nline two";
     EXPECT_EQ(visibleTextOf(streamAround(escapedForStream(text))), text);
+}
+
+TEST(RichTextStream, GroupsDeeperThanAnybodyWritesThemAreTaken)
+{
+    constexpr std::size_t depth = 100'000;
+    EXPECT_EQ(visibleTextOf("{\\rtf1 a" + std::string(depth, '{') + "b" + std::string(depth, '}') + "c}"), "abc");
 }
 
 TEST(RichTextStream, AnyBytesAreTaken)

@@ -12,14 +12,14 @@ namespace qncal::test {
 namespace {
 
 const std::vector<FieldRenaming> lines{
-    {{"<<"}, {"«"}},        {{">>"}, {"»"}},         {{"«(ab"}, {"«(cabc"}}, {{"abc"}, {"Abcd"}},
-    {{"«abcd»"}, {"«b»"}},  {{"\\'abb\\'bb"}, {""}}, {{"d«"}, {"<<"}},       {{"cab"}, {">>abc"}},
-    {{"«bcabc»"}, {"abc"}}, {{"«b»"}, {"«B»"}},
+    {{"<<"}, {"«"}},         {{">>"}, {"»"}},  {{"«(ab"}, {"«(cabc"}}, {{"abc"}, {"Abcd"}},    {{"«abcd»"}, {"«b»"}},
+    {{"\\'abb\\'bb"}, {""}}, {{"d«"}, {"<<"}}, {{"cab"}, {">>abc"}},   {{"«bcabc»"}, {"abc"}}, {{"«b»"}, {"«B»"}},
 };
 
 std::string randomText(std::mt19937& random)
 {
-    static const std::vector<std::string> pieces{"<", "<<", ">>", "«", "»", "a", "b", "C", "d", "ab", "(", "\\'ab", "\\'bb", "Abc"};
+    static const std::vector<std::string> pieces{"<", "<<", ">>", "«", "»",     "a",     "b",
+                                                 "C", "d",  "ab", "(", "\\'ab", "\\'bb", "Abc"};
     std::string text;
     for (auto count = std::uniform_int_distribution<int>(0, 12)(random); count > 0; --count)
         text += pieces[std::uniform_int_distribution<std::size_t>(0, pieces.size() - 1)(random)];

@@ -45,6 +45,7 @@ protected:
 };
 
 template <class Parameter>
-class MergeDataTestWith : public MergeDataTest, public testing::WithParamInterface<Parameter> {};
+class MergeDataTestWith : public MergeDataTest, public testing::WithParamInterface<Parameter> {
+};
 
 } // namespace qncal::test

@@ -32,6 +32,7 @@ protected:
 };
 
 template <class Parameter>
-class SampleMergeTestWith : public SampleMergeTest, public testing::WithParamInterface<Parameter> {};
+class SampleMergeTestWith : public SampleMergeTest, public testing::WithParamInterface<Parameter> {
+};
 
 } // namespace qncal::test

@@ -62,14 +62,15 @@ TEST_P(FirmTemplateTest, ItemsOwnTextsStandAround)
     EXPECT_EQ(engine.createDisplayTextByID2(), "before\r\ntext\r\nafter");
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, FirmTemplateTest,
-    testing::Values(KindRow{"Appointment", 5, "Appointments", "Appt", &clsInsertFieldsInRTB::appointmentID,
-                            "Budget for \r\n 9:30 am to 11:00 am"},
-                    KindRow{"Task", 8, "Tasks", "Task", &clsInsertFieldsInRTB::TaskID, "Budget for \r\n 9:30 am to 11:00 am"},
-                    KindRow{"TimeEntry", 6, "Dockets", "Docket", &clsInsertFieldsInRTB::docketId,
-                            "9:30 am to 11:00 am\r\n \r\n Budget"}),
-    rowName);
+INSTANTIATE_TEST_SUITE_P(Rows, FirmTemplateTest,
+                         testing::Values(KindRow{"Appointment", 5, "Appointments", "Appt",
+                                                 &clsInsertFieldsInRTB::appointmentID,
+                                                 "Budget for \r\n 9:30 am to 11:00 am"},
+                                         KindRow{"Task", 8, "Tasks", "Task", &clsInsertFieldsInRTB::TaskID,
+                                                 "Budget for \r\n 9:30 am to 11:00 am"},
+                                         KindRow{"TimeEntry", 6, "Dockets", "Docket", &clsInsertFieldsInRTB::docketId,
+                                                 "9:30 am to 11:00 am\r\n \r\n Budget"}),
+                         rowName);
 
 struct DamagedRow {
     const char* name;
@@ -96,8 +97,9 @@ TEST_F(MergeDataTest, DefaultContactServesACompany)
     const std::int32_t company = addCompany({{"CompanyName", "Maple Leaf"}});
     const std::int32_t contact = addRow("Contacts", {{"FirstName", "Ann"}});
     addRow("ContactLinks", {{"CompanyNum", std::to_string(company)}, {"ContactIDNum", "99"}});
-    addRow("ContactLinks",
-           {{"CompanyNum", std::to_string(company)}, {"ContactIDNum", std::to_string(contact)}, {"DefaultContact", "True"}});
+    addRow("ContactLinks", {{"CompanyNum", std::to_string(company)},
+                            {"ContactIDNum", std::to_string(contact)},
+                            {"DefaultContact", "True"}});
     addRow("UserCalendarSettings",
            {{"UserIDNum", "-1"}, {"ApptTemplate", "«Contact Display Name», «Contact First Name»"}});
     engine.appointmentID(addRow("Appointments", {}));
@@ -144,8 +146,8 @@ TEST_F(ComponentTest, TestMergeIsShownUntilOk)
         EXPECT_FALSE(hand.form().isVisible());
     });
     frmTestComment().Initialize("{\\rtf1 text}");
-    EXPECT_EQ(errors->labels(),
-              (std::vector<std::string>{"Vestrel.exe-frmTestComments-Initialize", "Vestrel.exe-frmTestComments-cmdOK_Click"}));
+    EXPECT_EQ(errors->labels(), (std::vector<std::string>{"Vestrel.exe-frmTestComments-Initialize",
+                                                          "Vestrel.exe-frmTestComments-cmdOK_Click"}));
 }
 
 } // namespace qncal::test

@@ -23,7 +23,10 @@ protected:
 
 // --- Expressions ---
 
-TEST_F(MergeTest, CopiesWhatIsNoExpression) { EXPECT_EQ(merged("no field, 100% (a, d) \\par"), "no field, 100% (a, d) \\par"); }
+TEST_F(MergeTest, CopiesWhatIsNoExpression)
+{
+    EXPECT_EQ(merged("no field, 100% (a, d) \\par"), "no field, 100% (a, d) \\par");
+}
 
 TEST_F(MergeTest, MatchesNamesWithoutRegardToCase) { EXPECT_EQ(merged("«COMPANY name»"), "Maple Leaf"); }
 
@@ -77,7 +80,10 @@ TEST_F(MergeTest, FormatOnAFieldThatIsNoDateMergesToNothing)
 
 TEST_F(MergeTest, UnknownFieldLeavesTheTextAroundItTouching) { EXPECT_EQ(merged("ab«Nobody»cd"), "abcd"); }
 
-TEST_F(MergeTest, WordDocketBecomesTimeEntryAnywhere) { EXPECT_EQ(merged("Dockets, DOCKET"), "Time Entrys, Time Entry"); }
+TEST_F(MergeTest, WordDocketBecomesTimeEntryAnywhere)
+{
+    EXPECT_EQ(merged("Dockets, DOCKET"), "Time Entrys, Time Entry");
+}
 
 // --- Order of the list ---
 
@@ -185,18 +191,18 @@ TEST_P(DateFormatTest, PassesTheCheck) { EXPECT_FALSE(engine.testRTBComment(expr
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, DateFormatTest,
-    testing::Values(
-        DateRow{"LongWithComma", "dddd, mmmm d yyyy", "Saturday, March 7 2026", "Saturday, March 7 2026"},
-        DateRow{"Long", "dddd mmmm d yyyy", "Saturday March 7 2026", "Saturday March 7 2026"},
-        DateRow{"FullMonthWithComma", "mmmm d, yyyy", "March 7, 2026", "March 7, 2026"},
-        DateRow{"FullMonth", "mmmm d yyyy", "March 7 2026", "March 7 2026"},
-        DateRow{"ShortMonth", "mmm d yyyy", "Mar 7 2026", "Mar 7 2026"},
-        DateRow{"DayFirstDiffers", "dd/mm/yy", "07/Mar/26", "07/03/26"},
-        DateRow{"MonthFirst", "mm/dd/yy", "03/07/26", "03/07/26"}, DateRow{"DayAlone", "d", "7", "7"},
-        DateRow{"WeekdayAlone", "dddd", "Saturday", "Saturday"}, DateRow{"MonthAlone", "mmmm", "March", "March"},
-        DateRow{"ShortMonthAlone", "mmm", "Mar", "Mar"}, DateRow{"YearAlone", "yyyy", "2026", "2026"},
-        DateRow{"MonthAndYear", "mmmm yyyy", "March 2026", "March 2026"},
-        DateRow{"MonthAndDay", "mmmm d", "March 7", "March 7"}),
+    testing::Values(DateRow{"LongWithComma", "dddd, mmmm d yyyy", "Saturday, March 7 2026", "Saturday, March 7 2026"},
+                    DateRow{"Long", "dddd mmmm d yyyy", "Saturday March 7 2026", "Saturday March 7 2026"},
+                    DateRow{"FullMonthWithComma", "mmmm d, yyyy", "March 7, 2026", "March 7, 2026"},
+                    DateRow{"FullMonth", "mmmm d yyyy", "March 7 2026", "March 7 2026"},
+                    DateRow{"ShortMonth", "mmm d yyyy", "Mar 7 2026", "Mar 7 2026"},
+                    DateRow{"DayFirstDiffers", "dd/mm/yy", "07/Mar/26", "07/03/26"},
+                    DateRow{"MonthFirst", "mm/dd/yy", "03/07/26", "03/07/26"}, DateRow{"DayAlone", "d", "7", "7"},
+                    DateRow{"WeekdayAlone", "dddd", "Saturday", "Saturday"},
+                    DateRow{"MonthAlone", "mmmm", "March", "March"}, DateRow{"ShortMonthAlone", "mmm", "Mar", "Mar"},
+                    DateRow{"YearAlone", "yyyy", "2026", "2026"},
+                    DateRow{"MonthAndYear", "mmmm yyyy", "March 2026", "March 2026"},
+                    DateRow{"MonthAndDay", "mmmm d", "March 7", "March 7"}),
     rowName);
 
 TEST_F(MergeTest, TodaysDateTakesAnyPairOfDelimiters)
@@ -289,17 +295,16 @@ TEST_P(ContactForCompanyTest, AsksForTheContactsName)
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ContactForCompanyTest,
-    testing::Values(
-        ExchangeRow{"ContactAlone", -1, 1, "«company name»«Company Name»", "Ann ReedAnn Reed"},
-        ExchangeRow{"CompanyZeroCountsAsNone", 0, 1, "«Company Name»", "Ann Reed"},
-        ExchangeRow{"WithACompany", 1, 1, "«Company Name»", "Maple Leaf"},
-        ExchangeRow{"ContactZeroIsNone", -1, 0, "«Company Name»", "Maple Leaf"},
-        ExchangeRow{"BothNamesStand", -1, 1, "«Company Name»«Contact Display Name»", "Maple LeafAnn Reed"},
-        ExchangeRow{"RichForm", -1, 1, "\\'abCompany Name\\'bb", "Ann Reed"},
-        ExchangeRow{"RichFormOfBoth", -1, 1, "\\'abCompany Name\\'bb\\'abContact Display Name\\'bb",
-                    "Maple LeafAnn Reed"},
-        ExchangeRow{"PlainFormGoesFirst", -1, 1, "«Company Name»«?»\\'abCompany Name\\'bb",
-                    "Ann Reed\\'abCompany Name\\'bb"}),
+    testing::Values(ExchangeRow{"ContactAlone", -1, 1, "«company name»«Company Name»", "Ann ReedAnn Reed"},
+                    ExchangeRow{"CompanyZeroCountsAsNone", 0, 1, "«Company Name»", "Ann Reed"},
+                    ExchangeRow{"WithACompany", 1, 1, "«Company Name»", "Maple Leaf"},
+                    ExchangeRow{"ContactZeroIsNone", -1, 0, "«Company Name»", "Maple Leaf"},
+                    ExchangeRow{"BothNamesStand", -1, 1, "«Company Name»«Contact Display Name»", "Maple LeafAnn Reed"},
+                    ExchangeRow{"RichForm", -1, 1, "\\'abCompany Name\\'bb", "Ann Reed"},
+                    ExchangeRow{"RichFormOfBoth", -1, 1, "\\'abCompany Name\\'bb\\'abContact Display Name\\'bb",
+                                "Maple LeafAnn Reed"},
+                    ExchangeRow{"PlainFormGoesFirst", -1, 1, "«Company Name»«?»\\'abCompany Name\\'bb",
+                                "Ann Reed\\'abCompany Name\\'bb"}),
     rowName);
 
 // --- Small routines ---
@@ -340,8 +345,7 @@ TEST_P(BlankingTest, RemovesWhatIsLeft)
 INSTANTIATE_TEST_SUITE_P(
     Rows, BlankingTest,
     testing::Values(BlankingRow{"EveryOne", "a«A»b«B»c«A»d", "abcd"}, BlankingRow{"EmptyOne", "a«»b", "ab"},
-                    BlankingRow{"FromTheFirstOpening", "a«A«B»c", "ac"},
-                    BlankingRow{"ClosingAloneStays", "a»b", "a»b"},
+                    BlankingRow{"FromTheFirstOpening", "a«A«B»c", "ac"}, BlankingRow{"ClosingAloneStays", "a»b", "a»b"},
                     BlankingRow{"OpeningAloneStays", "«a", "«a"},
                     BlankingRow{"RestBehindAnUnclosedOneStays", "«A»b«c", "b«c"},
                     BlankingRow{"RichOnes", "a\\'abA\\'bbb\\'ABB\\'BBc", "abc"},

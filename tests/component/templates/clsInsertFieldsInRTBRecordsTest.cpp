@@ -24,7 +24,8 @@ TEST_F(MergeDataTest, CompanyNotesStayBlank)
 
 TEST_F(MergeDataTest, ContactFieldsComeFromTheContact)
 {
-    const std::int32_t contact = addContact({{"DisplayName", "Ann Reed"}, {"Custom1", "golf"}, {"Birthday", "1970-03-07"}});
+    const std::int32_t contact =
+        addContact({{"DisplayName", "Ann Reed"}, {"Custom1", "golf"}, {"Birthday", "1970-03-07"}});
     addRow("ContactsNotes", {{"ContactNum", std::to_string(contact)}, {"Notes", "likes tea"}});
     clientDropDown->contacts[contact]["DisplayName"] = "Ann Reed";
     build(2);
@@ -61,7 +62,8 @@ TEST_F(MergeDataTest, ClientFieldsOfTheUnitedStatesComeFromTheirTable)
 TEST_F(MergeDataTest, SoftwareFieldsStayBlank)
 {
     const std::int32_t company = addCompany({{"CompanyName", "Maple Leaf"}});
-    addRow("SoftwareInfo", {{"CompanyIDNum", std::to_string(company)}, {"DefaultSoftware", "True"}, {"SoftwareName", "Ledger"}});
+    addRow("SoftwareInfo",
+           {{"CompanyIDNum", std::to_string(company)}, {"DefaultSoftware", "True"}, {"SoftwareName", "Ledger"}});
     build(1);
     EXPECT_EQ(field("Software Name"), "");
 }
@@ -92,7 +94,8 @@ TEST_F(MergeDataTest, AppointmentFieldsComeFromTheAppointment)
 TEST_F(MergeDataTest, TaskFieldsComeFromTheTaskAndItsSchedule)
 {
     const std::int32_t schedule = addRow("Schedule", {{"DueDate", "2026-04-30"}, {"Custom1", "of the schedule"}});
-    engine.TaskID(addRow("Tasks", {{"Subject", "Return"}, {"ScheduleIDNum", std::to_string(schedule)}, {"Custom1", "of the task"}}));
+    engine.TaskID(addRow(
+        "Tasks", {{"Subject", "Return"}, {"ScheduleIDNum", std::to_string(schedule)}, {"Custom1", "of the task"}}));
     build(8);
     EXPECT_EQ(field("Task Name"), "Return");
     EXPECT_EQ(field("Task Due Date", "d"), "30");
@@ -192,12 +195,14 @@ TEST_P(CodeFieldTest, ShowsTheWord)
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, CodeFieldTest,
-    testing::Values(CodeRow{"RC59Permission", "RC59 Permission Level", "RC59Permission", "None", "2", "Limited"},
-                    CodeRow{"RC59Status", "RC59 Form Status", "RC59Status", "Not Filed", "3", "Completed"},
-                    CodeRow{"GSTFilingMethod", "HST Filing Method", "GSTFilingMethod", "Not Specified", "3", "Quick Method"},
-                    CodeRow{"FinancialStatements", "Financial Statements", "FinancialStatements", "Not Specified", "5", "Audit"},
-                    CodeRow{"CorporationType", "Corporation Type", "CorporationType", "CCPC", "1", "Regular Corporation"},
-                    CodeRow{"CorporationLevel", "Corporation Level", "CorporationLevel", "Federal Corporation", "2", "Provincial Corporation"}),
+    testing::Values(
+        CodeRow{"RC59Permission", "RC59 Permission Level", "RC59Permission", "None", "2", "Limited"},
+        CodeRow{"RC59Status", "RC59 Form Status", "RC59Status", "Not Filed", "3", "Completed"},
+        CodeRow{"GSTFilingMethod", "HST Filing Method", "GSTFilingMethod", "Not Specified", "3", "Quick Method"},
+        CodeRow{"FinancialStatements", "Financial Statements", "FinancialStatements", "Not Specified", "5", "Audit"},
+        CodeRow{"CorporationType", "Corporation Type", "CorporationType", "CCPC", "1", "Regular Corporation"},
+        CodeRow{"CorporationLevel", "Corporation Level", "CorporationLevel", "Federal Corporation", "2",
+                "Provincial Corporation"}),
     rowName);
 
 // --- What a contact takes over from its company ---
@@ -283,7 +288,8 @@ TEST_P(AbbreviatedProvinceTest, IsReadFromTheWholeProvince)
 {
     addCompany({});
     addContact({});
-    setCell(GetParam().table, std::string_view(GetParam().table) == "Companies" ? engine.companyID() : engine.contactID(),
+    setCell(GetParam().table,
+            std::string_view(GetParam().table) == "Companies" ? engine.companyID() : engine.contactID(),
             GetParam().column, "Manitoba");
     build(1);
     EXPECT_EQ(field(GetParam().displayName), "MB");
@@ -292,20 +298,20 @@ TEST_P(AbbreviatedProvinceTest, IsReadFromTheWholeProvince)
     EXPECT_EQ(argument, GetParam().column) << "the argument becomes the column that was read";
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Rows, AbbreviatedProvinceTest,
-    testing::Values(
-        ProvinceRow{"Company", "Abbreviated Province", "AbbreviatedProvince", "Companies", "Province"},
-        ProvinceRow{"CompanyAlternate", "Company Alternate Abbreviated Province", "AltAbbreviatedProvince", "Companies",
-                    "AltProvince"},
-        ProvinceRow{"Business", "Contact Business Abbreviated Province", "BusinessAbbreviatedProvince", "Contacts",
-                    "BusinessProvince"},
-        ProvinceRow{"Home", "Contact Home Abbreviated Province", "HomeAbbreviatedProvince", "Contacts", "HomeProvince"},
-        ProvinceRow{"Spouse", "Spouse Home Abbreviated Province", "SpouseAbbreviatedProvince", "Contacts",
-                    "SpouseProvince"},
-        ProvinceRow{"Alternate", "Contact Alternate Abbreviated Province", "AltAbbreviatedProvince", "Contacts",
-                    "AltProvince"}),
-    rowName);
+INSTANTIATE_TEST_SUITE_P(Rows, AbbreviatedProvinceTest,
+                         testing::Values(ProvinceRow{"Company", "Abbreviated Province", "AbbreviatedProvince",
+                                                     "Companies", "Province"},
+                                         ProvinceRow{"CompanyAlternate", "Company Alternate Abbreviated Province",
+                                                     "AltAbbreviatedProvince", "Companies", "AltProvince"},
+                                         ProvinceRow{"Business", "Contact Business Abbreviated Province",
+                                                     "BusinessAbbreviatedProvince", "Contacts", "BusinessProvince"},
+                                         ProvinceRow{"Home", "Contact Home Abbreviated Province",
+                                                     "HomeAbbreviatedProvince", "Contacts", "HomeProvince"},
+                                         ProvinceRow{"Spouse", "Spouse Home Abbreviated Province",
+                                                     "SpouseAbbreviatedProvince", "Contacts", "SpouseProvince"},
+                                         ProvinceRow{"Alternate", "Contact Alternate Abbreviated Province",
+                                                     "AltAbbreviatedProvince", "Contacts", "AltProvince"}),
+                         rowName);
 
 // --- The life of the record sets ---
 
@@ -343,8 +349,9 @@ TEST_F(MergeDataTest, SoftwareIsOpenedByContactWhereThereIsNoCompany)
     engine.contactID(7);
     engine.initializeDataRecordsetsForSingleDocMerge();
     ASSERT_EQ(recorded->opened.size(), 2u);
-    EXPECT_EQ(recorded->openedSql()[1], "SELECT SoftwareInfo.* From SoftwareInfo WHERE SoftwareInfo.DefaultSoftware=True "
-                                        "AND SoftwareInfo.ContactIDNum=7;");
+    EXPECT_EQ(recorded->openedSql()[1],
+              "SELECT SoftwareInfo.* From SoftwareInfo WHERE SoftwareInfo.DefaultSoftware=True "
+              "AND SoftwareInfo.ContactIDNum=7;");
 }
 
 TEST_F(MergeDataTest, InitialisationWithoutAConnectionOnlyCloses)

@@ -6,13 +6,13 @@ namespace qncal::test {
 namespace {
 
 constexpr const char* missingOpening = "You are missing your opening brackets, '«' in one of your expressions";
-constexpr const char* missingClosingRound
-    = "You are missing the closing round bracket, ')' in one of your date expressions";
-constexpr const char* missingOpeningRound
-    = "You are missing the opening round bracket, '(' in one of your date expressions";
-constexpr const char* missingClosing
-    = "You are missing a closing bracket, '»' in one of your expressions.  Make sure you have a bracket immediately "
-      "before and after a field.\r\n\r\neg. «Company Name»";
+constexpr const char* missingClosingRound =
+    "You are missing the closing round bracket, ')' in one of your date expressions";
+constexpr const char* missingOpeningRound =
+    "You are missing the opening round bracket, '(' in one of your date expressions";
+constexpr const char* missingClosing =
+    "You are missing a closing bracket, '»' in one of your expressions.  Make sure you have a bracket immediately "
+    "before and after a field.\r\n\r\neg. «Company Name»";
 
 std::string unknownFormat(const std::string& format)
 {
@@ -65,36 +65,37 @@ TEST_P(ValidationTest, KeepsQuietWhenAskedTo)
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, ValidationTest,
-    testing::Values(
-        FaultRow{"NoExpression", "no expression", ""}, FaultRow{"KnownName", "for «company name» only", ""},
-        FaultRow{"KnownNameRich", "\\b \\'abCompany Name\\'bb", "", true},
-        FaultRow{"PlainExpressionsOfARichTemplateAreText", "«Nobody»", "", true},
-        FaultRow{"TodaysDate", "«(Todays Date, d)»", ""}, FaultRow{"TodaysDateWithoutAFormat", "«todays DATE»", ""},
-        FaultRow{"ClosingAlone", "a » b", ""}, FaultRow{"ClosingBeforeTheFirstOpening", "» «Company Name»", missingOpening},
-        FaultRow{"OpeningAlone", "a « b", missingOpening},
-        FaultRow{"ClosingBeforeALaterOpening", "«Company Name» » «Company Name»", missingOpening},
-        FaultRow{"OpeningAloneLater", "«Company Name» «", missingOpening},
-        FaultRow{"OpeningAloneRich", "\\'ab", missingOpening, true},
-        FaultRow{"ClosingRoundBracketMissing", "«(Task Due Date, d»", missingClosingRound},
-        FaultRow{"RoundBracketAlone", "«(»", missingClosingRound},
-        FaultRow{"OpeningRoundBracketMissing", "«Task Due Date, d)»", missingOpeningRound},
-        FaultRow{"BlankAfterTheCommaMayLack", "«(Task Due Date,mmmm d yyyy)»", ""},
-        FaultRow{"BlanksAroundBothPartsAreTrimmed", "«( Task Due Date ,  d )»", ""},
-        FaultRow{"FormatKeepsItsOwnComma", "«(Task Due Date, dddd, mmmm d yyyy)»", ""},
-        FaultRow{"FormatInCapitals", "«(Task Due Date, MMMM D YYYY)»", unknownFormat("MMMM D YYYY")},
-        FaultRow{"FormatUnknown", "«(Task Due Date, yy)»", unknownFormat("yy")},
-        FaultRow{"FormatEmpty", "«(Task Due Date,)»", unknownFormat("")},
-        FaultRow{"DateFieldWithoutAFormat", "«Task Due Date»", ""},
-        FaultRow{"FormatOnAFieldThatIsNoDate", "«(Company Name, mmmm d yyyy)»", ""},
-        FaultRow{"FortyCharacters", "«" + fortyCharacters + "»", ""},
-        FaultRow{"FortyOneCharacters", "«" + fortyOneCharacters + "»", missingClosing},
-        FaultRow{"LengthOfADateIsThatOfItsName", "«(Task Due Date,                        dddd, mmmm d yyyy)»", ""},
-        FaultRow{"NameUnknown", "«Nobody»", unknownName("Nobody")},
-        FaultRow{"NameUnknownRich", "\\'abNobody\\'bb", unknownName("Nobody"), true},
-        FaultRow{"NameOfADateUnknown", "«(Nobody, d)»", unknownName("Nobody")},
-        FaultRow{"NameEmpty", "«»", unknownName("")},
-        FaultRow{"OnlyTheFirstFault", "«Nobody» «Nothing» »", unknownName("Nobody")},
-        FaultRow{"LegacyNameIsConvertedFirst", "<<(due date, d)>>", ""}),
+    testing::Values(FaultRow{"NoExpression", "no expression", ""}, FaultRow{"KnownName", "for «company name» only", ""},
+                    FaultRow{"KnownNameRich", "\\b \\'abCompany Name\\'bb", "", true},
+                    FaultRow{"PlainExpressionsOfARichTemplateAreText", "«Nobody»", "", true},
+                    FaultRow{"TodaysDate", "«(Todays Date, d)»", ""},
+                    FaultRow{"TodaysDateWithoutAFormat", "«todays DATE»", ""}, FaultRow{"ClosingAlone", "a » b", ""},
+                    FaultRow{"ClosingBeforeTheFirstOpening", "» «Company Name»", missingOpening},
+                    FaultRow{"OpeningAlone", "a « b", missingOpening},
+                    FaultRow{"ClosingBeforeALaterOpening", "«Company Name» » «Company Name»", missingOpening},
+                    FaultRow{"OpeningAloneLater", "«Company Name» «", missingOpening},
+                    FaultRow{"OpeningAloneRich", "\\'ab", missingOpening, true},
+                    FaultRow{"ClosingRoundBracketMissing", "«(Task Due Date, d»", missingClosingRound},
+                    FaultRow{"RoundBracketAlone", "«(»", missingClosingRound},
+                    FaultRow{"OpeningRoundBracketMissing", "«Task Due Date, d)»", missingOpeningRound},
+                    FaultRow{"BlankAfterTheCommaMayLack", "«(Task Due Date,mmmm d yyyy)»", ""},
+                    FaultRow{"BlanksAroundBothPartsAreTrimmed", "«( Task Due Date ,  d )»", ""},
+                    FaultRow{"FormatKeepsItsOwnComma", "«(Task Due Date, dddd, mmmm d yyyy)»", ""},
+                    FaultRow{"FormatInCapitals", "«(Task Due Date, MMMM D YYYY)»", unknownFormat("MMMM D YYYY")},
+                    FaultRow{"FormatUnknown", "«(Task Due Date, yy)»", unknownFormat("yy")},
+                    FaultRow{"FormatEmpty", "«(Task Due Date,)»", unknownFormat("")},
+                    FaultRow{"DateFieldWithoutAFormat", "«Task Due Date»", ""},
+                    FaultRow{"FormatOnAFieldThatIsNoDate", "«(Company Name, mmmm d yyyy)»", ""},
+                    FaultRow{"FortyCharacters", "«" + fortyCharacters + "»", ""},
+                    FaultRow{"FortyOneCharacters", "«" + fortyOneCharacters + "»", missingClosing},
+                    FaultRow{"LengthOfADateIsThatOfItsName",
+                             "«(Task Due Date,                        dddd, mmmm d yyyy)»", ""},
+                    FaultRow{"NameUnknown", "«Nobody»", unknownName("Nobody")},
+                    FaultRow{"NameUnknownRich", "\\'abNobody\\'bb", unknownName("Nobody"), true},
+                    FaultRow{"NameOfADateUnknown", "«(Nobody, d)»", unknownName("Nobody")},
+                    FaultRow{"NameEmpty", "«»", unknownName("")},
+                    FaultRow{"OnlyTheFirstFault", "«Nobody» «Nothing» »", unknownName("Nobody")},
+                    FaultRow{"LegacyNameIsConvertedFirst", "<<(due date, d)>>", ""}),
     rowName);
 
 TEST_F(SampleMergeTest, NamesNeedNotBeChecked)

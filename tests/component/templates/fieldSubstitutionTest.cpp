@@ -1,7 +1,7 @@
+#include "templates/fieldSubstitution.h"
 #include "component/templates/randomTemplate.h"
 #include "support/randomSeed.h"
 #include "templates/clsInsertFieldsInRTB.h"
-#include "templates/fieldSubstitution.h"
 #include "templates/unfoundFields.h"
 
 #include <gtest/gtest.h>
@@ -42,16 +42,17 @@ TEST(fieldSubstitutionTest, GivesWhatTryingEveryRowGives)
         std::vector<std::optional<std::string>> values;
         for (std::size_t i = 0; i < fields.size(); ++i)
             values.push_back(random.oneIn(5) ? std::nullopt : std::optional(random.text(fields, 3)));
-        const std::string text = random.text(fields, 14);
+        const std::string text = random.oneIn(4) ? random.denseText(20) : random.text(fields, 14);
         const bool richText = random.oneIn(2);
         const DelimiterPair& pair = random.oneIn(2) ? richDelimiters : plainDelimiters;
 
         std::string expected = text;
         Asked plainAsked;
-        const bool expectedReplaced = plainPass(expected, pair, fields, richText, [&](std::size_t i, const auto& format) {
-            plainAsked.add(i, format);
-            return values[i];
-        });
+        const bool expectedReplaced =
+            plainPass(expected, pair, fields, richText, [&](std::size_t i, const auto& format) {
+                plainAsked.add(i, format);
+                return values[i];
+            });
         std::string merged = text;
         Asked asked;
         FieldListCollection list = listOf(fields);
@@ -71,7 +72,7 @@ TEST(unfoundFieldsTest, RemovesWhatRemovingOneByOneRemoves)
     RandomTemplate random(seed);
     const std::vector<PlainField> fields{{"A", false}, {"", false}};
     for (int run = 0; run < 100000; ++run) {
-        const std::string text = random.text(fields, 30);
+        const std::string text = random.oneIn(2) ? random.denseText(40) : random.text(fields, 30);
         std::string expected = text;
         plainBlanking(expected);
         std::string removed = text;

@@ -10,11 +10,11 @@ namespace qncal::test {
 
 namespace {
 
-constexpr std::array<std::string_view, 12> names{"A", "B", "AB", "Company Name", "Due", "a b", "Nom été", "",
-                                                 "A»«B", "x«y", "z\\'bb", "A, d"};
-constexpr std::array<std::string_view, 22> fragments{
-    "«", "«", "»", "»", "\\'ab", "\\'bb", "\\'AB", "\\'Bb", "\\", "\\'", "\\'a", "'ab", "b",
-    "\xC2", "\xAB", "\xBB", " ", "\r\n", "A", "日本", "(", "Company "};
+constexpr std::array<std::string_view, 12> names{"A",       "B", "AB",   "Company Name", "Due",    "a b",
+                                                 "Nom été", "",  "A»«B", "x«y",          "z\\'bb", "A, d"};
+constexpr std::array<std::string_view, 22> fragments{"«",  "«",    "»",    "»",    "\\'ab", "\\'bb",   "\\'AB", "\\'Bb",
+                                                     "\\", "\\'",  "\\'a", "'ab",  "b",     "\xC2",    "\xAB",  "\xBB",
+                                                     " ",  "\r\n", "A",    "日本", "(",     "Company "};
 
 } // namespace
 
@@ -22,7 +22,8 @@ std::vector<PlainField> RandomTemplate::fields()
 {
     std::vector<PlainField> fields;
     for (int count = 1 + below(6); count > 0; --count)
-        fields.push_back({std::string(names[static_cast<std::size_t>(below(static_cast<int>(names.size())))]), oneIn(4)});
+        fields.push_back(
+            {std::string(names[static_cast<std::size_t>(below(static_cast<int>(names.size())))]), oneIn(4)});
     return fields;
 }
 
@@ -31,6 +32,17 @@ std::string RandomTemplate::text(const std::vector<PlainField>& fields, int most
     std::string text;
     for (int pieces = below(mostPieces + 1); pieces > 0; --pieces)
         text += piece(fields);
+    return text;
+}
+
+std::string RandomTemplate::denseText(int mostPieces)
+{
+    constexpr std::array<std::string_view, 6> plain{"«", "«", "»", "A", "«A»", "\xC2"};
+    constexpr std::array<std::string_view, 8> rich{"\\'ab", "\\'ab", "\\'bb", "A", "\\'abA\\'bb", "\\", "'a", "b"};
+    const bool isRich = oneIn(2);
+    std::string text;
+    for (int pieces = below(mostPieces + 1); pieces > 0; --pieces)
+        text += isRich ? rich[static_cast<std::size_t>(below(8))] : plain[static_cast<std::size_t>(below(6))];
     return text;
 }
 

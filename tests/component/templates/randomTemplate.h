@@ -17,6 +17,8 @@ public:
     std::vector<PlainField> fields();
     /// A text that may hold expressions of those fields.
     std::string text(const std::vector<PlainField>& fields, int mostPieces);
+    /// A text of little else than delimiters, the more to nest and to join.
+    std::string denseText(int mostPieces);
     bool oneIn(int chances) { return below(chances) == 0; }
     int below(int limit) { return std::uniform_int_distribution<int>(0, limit - 1)(random_); }
 

@@ -77,6 +77,25 @@ TEST_F(FieldListCollectionTest, OfTwoEqualNamesTheFirstIsFound)
     EXPECT_EQ(list.current().databaseField.view(), "CalendarDate");
 }
 
+TEST_F(FieldListCollectionTest, ASearchMayBeginBehindARow)
+{
+    for (int search = 0; search < 30; ++search) { // the first ones without an index, the later ones with it
+        EXPECT_EQ(list.positionOfDisplayName("task calendar date"), 1);
+        EXPECT_EQ(list.positionOfDisplayName("task calendar date", 2), 2);
+        EXPECT_EQ(list.positionOfDisplayName("task calendar date", 3), -1);
+    }
+    EXPECT_EQ(list.getCurrentKey(), 3);
+}
+
+TEST_F(FieldListCollectionTest, TellsWhichBytesItsNamesHold)
+{
+    EXPECT_FALSE(list.displayNamesHold('#'));
+    list.addRow(rowOf(4, "Custom1", "File #"));
+    EXPECT_TRUE(list.displayNamesHold('#'));
+    EXPECT_TRUE(list.displayNamesHold('T'));
+    EXPECT_FALSE(list.displayNamesHold('?'));
+}
+
 TEST_F(FieldListCollectionTest, ComparesWithoutRegardToCase)
 {
     EXPECT_EQ(list.findInColumn(FieldListCollection::displayName, "TASK calendar date"), 1);

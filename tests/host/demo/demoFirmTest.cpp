@@ -54,10 +54,19 @@ TEST_F(DemoFirmTest, HasWhatItWasAskedFor)
     EXPECT_GT(count("Appointments"), 200);
     EXPECT_GT(count("Tasks"), 50);
     EXPECT_GT(count("Dockets"), 50);
-    EXPECT_GT(count("Appointments WHERE Remind=True"), 50);
-    EXPECT_GT(count("Appointments WHERE notifyType>0"), 5);
+    EXPECT_GT(count("Reminders"), 50);
+    EXPECT_GT(count("ClientNotification"), 5);
     EXPECT_EQ(count("ColourSchemes"), 7);
     EXPECT_EQ(count("CustomFields"), 1);
+}
+
+TEST_F(DemoFirmTest, RemindersOfThePastHaveBeenShown)
+{
+    fillDemoFirm(host, {});
+    EXPECT_GT(count("Reminders WHERE Completed=True"), 0);
+    EXPECT_GT(count("Reminders WHERE Completed=False"), 0);
+    EXPECT_EQ(count("Reminders WHERE Completed=False AND ReminderDate<#2026-03-04#"), 0);
+    EXPECT_EQ(count("Reminders WHERE Completed=True AND ReminderDate>=#2026-03-04#"), 0);
 }
 
 TEST_F(DemoFirmTest, TheSameSeedGivesTheSameFirmAndAnotherAnother)

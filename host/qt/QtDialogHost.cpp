@@ -1,0 +1,168 @@
+#include "qt/QtDialogHost.h"
+
+#include "controls/RichTextBox.h"
+#include "qt/ProgressWindow.h"
+#include "qt/convert.h"
+#include "qt/printRichText.h"
+
+#include <QApplication>
+#include <QColorDialog>
+#include <QEventLoop>
+
+#include <algorithm>
+
+namespace qncal::host {
+
+QtDialogHost::~QtDialogHost()
+{
+    for (const Shown& shown : shown_)
+        delete shown.window;
+}
+
+std::vector<QtDialogHost::Shown>::iterator QtDialogHost::find(const Form& form)
+{
+    return std::find_if(shown_.begin(), shown_.end(), [&](const Shown& shown) { return shown.form == &form; });
+}
+
+FormWindow* QtDialogHost::windowOf(const Form& form) const
+{
+    const auto found = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& s) { return s.form == &form; });
+    return found == shown_.end() ? nullptr : found->window.data();
+}
+
+QWidget* QtDialogHost::owner() const
+{
+    if (QWidget* modal = QApplication::activeModalWidget())
+        return modal;
+    for (auto shown = shown_.rbegin(); shown != shown_.rend(); ++shown)
+        if (shown->window && shown->window->isActiveWindow())
+            return shown->window;
+    return mainWindow_;
+}
+
+FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
+{
+    FormWindow* window = windows_.make(form, owner());
+    window->setModal(loop != nullptr);
+    shown_.push_back({&form, window, loop});
+    // Handlers that run while the window comes up may take the form away again.
+    const QPointer<FormWindow> alive(window);
+    window->show();
+    if (alive && find(form) != shown_.end()) {
+        window->raise();
+        window->activateWindow();
+    }
+    return alive;
+}
+
+void QtDialogHost::showModal(Form& form)
+{
+    if (!qApp)
+        return;
+    hide(form);
+    QEventLoop loop;
+    const QPointer<FormWindow> window = open(form, &loop);
+    const auto isOpen = [&] { return window && windowOf(form) == window; };
+    if (isOpen())
+        loop.exec(QEventLoop::DialogExec);
+    // The application may have ended the loop rather than the form.
+    if (isOpen())
+        hide(form);
+    delete window;
+}
+
+void QtDialogHost::show(Form& form)
+{
+    if (!qApp)
+        return;
+    if (windowOf(form))
+        bringToFront(form);
+    else
+        open(form, nullptr);
+}
+
+void QtDialogHost::hide(Form& form)
+{
+    const auto found = find(form);
+    if (found == shown_.end())
+        return;
+    const Shown shown = *found;
+    shown_.erase(found);
+    if (shown.window)
+        shown.window->hide();
+    // A modal window goes when its loop has ended; what hides a modeless one may stand in one of its own handlers.
+    if (shown.loop)
+        shown.loop->quit();
+    else if (shown.window)
+        shown.window->deleteLater();
+}
+
+void QtDialogHost::bringToFront(Form& form)
+{
+    if (FormWindow* window = windowOf(form)) {
+        window->showNormal();
+        window->raise();
+        window->activateWindow();
+    }
+}
+
+void QtDialogHost::mousePointer(MousePointer pointer)
+{
+    if (pointer_ == pointer)
+        return;
+    pointer_ = pointer;
+    if (!qApp)
+        return;
+    if (pointer == MousePointer::hourglass)
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    else
+        QApplication::restoreOverrideCursor();
+}
+
+bool QtDialogHost::isKeyDown(ModifierKey key) const
+{
+    const Qt::KeyboardModifiers down = qApp ? QApplication::keyboardModifiers() : Qt::NoModifier;
+    switch (key) {
+    case ModifierKey::shift:
+        return down.testFlag(Qt::ShiftModifier);
+    case ModifierKey::control:
+        return down.testFlag(Qt::ControlModifier);
+    case ModifierKey::alt:
+        return down.testFlag(Qt::AltModifier);
+    }
+    return false;
+}
+
+void QtDialogHost::doEvents()
+{
+    if (qApp)
+        QApplication::processEvents();
+}
+
+void QtDialogHost::runProgress(ProgressDialog& dialog)
+{
+    if (!qApp) {
+        dialog.run();
+        return;
+    }
+    ProgressWindow window(dialog, owner());
+    window.run();
+}
+
+bool QtDialogHost::print(const RichTextBox& box)
+{
+    return qApp && printRichText(box.textRTF(), owner(), choosePrinter_);
+}
+
+std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
+{
+    if (!qApp)
+        return {};
+    QColorDialog dialog(toQtColour(current), owner());
+    dialog.setObjectName("pickColour");
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    return fromQtColour(dialog.selectedColor());
+}
+
+} // namespace qncal::host

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "controls/DialogHost.h"
+#include "qt/WindowRegistry.h"
+
+#include <QPointer>
+
+#include <functional>
+#include <vector>
+
+class QEventLoop;
+class QPrinter;
+
+namespace qncal::host {
+
+/// The dialog host over Qt Widgets. Lives on the thread of the QApplication; without one, forms that are shown
+/// return at once as if closed.
+class QtDialogHost : public DialogHost {
+public:
+    explicit QtDialogHost(WindowRegistry windows = standardWindows()) : windows_(std::move(windows)) {}
+    ~QtDialogHost() override;
+
+    /// Windows open in front of this one when no other form is open.
+    void mainWindow(QWidget* window) { mainWindow_ = window; }
+    /// The window of a form that is shown, none otherwise.
+    FormWindow* windowOf(const Form& form) const;
+    /// Asks for the printer before a text is printed; False cancels. The print dialog unless set.
+    void choosePrinter(std::function<bool(QPrinter& printer)> choose) { choosePrinter_ = std::move(choose); }
+
+    void showModal(Form& form) override;
+    void show(Form& form) override;
+    void hide(Form& form) override;
+    void bringToFront(Form& form) override;
+    MousePointer mousePointer() const override { return pointer_; }
+    void mousePointer(MousePointer pointer) override;
+    bool isKeyDown(ModifierKey key) const override;
+    void doEvents() override;
+    void runProgress(ProgressDialog& dialog) override;
+    bool print(const RichTextBox& box) override;
+    std::optional<std::int32_t> pickColour(std::int32_t current) override;
+
+private:
+    struct Shown {
+        Form* form;
+        QPointer<FormWindow> window;
+        /// The loop that waits for a modal form, none for a modeless one.
+        QEventLoop* loop;
+    };
+
+    FormWindow* open(Form& form, QEventLoop* loop);
+    std::vector<Shown>::iterator find(const Form& form);
+    /// What a new window opens in front of.
+    QWidget* owner() const;
+
+    WindowRegistry windows_;
+    std::vector<Shown> shown_;
+    QPointer<QWidget> mainWindow_;
+    std::function<bool(QPrinter& printer)> choosePrinter_;
+    MousePointer pointer_ = MousePointer::standard;
+};
+
+} // namespace qncal::host

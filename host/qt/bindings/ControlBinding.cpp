@@ -1,0 +1,154 @@
+#include "qt/bindings/ControlBinding.h"
+
+#include "controls/Form.h"
+#include "qt/bindings/keyCodes.h"
+#include "qt/convert.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+namespace qncal::host {
+
+namespace {
+
+constexpr const char* boundControl = "qncalControl";
+
+void colour(QPalette& palette, const std::optional<Colour>& value, std::initializer_list<QPalette::ColorRole> roles)
+{
+    const QColor shown = value ? toQtColour(*value) : QColor();
+    if (shown.isValid())
+        for (const QPalette::ColorRole role : roles)
+            palette.setColor(role, shown);
+}
+
+} // namespace
+
+ControlBinding::ControlBinding(Control& control, QWidget& widget)
+    : QObject(&widget), control_(&control), widget_(&widget),
+      updated_(control.updated, this, [this] { waiting_ ? void() : showEverything(); }),
+      destroyed_(control.destroyed, this, [this] {
+          control_ = nullptr;
+          updated_.forget();
+          destroyed_.forget();
+          widget_->setEnabled(false);
+      })
+{
+    widget.setObjectName(toQt(control.path()));
+    widget.setProperty(boundControl, QVariant::fromValue(static_cast<void*>(&control)));
+    watch(widget);
+}
+
+QWidget* ControlBinding::widgetOf(const QWidget& window, const Control& control)
+{
+    const auto named = window.findChildren<QWidget*>(toQt(control.path()));
+    for (QWidget* widget : named)
+        if (widget->property(boundControl).value<void*>() == &control)
+            return widget;
+    return nullptr;
+}
+
+void ControlBinding::start(When when)
+{
+    if (when == When::nextTurn)
+        updated_ = Subscription(control_->updated, this, [this] { showLater(); });
+    showEverything();
+}
+
+void ControlBinding::watch(QWidget& part) { part.installEventFilter(this); }
+
+void ControlBinding::showLater()
+{
+    if (std::exchange(waiting_, true))
+        return;
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            waiting_ = false;
+            showEverything();
+        },
+        Qt::QueuedConnection);
+}
+
+void ControlBinding::showEverything()
+{
+    if (!control_ || takingOver_)
+        return;
+    const QScopedValueRollback mark(showing_, true);
+    showGeneral();
+    show();
+}
+
+void ControlBinding::showGeneral()
+{
+    widget_->setEnabled(control_->isEnabled());
+    // A widget without a parent would become a window of its own.
+    if (!control_->isVisible() || widget_->parentWidget())
+        widget_->setVisible(control_->isVisible());
+    // A window may give names of its own to what the form leaves unnamed.
+    if (std::exchange(shownToolTip_, control_->toolTip()) != control_->toolTip())
+        widget_->setToolTip(toQt(shownToolTip_));
+    if (std::exchange(shownName_, control_->accessibleName()) != control_->accessibleName())
+        widget_->setAccessibleName(withoutAccessKey(shownName_));
+    if (shownBack_ != control_->backColour() || shownFore_ != control_->foreColour()) {
+        shownBack_ = control_->backColour();
+        shownFore_ = control_->foreColour();
+        showColours();
+    }
+}
+
+void ControlBinding::showColours()
+{
+    QPalette palette;
+    colour(palette, control_->backColour(), {QPalette::Window, QPalette::Base, QPalette::Button});
+    colour(palette, control_->foreColour(), {QPalette::WindowText, QPalette::Text, QPalette::ButtonText});
+    widget_->setPalette(palette);
+}
+
+bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
+{
+    if (!control_)
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::FocusIn:
+        control_->setFocus();
+        break;
+    case QEvent::KeyPress:
+        if (keyPressed(watched, event))
+            return true;
+        break;
+    case QEvent::KeyRelease:
+        if (const auto* key = static_cast<QKeyEvent*>(event); control_->KeyUp && !key->isAutoRepeat())
+            control_->KeyUp(keyCodeOf(*key));
+        break;
+    case QEvent::MouseButtonDblClick:
+        doubleClicked();
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+/// True when the control's KeyPress swallowed the key or put another in its place.
+bool ControlBinding::keyPressed(QObject* watched, QEvent* event)
+{
+    const auto& key = static_cast<QKeyEvent&>(*event);
+    if (passingOn_ || !control_->KeyPress || key.text().isEmpty()
+        || (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0)
+        return false;
+    const auto typed = static_cast<std::int32_t>(key.text().toUcs4().front());
+    std::int32_t character = typed;
+    const QPointer<ControlBinding> alive(this);
+    control_->KeyPress(character);
+    if (!alive || character == 0)
+        return true;
+    if (character == typed)
+        return false;
+    const QScopedValueRollback mark(passingOn_, true);
+    const auto changed = static_cast<char32_t>(character);
+    QKeyEvent other(QEvent::KeyPress, 0, key.modifiers() & ~Qt::ControlModifier, QString::fromUcs4(&changed, 1));
+    QCoreApplication::sendEvent(watched, &other);
+    return true;
+}
+
+} // namespace qncal::host

@@ -1,0 +1,217 @@
+#include "controls/ProgressDialog.h"
+#include "controls/RichTextBox.h"
+#include "controls/TextBox.h"
+#include "controls/captionedControls.h"
+#include "host/qt/QtDialogTest.h"
+
+#include <QColorDialog>
+#include <QLineEdit>
+#include <QPrinter>
+#include <QProgressDialog>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+namespace qncal::test {
+namespace {
+
+struct NameForm : Form {
+    NameForm() : Form("frmName")
+    {
+        cmdOk.Click = [this] { unload(); };
+    }
+    void Form_QueryUnload(bool& cancel, bool byUser) override { cancel = refuses && byUser; }
+    TextBox txtName{*this, "txtName"};
+    CommandButton cmdOk{*this, "cmdOk"};
+    bool refuses = false;
+};
+
+struct QtDialogHostTest : QtDialogTest {
+    NameForm form;
+};
+
+TEST_F(QtDialogHostTest, AModalFormReturnsWhenItIsHidden)
+{
+    bool shown = false;
+    whenShown("frmName", [&](host::FormWindow& window) {
+        shown = true;
+        EXPECT_TRUE(window.isModal());
+        EXPECT_EQ(qt->windowOf(form), &window);
+        form.hide();
+    });
+    form.showModal();
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(qt->windowOf(form));
+}
+
+TEST_F(QtDialogHostTest, AFormMayBeShownAgainWithItsState)
+{
+    whenShown("frmName", [&](host::FormWindow& window) {
+        type(window, "txtName", "Ann");
+        form.hide();
+    });
+    form.showModal();
+    whenShown("frmName", [&](host::FormWindow& window) {
+        EXPECT_EQ(widget<QLineEdit>(window, "txtName").text(), "Ann");
+        form.hide();
+    });
+    form.showModal();
+}
+
+TEST_F(QtDialogHostTest, AFormMayRefuseTheBoxInTheCorner)
+{
+    form.refuses = true;
+    whenShown("frmName", [&](host::FormWindow& window) {
+        window.close();
+        EXPECT_TRUE(window.isVisible());
+        click(window, "cmdOk");
+        EXPECT_FALSE(window.isVisible());
+    });
+    form.showModal();
+}
+
+TEST_F(QtDialogHostTest, EscapeWithoutACancelButtonDoesNothing)
+{
+    whenShown("frmName", [&](host::FormWindow& window) {
+        QTest::keyClick(&window, Qt::Key_Escape);
+        EXPECT_TRUE(window.isVisible());
+    });
+    form.showModal();
+}
+
+TEST_F(QtDialogHostTest, AFormMayHideItselfWhileItComesUp)
+{
+    form.txtName.GotFocus = [&] { form.hide(); };
+    form.showModal();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(QtDialogHostTest, AModelessFormStaysWhileTheProgramGoesOn)
+{
+    form.show();
+    auto* window = qt->windowOf(form);
+    ASSERT_TRUE(window);
+    EXPECT_FALSE(window->isModal());
+    form.caption("Later");
+    EXPECT_EQ(window->windowTitle(), "Later");
+    form.bringToFront();
+    form.show();
+    EXPECT_EQ(qt->windowOf(form), window) << "one window for each form";
+    form.hide();
+    EXPECT_FALSE(window->isVisible());
+}
+
+TEST_F(QtDialogHostTest, AFormThatEndsTakesItsWindowAway)
+{
+    QPointer<host::FormWindow> window;
+    {
+        NameForm shortLived;
+        shortLived.show();
+        window = qt->windowOf(shortLived);
+    }
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(window);
+}
+
+TEST_F(QtDialogHostTest, AHostThatEndsTakesItsWindowsAway)
+{
+    form.show();
+    const QPointer<host::FormWindow> window = qt->windowOf(form);
+    setDialogHost(nullptr);
+    qt.reset();
+    EXPECT_FALSE(window);
+    form.hide();
+}
+
+TEST_F(QtDialogHostTest, TheFocusThatTheFormSetsIsTheWindows)
+{
+    form.cmdOk.setFocus();
+    whenShown("frmName", [&](host::FormWindow& window) {
+        EXPECT_TRUE(widget<QPushButton>(window, "cmdOk").hasFocus());
+        form.txtName.setFocus();
+        EXPECT_TRUE(widget<QLineEdit>(window, "txtName").hasFocus());
+    });
+    form.showModal();
+}
+
+TEST_F(QtDialogHostTest, ThePointerOfTheApplicationAndOfAForm)
+{
+    qt->mousePointer(MousePointer::hourglass);
+    ASSERT_TRUE(QApplication::overrideCursor());
+    EXPECT_EQ(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
+    qt->mousePointer(MousePointer::standard);
+    EXPECT_FALSE(QApplication::overrideCursor());
+    form.show();
+    form.mousePointer(MousePointer::hourglass);
+    EXPECT_EQ(qt->windowOf(form)->cursor().shape(), Qt::WaitCursor);
+}
+
+TEST_F(QtDialogHostTest, TellsTheKeysHeldDown)
+{
+    form.show();
+    QWidget& window = *qt->windowOf(form);
+    QTest::keyPress(&window, Qt::Key_Shift, Qt::ShiftModifier);
+    EXPECT_TRUE(qt->isKeyDown(ModifierKey::shift));
+    EXPECT_FALSE(qt->isKeyDown(ModifierKey::control));
+    QTest::keyRelease(&window, Qt::Key_Shift);
+    EXPECT_FALSE(qt->isKeyDown(ModifierKey::shift));
+}
+
+TEST_F(QtDialogHostTest, DoEventsRunsWhatWaits)
+{
+    bool ran = false;
+    QTimer::singleShot(0, qApp, [&] { ran = true; });
+    qt->doEvents();
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(QtDialogHostTest, AProgressDialogShowsItsStateAndCanBeCancelled)
+{
+    ProgressDialog progress;
+    progress.text("Working");
+    progress.maximum(10);
+    int steps = 0;
+    progress.StartProgress = [&] {
+        auto* window = qobject_cast<QProgressDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(window);
+        EXPECT_EQ(window->labelText(), "Working");
+        EXPECT_EQ(window->maximum(), 10);
+        while (!progress.isCancelled() && steps < 10) {
+            progress.value(++steps);
+            EXPECT_EQ(window->value(), steps);
+            if (steps == 4)
+                QTest::mouseClick(window->findChild<QPushButton*>(), Qt::LeftButton);
+        }
+    };
+    progress.show();
+    EXPECT_EQ(steps, 4);
+    EXPECT_TRUE(progress.isClosed());
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
+TEST_F(QtDialogHostTest, ACancelledColourDialogPicksNone)
+{
+    QTimer::singleShot(0, qApp, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
+    EXPECT_FALSE(qt->pickColour(0));
+}
+
+TEST_F(QtDialogHostTest, PrintsARichText)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("notes.pdf");
+    RichTextBox box(form, "rtbNotes");
+    box.textRTF("{\\rtf1 Notes\\par}");
+    qt->choosePrinter([](QPrinter&) { return false; });
+    EXPECT_FALSE(box.print());
+    qt->choosePrinter([&](QPrinter& printer) {
+        printer.setOutputFormat(QPrinter::PdfFormat);
+        printer.setOutputFileName(path);
+        return true;
+    });
+    EXPECT_TRUE(box.print());
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(file.readAll().startsWith("%PDF"));
+}
+
+} // namespace
+} // namespace qncal::test

@@ -1,0 +1,156 @@
+#include "controls/RichTextBox.h"
+#include "controls/richTextStream.h"
+#include "headless/HeadlessDialogHost.h"
+#include "host/qt/bindings/TestForm.h"
+#include "qt/widgets/RichTextEdit.h"
+#include "qt/widgets/RichTextToolBar.h"
+
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QClipboard>
+#include <QComboBox>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QToolButton>
+
+namespace qncal::test {
+namespace {
+
+struct RichTextBindingTest : testing::Test {
+    host::RichTextEdit& shown()
+    {
+        auto& edit = t.show<host::RichTextEdit>(box);
+        t.open();
+        edit.setFocus();
+        return edit;
+    }
+    bool streamHas(const char* word) const { return box.textRTF().find(word) != std::string::npos; }
+
+    TestForm t;
+    RichTextBox box{t.form, "rtbNotes"};
+};
+
+TEST_F(RichTextBindingTest, WhatIsOnlyShownStaysByteForByte)
+{
+    const std::string stream = streamAround("{\\*\\unknown x}{\\b Bold}");
+    box.textRTF(stream);
+    box.Change = t.note("Change");
+    const auto& edit = shown();
+    EXPECT_EQ(edit.toPlainText(), "Bold");
+    EXPECT_EQ(box.textRTF(), stream);
+    EXPECT_TRUE(t.events.empty());
+}
+
+TEST_F(RichTextBindingTest, TypingRaisesChangeAndMovesTheCaret)
+{
+    box.textRTF(streamAround("ab"));
+    box.Change = t.note("Change");
+    auto& edit = shown();
+    edit.moveCursor(QTextCursor::End);
+    QTest::keyClicks(&edit, "c");
+    QTest::keyClick(&edit, Qt::Key_Return);
+    EXPECT_EQ(box.text(), "abc\n");
+    EXPECT_EQ(box.selStart(), 4);
+    EXPECT_EQ(t.events, (Events{"Change", "Change"}));
+}
+
+TEST_F(RichTextBindingTest, TextThatCodeInsertsIsShownWithTheCaretBehindIt)
+{
+    box.textRTF(streamAround("one two"));
+    auto& edit = shown();
+    box.insertText(4, "and ");
+    EXPECT_EQ(edit.toPlainText(), "one and two");
+    EXPECT_EQ(edit.textCursor().position(), 8);
+    edit.setFocus();
+    QTest::keyClicks(&edit, "x");
+    EXPECT_EQ(box.text(), "one and xtwo");
+}
+
+TEST_F(RichTextBindingTest, TheSelectionGoesBothWaysInCharacters)
+{
+    box.textRTF(streamAround("\\u-10179?\\u-8704?abc"));
+    auto& edit = shown();
+    box.selStart(1);
+    box.selLength(2);
+    EXPECT_EQ(edit.textCursor().selectedText(), "ab");
+    edit.moveCursor(QTextCursor::End);
+    EXPECT_EQ(box.selStart(), 4);
+    EXPECT_EQ(box.selLength(), 0);
+}
+
+TEST_F(RichTextBindingTest, TheKeysFormatTheSelection)
+{
+    box.textRTF(streamAround("abc"));
+    auto& edit = shown();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_B, Qt::ControlModifier);
+    EXPECT_TRUE(streamHas("\\b "));
+    EXPECT_TRUE(edit.bold()->isChecked());
+    QTest::keyClick(&edit, Qt::Key_I, Qt::ControlModifier);
+    EXPECT_TRUE(streamHas("\\i "));
+    QTest::keyClick(&edit, Qt::Key_U, Qt::ControlModifier);
+    EXPECT_TRUE(streamHas("\\ul "));
+    QTest::keyClick(&edit, Qt::Key_B, Qt::ControlModifier);
+    EXPECT_FALSE(streamHas("\\b "));
+    EXPECT_EQ(box.text(), "abc");
+}
+
+TEST_F(RichTextBindingTest, TheToolBarFormats)
+{
+    box.textRTF(streamAround("abc"));
+    auto& edit = shown();
+    host::RichTextToolBar bar(edit);
+    bar.show();
+    edit.selectAll();
+    auto& sizes = *bar.findChild<QComboBox*>();
+    sizes.setCurrentIndex(sizes.findData(14));
+    emit sizes.activated(sizes.currentIndex());
+    EXPECT_TRUE(streamHas("\\fs28 "));
+    const auto dialogs = std::make_shared<host::HeadlessDialogHost>();
+    dialogs->colourToPick(0x0000FF);
+    setDialogHost(dialogs);
+    edit.colour()->trigger();
+    setDialogHost(nullptr);
+    EXPECT_TRUE(streamHas("\\red255\\green0\\blue0;"));
+    edit.bullets()->trigger();
+    EXPECT_TRUE(streamHas("\\pnlvlblt"));
+    EXPECT_EQ(box.text(), "abc");
+    edit.bullets()->trigger();
+    EXPECT_FALSE(streamHas("\\pnlvlblt"));
+    EXPECT_FALSE(streamHas("\\li"));
+}
+
+TEST_F(RichTextBindingTest, AReadOnlyTextIsNotFormatted)
+{
+    box.readOnly(true);
+    box.textRTF(streamAround("abc"));
+    auto& edit = shown();
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_B, Qt::ControlModifier);
+    edit.bullets()->trigger();
+    QTest::keyClicks(&edit, "x");
+    EXPECT_EQ(box.textRTF(), streamAround("abc"));
+}
+
+TEST_F(RichTextBindingTest, FormatsAreCopiedAsAStreamAndPagesArePastedPlain)
+{
+    box.textRTF(streamAround("{\\b bold}"));
+    auto& edit = shown();
+    edit.selectAll();
+    edit.copy();
+    EXPECT_TRUE(QGuiApplication::clipboard()->mimeData()->data("text/rtf").contains("\\b bold"));
+    edit.moveCursor(QTextCursor::End);
+    edit.paste();
+    EXPECT_EQ(box.text(), "boldbold");
+    auto* page = new QMimeData;
+    page->setHtml("<table><tr><td>cell</td></tr></table>");
+    page->setText("cell");
+    QGuiApplication::clipboard()->setMimeData(page);
+    edit.selectAll();
+    edit.paste();
+    EXPECT_EQ(box.text(), "cell");
+}
+
+} // namespace
+} // namespace qncal::test
