@@ -169,7 +169,7 @@ void addFieldsCommands(CLI::App& program, CommandContext& context)
     auto changed = std::make_shared<FieldOptions>();
     set->add_option("FIELD", changed->field, "status1 to status5, custom1 to custom5")->required();
     addKindOption(*set, changed->kind);
-    set->add_option("--name", changed->name, "Its name; empty for none")->type_name("NAME");
+    set->add_option("--name", changed->name, "Its name")->type_name("NAME");
     set->add_option("--colour", changed->colour, "The colour that shows a status, or none")->type_name("#RRGGBB");
     set->add_option("--icon", changed->icon, "The icon that shows a status, 1 to 42, or none")->type_name("ICON");
     set->footer("Examples:\n"

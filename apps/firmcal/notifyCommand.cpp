@@ -7,6 +7,7 @@
 #include "notifications/DeliveryLock.h"
 #include "notifications/NotificationDelivery.h"
 #include "notifications/SmtpTransport.h"
+#include "store/SqliteDatabase.h"
 
 #include <nlohmann/json.hpp>
 
@@ -167,7 +168,7 @@ void notify(CommandContext& context, const NotifyOptions& options)
         throw Failure("another 'firmcal notify --once' is at work on this database");
     const std::vector<Delivery> deliveries = delivery.run();
     printDeliveries(context, deliveries);
-    context.finish();
+    context.database().flush();
     complainAbout(deliveries);
 }
 

@@ -68,7 +68,7 @@ void listSchemes(CommandContext& context, const SchemeOptions& options)
                                       {"name", row.text("SchemeName")}};
         for (const std::string_view column : colourColumns) {
             cells.push_back(colourOf(row, column));
-            scheme[std::string(column)] = cells.back().empty() ? nlohmann::ordered_json() : cells.back();
+            scheme[std::string(column)] = cells.back().empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(cells.back());
         }
         table.add(std::move(cells));
         json.push_back(std::move(scheme));

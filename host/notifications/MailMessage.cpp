@@ -45,10 +45,10 @@ std::string onOneLine(std::string_view text)
     return line;
 }
 
-/// RFC 2047: words of at most 75 characters, none of which splits a code point.
+/// RFC 2047: words that fill a line of 76 characters, none of which splits a code point.
 std::string encodedWords(std::string_view text)
 {
-    constexpr std::size_t bytesInWord = 45;
+    constexpr std::size_t bytesInWord = 39;
     std::string words;
     while (!text.empty()) {
         std::size_t size = std::min(bytesInWord, text.size());

@@ -9,7 +9,6 @@
 #include "utilities/dateText.h"
 
 #include <algorithm>
-#include <array>
 #include <random>
 
 namespace qncal::host {
@@ -77,7 +76,8 @@ std::string newMessageID(std::int32_t notification, const std::string& sender)
     std::string id = "notification-" + std::to_string(notification) + ".";
     for (int i = 0; i < 24; ++i)
         id += digits[device() % digits.size()];
-    return id + sender.substr(sender.find('@'));
+    const std::size_t at = sender.find('@');
+    return id + (at == std::string::npos ? "@localhost" : sender.substr(at));
 }
 
 } // namespace
@@ -227,7 +227,7 @@ void NotificationDelivery::fail(Delivery& delivery, const std::string& reason)
     ++delivery.attempts;
     setStep(delivery, DeliveryStep::failed, reason);
     Rows row = Rows::change(*database_, byKey(delivery.id));
-    if (row.isEmpty())
+    if (row.isEmpty() || row.boolean("NotificationSent"))
         return;
     const Date moment = now();
     row.set("Attempts", std::to_string(delivery.attempts));

@@ -5,12 +5,9 @@
 #include "utilities/Event.h"
 
 #include <memory>
-#include <optional>
 #include <string>
 
 namespace qncal::host {
-
-class Rows;
 
 /// Keeps the clients' notifications as rows of `ClientNotification`: one for each item, channel and client, with
 /// its date and what delivery made of it (see `NotificationDelivery`). An id without a row changes nothing.

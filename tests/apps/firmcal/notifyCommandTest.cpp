@@ -59,8 +59,8 @@ const std::string noneSent =
 TEST_F(NotifyCommandTest, ListsWhatIsDueAndChangesNothing)
 {
     const std::string list =
-        "ID  State  Channel  To                  Client    Item                                            Reason\n"
-        "--  -----  -------  ------------------  --------  ----------------------------------------------  ------\n"
+        "ID  State  Channel  To                  Client    Item                                             Reason\n"
+        "--  -----  -------  ------------------  --------  -----------------------------------------------  ------\n"
         " 1  due    email    ann@client.example  Ann Reed  appointment 1, Wed, Mar 4, 2026 09:30: Year end\n"
         " 2  to do  phone    555-0103            Ann Reed  appointment 1, Wed, Mar 4, 2026 09:30: Year end\n"
         " 3  due    letter                       Ann Reed  appointment 1, Wed, Mar 4, 2026 09:30: Year end\n";

@@ -94,10 +94,10 @@ INSTANTIATE_TEST_SUITE_P(
                     HeaderRow{"LineBreakAlone", "a\nb\rc", "a b c"}, HeaderRow{"Null", std::string("a\0b", 3), "a b"},
                     HeaderRow{"LooksEncoded", "=?UTF-8?B?eA==?=", "=?UTF-8?B?PT9VVEYtOD9CP2VBPT0/PQ==?="},
                     HeaderRow{"Long", std::string(61, 'x'),
-                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4?=\r\n "
-                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eA==?="},
-                    HeaderRow{"SplitsBetweenCodePoints", std::string(44, 'x') + "é",
-                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHg=?=\r\n "
+                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4?=\r\n "
+                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eA==?="},
+                    HeaderRow{"SplitsBetweenCodePoints", std::string(38, 'x') + "é",
+                              "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHg=?=\r\n "
                               "=?UTF-8?B?w6k=?="}),
     [](const auto& row) { return row.param.name; });
 
