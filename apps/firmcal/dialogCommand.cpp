@@ -29,11 +29,10 @@ struct DialogOptions {
 /// The name that a status has in the database.
 std::string statusName(CommandContext& context, enumLocalCalendarItemType kind, int number)
 {
-    const host::Rows row =
-        host::Rows::read(context.host().database(), "SELECT CustomFields.* FROM CustomFields;");
-    return row.isEmpty() ? std::string()
-                         : row.text(std::string(textOfKind(columnPrefixes, kind)) + "StatusName"
-                                    + std::to_string(number));
+    const host::Rows row = host::Rows::read(context.host().database(), "SELECT CustomFields.* FROM CustomFields;");
+    return row.isEmpty()
+               ? std::string()
+               : row.text(std::string(textOfKind(columnPrefixes, kind)) + "StatusName" + std::to_string(number));
 }
 
 struct Dialog {

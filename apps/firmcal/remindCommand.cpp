@@ -2,7 +2,7 @@
 #include "firmcal/Failure.h"
 #include "firmcal/commands.h"
 #include "firmcal/valueText.h"
-#include "reminders/ReminderLoop.h"
+#include "popups/ReminderLoop.h"
 #include "store/SqliteDatabase.h"
 
 #include <nlohmann/json.hpp>

@@ -64,11 +64,12 @@ void listSchemes(CommandContext& context, const SchemeOptions& options)
         const auto kind = static_cast<enumLocalCalendarItemType>(row.integer("SchemeType"));
         std::vector<std::string> cells{std::to_string(row.integer("ColourSchemeID")), std::string(kindNoun(kind)),
                                        row.text("SchemeName")};
-        nlohmann::ordered_json scheme{{"id", row.integer("ColourSchemeID")}, {"kind", kindWord(kind)},
-                                      {"name", row.text("SchemeName")}};
+        nlohmann::ordered_json scheme{
+            {"id", row.integer("ColourSchemeID")}, {"kind", kindWord(kind)}, {"name", row.text("SchemeName")}};
         for (const std::string_view column : colourColumns) {
             cells.push_back(colourOf(row, column));
-            scheme[std::string(column)] = cells.back().empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(cells.back());
+            scheme[std::string(column)] =
+                cells.back().empty() ? nlohmann::ordered_json() : nlohmann::ordered_json(cells.back());
         }
         table.add(std::move(cells));
         json.push_back(std::move(scheme));
@@ -120,8 +121,7 @@ void addScheme(CommandContext& context, SchemeOptions options)
 {
     const enumLocalCalendarItemType kind = kindIn(options).value_or(enumLocalCalendarAppointmentItem);
     options.name = options.scheme;
-    host::Rows row =
-        host::Rows::change(context.host().database(), "SELECT ColourSchemes.* FROM ColourSchemes;");
+    host::Rows row = host::Rows::change(context.host().database(), "SELECT ColourSchemes.* FROM ColourSchemes;");
     row.addNew();
     row.set("SchemeType", std::to_string(kind));
     writeScheme(row, options);

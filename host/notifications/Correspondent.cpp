@@ -98,8 +98,8 @@ Correspondent readClient(DatabaseService& database, const ItemClient& client)
         return client.contactID < 0 ? Correspondent() : readContact(database, client.contactID);
     Correspondent company;
     {
-        const Rows row = Rows::read(database, "SELECT Companies.* FROM Companies WHERE CompanyID="
-                                                  + std::to_string(client.companyID) + ";");
+        const Rows row = Rows::read(
+            database, "SELECT Companies.* FROM Companies WHERE CompanyID=" + std::to_string(client.companyID) + ";");
         if (row.isEmpty())
             return company;
         company = companyIn(row);

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/DatabaseService.h"
-#include "notifications/notifiedItem.h"
+#include "services/notifiedItem.h"
 
 #include <string>
 #include <vector>

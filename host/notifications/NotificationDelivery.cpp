@@ -180,8 +180,8 @@ void NotificationDelivery::writeLetter(Delivery& delivery)
     const Correspondent firm = readFirm(*database_);
     const std::filesystem::path file = means_.letterFolder / ("letter-" + std::to_string(delivery.id) + ".html");
     delivery.recipient = file.string();
-    if (const std::string why = writeLetterFile(
-            file, letterDocument(notificationText(delivery.item, client, firm), client, firm, now()));
+    if (const std::string why =
+            writeLetterFile(file, letterDocument(notificationText(delivery.item, client, firm), client, firm, now()));
         !why.empty())
         return fail(delivery, why);
     markSent(delivery.id);

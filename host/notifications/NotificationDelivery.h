@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/DatabaseService.h"
-#include "notifications/DeliveryState.h"
 #include "notifications/MailTransport.h"
-#include "notifications/notifiedItem.h"
+#include "services/DeliveryState.h"
+#include "services/notifiedItem.h"
 
 #include <filesystem>
 #include <memory>

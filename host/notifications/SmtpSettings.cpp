@@ -12,10 +12,7 @@ namespace qncal::host {
 
 namespace {
 
-[[noreturn]] void refuse(const std::string& why)
-{
-    throw RunTimeError(errorNumber::invalidProcedureCall, why);
-}
+[[noreturn]] void refuse(const std::string& why) { throw RunTimeError(errorNumber::invalidProcedureCall, why); }
 
 int numberIn(const std::string& value, int highest)
 {
@@ -44,7 +41,8 @@ struct Setting {
 };
 
 constexpr Setting knownSettings[] = {
-    {"server", "FIRMCAL_SMTP_SERVER", [](SmtpSettings& settings, const std::string& value) { settings.server = value; }},
+    {"server", "FIRMCAL_SMTP_SERVER",
+     [](SmtpSettings& settings, const std::string& value) { settings.server = value; }},
     {"port", "FIRMCAL_SMTP_PORT",
      [](SmtpSettings& settings, const std::string& value) {
          settings.port = static_cast<std::uint16_t>(numberIn(value, std::numeric_limits<std::uint16_t>::max()));

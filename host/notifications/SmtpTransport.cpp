@@ -67,7 +67,8 @@ bool isRefusal(long serverCode) { return serverCode >= 400; }
 
 MailResult failure(std::string reason)
 {
-    std::ranges::replace_if(reason, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
+    std::ranges::replace_if(
+        reason, [](char c) { return static_cast<unsigned char>(c) < ' '; }, ' ');
     return {Outcome::failed, std::move(reason)};
 }
 

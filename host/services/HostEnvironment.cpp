@@ -1,7 +1,7 @@
 #include "services/HostEnvironment.h"
 
 #include "core/HostReferences.h"
-#include "notifications/NotificationLedger.h"
+#include "services/NotificationLedger.h"
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 #include "utilities/RunTimeError.h"

@@ -22,8 +22,7 @@ TEST_F(DialogCommandTest, ListsTheDialogs)
 TEST_F(DialogCommandTest, PrintsWhatStandsOnADialog)
 {
     succeed({"fields", "set", "status2", "--kind", "task", "--name", "Waiting", "--icon", "4"});
-    const std::string options =
-        output({"dialog", "frmApptStatusOptions", "--kind", "task", "--number", "2", "--show"});
+    const std::string options = output({"dialog", "frmApptStatusOptions", "--kind", "task", "--number", "2", "--show"});
     EXPECT_THAT(options, StartsWith("frmApptStatusOptions  \"Task Check Box Options\"\n"));
     EXPECT_THAT(options, HasSubstr("  txtField  TextBox  \"Waiting\""));
     const std::string names = output({"dialog", "frmchangeapptstatusfields", "--kind", "task"});

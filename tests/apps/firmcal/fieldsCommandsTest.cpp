@@ -54,8 +54,7 @@ TEST_F(FieldsCommandsTest, SaysWhatIsWrong)
     EXPECT_EQ(run({"fields", "set", "status6", "--name", "x"}).status, 2);
     EXPECT_EQ(run({"fields", "set", "status1"}).status, 2);
     EXPECT_EQ(run({"fields", "set", "custom1", "--icon", "3"}).status, 2);
-    EXPECT_EQ(run({"fields", "set", "status1", "--icon", "43"}).err,
-              "firmcal: '43' is no icon (1 to 42, or none)\n");
+    EXPECT_EQ(run({"fields", "set", "status1", "--icon", "43"}).err, "firmcal: '43' is no icon (1 to 42, or none)\n");
     EXPECT_EQ(run({"fields", "set", "status1", "--name", "x", "--colour", "red"}).status, 1);
     EXPECT_EQ(rows("SELECT CustomFieldsID FROM CustomFields WHERE ApptStatusName1='x';"), "");
 }

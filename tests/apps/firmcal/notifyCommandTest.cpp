@@ -23,15 +23,12 @@ protected:
     {
         EmptyDatabaseTest::SetUp();
         const auto store = host::SqliteDatabase::open(database());
-        host::addRow(*store, "Contacts",
-                     {{"DisplayName", "Ann Reed"},
-                      {"BusinessEmail", "ann@client.example"},
-                      {"BusinessPhone_Main", "555-0103"}});
-        host::addRow(*store, "Appointments",
-                     {{"Subject", "Year end"},
-                      {"ContactIDNum", "1"},
-                      {"DateFrom", "2026-03-04"},
-                      {"TimeFrom", "09:30:00"}});
+        host::addRow(
+            *store, "Contacts",
+            {{"DisplayName", "Ann Reed"}, {"BusinessEmail", "ann@client.example"}, {"BusinessPhone_Main", "555-0103"}});
+        host::addRow(
+            *store, "Appointments",
+            {{"Subject", "Year end"}, {"ContactIDNum", "1"}, {"DateFrom", "2026-03-04"}, {"TimeFrom", "09:30:00"}});
         for (const char* channel : {"1", "4", "8"})
             host::addRow(*store, "ClientNotification",
                          {{"AppointmentNum", "1"},
@@ -119,8 +116,7 @@ TEST_F(NotifyCommandTest, NeverRepeatsWhatMayHaveArrived)
     for (int repeat = 0; repeat < 2; ++repeat) {
         const Outcome outcome = run({"notify", "--once", "--smtp", settingsFor(server)});
         EXPECT_EQ(outcome.status, 1);
-        EXPECT_EQ(outcome.err,
-                  "firmcal: 1 may have been sent or not: settle with --done ID or --again ID\n");
+        EXPECT_EQ(outcome.err, "firmcal: 1 may have been sent or not: settle with --done ID or --again ID\n");
     }
     EXPECT_EQ(rows("SELECT Attempts, DeliveryState FROM ClientNotification WHERE ClientNotificationID=1;"),
               "{\"Attempts\":1,\"DeliveryState\":4}\n");
@@ -152,8 +148,7 @@ TEST_F(NotifyCommandTest, LeavesADatabaseAloneThatAnotherDelivers)
 {
     const host::DeliveryLock lock(database() + "-notify");
     ASSERT_TRUE(lock.isHeld());
-    EXPECT_EQ(run({"notify", "--once"}).err,
-              "firmcal: another 'firmcal notify --once' is at work on this database\n");
+    EXPECT_EQ(run({"notify", "--once"}).err, "firmcal: another 'firmcal notify --once' is at work on this database\n");
     EXPECT_EQ(run({"notify"}).status, 0);
 }
 

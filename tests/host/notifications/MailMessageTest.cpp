@@ -75,8 +75,7 @@ struct HeaderRow {
     std::string header;
 };
 
-class MailSubjectTest : public testing::TestWithParam<HeaderRow> {
-};
+class MailSubjectTest : public testing::TestWithParam<HeaderRow> {};
 
 TEST_P(MailSubjectTest, IsSafeInAHeader)
 {
@@ -89,7 +88,8 @@ TEST_P(MailSubjectTest, IsSafeInAHeader)
 
 INSTANTIATE_TEST_SUITE_P(
     Texts, MailSubjectTest,
-    testing::Values(HeaderRow{"Plain", "Year end", "Year end"}, HeaderRow{"Umlaut", "Grüße", "=?UTF-8?B?R3LDvMOfZQ==?="},
+    testing::Values(HeaderRow{"Plain", "Year end", "Year end"},
+                    HeaderRow{"Umlaut", "Grüße", "=?UTF-8?B?R3LDvMOfZQ==?="},
                     HeaderRow{"LineBreak", "a\r\nBcc: all@firm.example", "a  Bcc: all@firm.example"},
                     HeaderRow{"LineBreakAlone", "a\nb\rc", "a b c"}, HeaderRow{"Null", std::string("a\0b", 3), "a b"},
                     HeaderRow{"LooksEncoded", "=?UTF-8?B?eA==?=", "=?UTF-8?B?PT9VVEYtOD9CP2VBPT0/PQ==?="},
@@ -118,8 +118,7 @@ struct AddressRow {
     bool valid;
 };
 
-class MailAddressTest : public testing::TestWithParam<AddressRow> {
-};
+class MailAddressTest : public testing::TestWithParam<AddressRow> {};
 
 TEST_P(MailAddressTest, IsTakenOrRefused)
 {

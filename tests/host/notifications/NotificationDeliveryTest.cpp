@@ -82,14 +82,10 @@ protected:
     }
     Rows rows(const std::string& condition = "ClientNotificationID > 0")
     {
-        return Rows::change(*database,
-                            "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
+        return Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
     }
     DeliveryState state() { return static_cast<DeliveryState>(rows().integer("DeliveryState")); }
-    NotificationDelivery delivery()
-    {
-        return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters}};
-    }
+    NotificationDelivery delivery() { return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters}}; }
     std::vector<DeliveryStep> run()
     {
         std::vector<DeliveryStep> steps;
@@ -239,8 +235,9 @@ TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
 
 TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
 {
-    const auto odd = addRow(*database, "Contacts",
-                            {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
+    const auto odd =
+        addRow(*database, "Contacts",
+               {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
     addAppointment(email, odd);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
     EXPECT_EQ(rows().text("LastError"), "the client's e-mail address is none");

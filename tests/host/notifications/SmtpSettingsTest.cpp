@@ -66,8 +66,7 @@ TEST(SmtpSettingsTest, NamesTheLineThatItCannotRead)
     EXPECT_EQ(errorOf([] { readText("sever = a\n"); }), "line 1: there is no setting 'sever'");
     EXPECT_EQ(errorOf([] { readText("port = 65536\n"); }), "line 1: '65536' is no number from 1 to 65535");
     EXPECT_EQ(errorOf([] { readText("timeout = soon\n"); }), "line 1: 'soon' is no number from 1 to 3600");
-    EXPECT_EQ(errorOf([] { readText("security = some\n"); }),
-              "line 1: 'some' is no security (none, starttls, tls)");
+    EXPECT_EQ(errorOf([] { readText("security = some\n"); }), "line 1: 'some' is no security (none, starttls, tls)");
 }
 
 TEST(SmtpSettingsTest, TheEnvironmentGoesBeforeTheFile)
@@ -76,8 +75,7 @@ TEST(SmtpSettingsTest, TheEnvironmentGoesBeforeTheFile)
     setenv("FIRMCAL_SMTP_PASSWORD", "new", 1);
     readSmtpEnvironment(settings);
     setenv("FIRMCAL_SMTP_PORT", "x", 1);
-    EXPECT_EQ(errorOf([&] { readSmtpEnvironment(settings); }),
-              "FIRMCAL_SMTP_PORT: 'x' is no number from 1 to 65535");
+    EXPECT_EQ(errorOf([&] { readSmtpEnvironment(settings); }), "FIRMCAL_SMTP_PORT: 'x' is no number from 1 to 65535");
     unsetenv("FIRMCAL_SMTP_PASSWORD");
     unsetenv("FIRMCAL_SMTP_PORT");
     EXPECT_EQ(settings.server, "a");
@@ -86,9 +84,7 @@ TEST(SmtpSettingsTest, TheEnvironmentGoesBeforeTheFile)
 
 TEST(SmtpSettingsTest, ChecksWhatIsNeeded)
 {
-    const auto check = [](const std::string& text) {
-        return errorOf([&] { checkSmtpSettings(readText(text)); });
-    };
+    const auto check = [](const std::string& text) { return errorOf([&] { checkSmtpSettings(readText(text)); }); };
     EXPECT_EQ(check("server = a\nfrom = b@c\n"), "no error");
     EXPECT_EQ(check("from = b@c\n"), "no mail server is set");
     EXPECT_EQ(check("server = a/b\nfrom = b@c\n"), "'a/b' is no name of a server");

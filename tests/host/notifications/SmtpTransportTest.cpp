@@ -29,8 +29,8 @@ protected:
     }
     static MailMessage message()
     {
-        return {{"Firm", "office@firm.example"}, {"Zoë", "zoe@client.example"}, "Grüße", ".\n.dots stay\nText\n",
-                "notification-1.x@firm.example", Date::of(2026, 3, 2, 9)};
+        return {{"Firm", "office@firm.example"}, {"Zoë", "zoe@client.example"},   "Grüße",
+                ".\n.dots stay\nText\n",         "notification-1.x@firm.example", Date::of(2026, 3, 2, 9)};
     }
     MailResult sendTo(const std::string& mode, std::chrono::milliseconds timeout)
     {
@@ -129,8 +129,7 @@ struct BadServerRow {
     int timeout = 30000;
 };
 
-class BadSmtpServerTest : public SmtpTransportTest, public testing::WithParamInterface<BadServerRow> {
-};
+class BadSmtpServerTest : public SmtpTransportTest, public testing::WithParamInterface<BadServerRow> {};
 
 TEST_P(BadSmtpServerTest, HasTheOutcomeThatIsCertain)
 {

@@ -9,10 +9,7 @@ using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
 
-NotifiedItem itemOf(enumLocalCalendarItemType kind)
-{
-    return {kind, 12, "Year end", Date::of(2026, 3, 31, 9, 30), {}};
-}
+NotifiedItem itemOf(enumLocalCalendarItemType kind) { return {kind, 12, "Year end", Date::of(2026, 3, 31, 9, 30), {}}; }
 
 TEST(NotificationTextTest, HasTheWordsOfTheKind)
 {
@@ -46,8 +43,7 @@ TEST(NotificationTextTest, LeavesOutWhatIsNotThere)
     item.subject.clear();
     item.start = Date::of(2026, 3, 31);
     const NotificationText text = notificationText(item, {}, {});
-    EXPECT_EQ(text.paragraphs.front(),
-              "This is to remind you of your appointment with us on Tuesday, March 31, 2026.");
+    EXPECT_EQ(text.paragraphs.front(), "This is to remind you of your appointment with us on Tuesday, March 31, 2026.");
     EXPECT_THAT(text.signature, ElementsAre("Yours sincerely,"));
 }
 

@@ -1,4 +1,4 @@
-#include "notifications/NotificationLedger.h"
+#include "services/NotificationLedger.h"
 
 #include "host/services/HostTest.h"
 #include "utilities/RunTimeError.h"

@@ -1,8 +1,8 @@
-#include "notifications/NotificationLedger.h"
+#include "services/NotificationLedger.h"
 
-#include "notifications/DeliveryState.h"
-#include "notifications/notifiedItem.h"
+#include "services/DeliveryState.h"
 #include "services/Rows.h"
+#include "services/notifiedItem.h"
 
 namespace qncal::host {
 
@@ -54,9 +54,8 @@ std::int32_t NotificationLedger::getNotificationID(std::int16_t kind, std::int32
     const ItemClient client = clientOfItem(*database_, kind, itemID);
     std::int32_t found = -1;
     for (Rows row = Rows::read(*database_, "SELECT ClientNotification.* FROM ClientNotification WHERE " + column + "="
-                                               + std::to_string(itemID)
-                                               + " AND NotificationType=" + std::to_string(channel)
-                                               + " ORDER BY ClientNotificationID;");
+                                               + std::to_string(itemID) + " AND NotificationType="
+                                               + std::to_string(channel) + " ORDER BY ClientNotificationID;");
          !row.atEnd(); row.moveNext()) {
         const ItemClient rowClient{row.integer("CompanyIDNum"), row.integer("ContactIDNum")};
         if (rowClient == client)
@@ -68,26 +67,26 @@ std::int32_t NotificationLedger::getNotificationID(std::int16_t kind, std::int32
     return found;
 }
 
-std::int32_t NotificationLedger::createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                       std::int32_t, std::int32_t)
+std::int32_t NotificationLedger::createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                         std::int32_t, std::int32_t, std::int32_t)
 {
     return create(kind, itemID, email, date);
 }
 
 std::int32_t NotificationLedger::createFaxNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                     std::int32_t, std::int32_t)
+                                                       std::int32_t, std::int32_t)
 {
     return create(kind, itemID, fax, date);
 }
 
-std::int32_t NotificationLedger::createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                       std::int32_t, std::int32_t)
+std::int32_t NotificationLedger::createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                         std::int32_t, std::int32_t, std::int32_t)
 {
     return create(kind, itemID, phone, date);
 }
 
-std::int32_t NotificationLedger::createLetterNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                        std::int32_t, std::int32_t)
+std::int32_t NotificationLedger::createLetterNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                          std::int32_t, std::int32_t, std::int32_t)
 {
     return create(kind, itemID, letter, date);
 }
@@ -106,25 +105,25 @@ void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notifi
 }
 
 void NotificationLedger::setEmailNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
-                                                std::int32_t)
+                                                  std::int32_t)
 {
     setDate(notificationID, date);
 }
 
 void NotificationLedger::setFaxNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
-                                              std::int32_t)
-{
-    setDate(notificationID, date);
-}
-
-void NotificationLedger::setPhoneNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
                                                 std::int32_t)
 {
     setDate(notificationID, date);
 }
 
+void NotificationLedger::setPhoneNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
+                                                  std::int32_t)
+{
+    setDate(notificationID, date);
+}
+
 void NotificationLedger::setLetterNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
-                                                 std::int32_t)
+                                                   std::int32_t)
 {
     setDate(notificationID, date);
 }

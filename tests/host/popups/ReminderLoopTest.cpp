@@ -1,4 +1,4 @@
-#include "reminders/ReminderLoop.h"
+#include "popups/ReminderLoop.h"
 
 #include "host/services/HostTest.h"
 #include "host/store/StoreFactory.h"
@@ -64,7 +64,8 @@ protected:
     }
     Rows row(std::int32_t id)
     {
-        return Rows::change(*database, "SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(id) + ";");
+        return Rows::change(*database,
+                            "SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(id) + ";");
     }
     void moveTo(std::int32_t id, Date moment)
     {
@@ -100,8 +101,7 @@ TEST_F(ReminderLoopTest, ShowsInTheOrderOfTheirMoments)
 {
     const auto later = addReminder(at(8, 59));
     const auto sooner = addReminder(at(8, 57));
-    EXPECT_THAT(sweepCalls(),
-                ElementsAre("show " + std::to_string(sooner), "show " + std::to_string(later)));
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(sooner), "show " + std::to_string(later)));
 }
 
 TEST_F(ReminderLoopTest, LeavesWhatComesLaterOrIsCompleted)
@@ -126,9 +126,9 @@ TEST_F(ReminderLoopTest, BringsMissedOnesOnceAsOneDigest)
     const auto justLate = addReminder(at(8, 54, 59));
     const auto due = addReminder(at(8, 55));
     const auto number = [](std::int32_t id) { return std::to_string(id); };
-    EXPECT_THAT(sweepCalls(), ElementsAre("missed " + number(lastYear) + " " + number(yesterday) + " "
-                                              + number(justLate),
-                                          "show " + number(due)));
+    EXPECT_THAT(sweepCalls(),
+                ElementsAre("missed " + number(lastYear) + " " + number(yesterday) + " " + number(justLate),
+                            "show " + number(due)));
     EXPECT_THAT(sweepCalls(), IsEmpty());
     ReminderLoop next(database, display);
     EXPECT_EQ(next.sweep(), 0u);

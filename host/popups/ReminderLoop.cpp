@@ -1,4 +1,4 @@
-#include "reminders/ReminderLoop.h"
+#include "popups/ReminderLoop.h"
 
 #include "services/Rows.h"
 #include "utilities/Clock.h"

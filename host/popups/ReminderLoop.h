@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/DatabaseService.h"
-#include "reminders/ReminderDisplay.h"
+#include "popups/ReminderDisplay.h"
 
 #include <map>
 #include <memory>

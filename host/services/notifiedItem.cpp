@@ -1,4 +1,4 @@
-#include "notifications/notifiedItem.h"
+#include "services/notifiedItem.h"
 
 #include "core/calendarItemKinds.h"
 #include "services/Rows.h"
@@ -21,8 +21,7 @@ std::string_view itemColumn(std::int32_t kind)
     }
 }
 
-std::optional<NotifiedItem> readNotifiedItem(DatabaseService& database, enumLocalCalendarItemType kind,
-                                             std::int32_t id)
+std::optional<NotifiedItem> readNotifiedItem(DatabaseService& database, enumLocalCalendarItemType kind, std::int32_t id)
 {
     const CalendarItemKind& names = calendarItemKind(kind);
     const std::string table(names.tableName);
@@ -30,8 +29,8 @@ std::optional<NotifiedItem> readNotifiedItem(DatabaseService& database, enumLoca
                                               + std::string(names.fieldName) + "=" + std::to_string(id) + ";");
     if (row.isEmpty())
         return std::nullopt;
-    NotifiedItem item{kind, id, row.text("Subject"), noDate,
-                      {row.integer("CompanyIDNum"), row.integer("ContactIDNum")}};
+    NotifiedItem item{
+        kind, id, row.text("Subject"), noDate, {row.integer("CompanyIDNum"), row.integer("ContactIDNum")}};
     const Variant day = row.field("DateFrom");
     const Variant time = row.field("TimeFrom");
     if (!day.isNull())
