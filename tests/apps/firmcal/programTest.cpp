@@ -23,7 +23,11 @@ INSTANTIATE_TEST_SUITE_P(
                     std::vector<std::string>{"item", "fields"}, std::vector<std::string>{"agenda"},
                     std::vector<std::string>{"client", "list"}, std::vector<std::string>{"client", "show"},
                     std::vector<std::string>{"user", "list"}, std::vector<std::string>{"sql"},
-                    std::vector<std::string>{"doctor"}),
+                    std::vector<std::string>{"doctor"}, std::vector<std::string>{"remind"},
+                    std::vector<std::string>{"notify"}, std::vector<std::string>{"scheme", "list"},
+                    std::vector<std::string>{"scheme", "add"}, std::vector<std::string>{"scheme", "set"},
+                    std::vector<std::string>{"scheme", "delete"}, std::vector<std::string>{"fields", "show"},
+                    std::vector<std::string>{"fields", "set"}, std::vector<std::string>{"dialog"}),
     [](const testing::TestParamInfo<std::vector<std::string>>& tested) {
         std::string name = "Program";
         for (const std::string& word : tested.param)
