@@ -19,6 +19,7 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 struct RemindOptions {
+    bool once = true;
     bool follow = false;
     int interval = 30;
     int sweeps = 0;
@@ -126,7 +127,7 @@ void addRemindCommand(CLI::App& program, CommandContext& context)
 {
     CLI::App* command = program.add_subcommand("remind", "Show the reminders that are due, each once");
     auto options = std::make_shared<RemindOptions>();
-    CLI::Option* once = command->add_flag("--once", "Show what is due now (the default)");
+    CLI::Option* once = command->add_flag("--once", options->once, "Show what is due now (the default)");
     CLI::Option* following =
         command->add_flag("--follow", options->follow, "Stay, and show what comes due")->excludes(once);
     command->add_option("--interval", options->interval, "Seconds between two looks; 30 without it")
