@@ -167,7 +167,7 @@ void ReminderLoop::rearmMoved(Date moment)
     for (const std::string& later :
          {"ReminderDate > " + today, "ReminderDate = " + today + " AND ReminderTime > #" + clockTime(moment) + "#"}) {
         for (Rows row = Rows::change(*database_, "SELECT Reminders.* FROM Reminders WHERE Completed = True AND " + later
-                                                     + ofUser() + ";");
+                                                     + ofUser() + " ORDER BY ReminderDate, ReminderTime;");
              !row.atEnd(); row.moveNext()) {
             const Variant shownFor = row.field("ShownFor");
             if (!shownFor.isNull() && shownFor.toDate() != momentOf(row))
