@@ -49,7 +49,7 @@ TEST_F(SchemeCommandsTest, AWrongColourChangesNothing)
 TEST_F(SchemeCommandsTest, DeletesWhenTheUserAgrees)
 {
     EXPECT_EQ(run({"scheme", "delete", "Quiet"}).status, 1) << "nobody is there to agree";
-    EXPECT_EQ(output({"scheme", "delete", "Quiet", "--yes"}), "colour scheme 2 deleted\n");
+    EXPECT_EQ(run({"scheme", "delete", "Quiet", "--yes"}).out, "colour scheme 2 deleted\n");
     EXPECT_EQ(nlohmann::ordered_json::parse(output({"scheme", "list", "--json"})).size(), 1u);
 }
 
@@ -58,7 +58,7 @@ TEST_F(SchemeCommandsTest, FindsASchemeByAnUnambiguousName)
     succeed({"scheme", "add", "urgent"});
     EXPECT_EQ(run({"scheme", "delete", "Urgent", "--yes"}).err,
               "firmcal: more than one colour scheme is named 'Urgent'; give its number, or --kind\n");
-    EXPECT_EQ(output({"scheme", "delete", "Urgent", "--kind", "task", "--yes"}), "colour scheme 1 deleted\n");
+    EXPECT_EQ(run({"scheme", "delete", "Urgent", "--kind", "task", "--yes"}).out, "colour scheme 1 deleted\n");
     EXPECT_EQ(run({"scheme", "set", "none", "--name", "x"}).err,
               "firmcal: no colour scheme 'none'; 'firmcal scheme list' shows them\n");
 }
