@@ -1,14 +1,11 @@
+#include "BenchFile.h"
 #include "compare.h"
-
-#include "store/SqliteDatabase.h"
 
 #include "store/dialect/shape.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>
 
-#include <cstdlib>
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <unordered_map>
@@ -19,122 +16,32 @@
 namespace qncal::host {
 namespace {
 
+using bench::BenchFile;
+using bench::bindTexts;
 using bench::compareWith;
+using bench::HeapUse;
+using bench::itemCount;
+using bench::run;
+using bench::sampleValue;
+using bench::TemporaryFolder;
 
-constexpr int itemCount = 2000;
 const std::string allTasks = "SELECT Tasks.* FROM Tasks;";
 
 const schema::Table& tasks() { return *schema::findTable("Tasks"); }
-
-std::string sampleValue(const schema::Column& column, int number)
-{
-    using schema::ColumnType;
-    switch (column.type) {
-    case ColumnType::text:
-        return "Review of file " + std::to_string(number);
-    case ColumnType::memo:
-        return "Call back about the year end papers, file " + std::to_string(number);
-    case ColumnType::boolean:
-        return number % 2 ? "True" : "False";
-    case ColumnType::date:
-        return defaultDateText(Date::of(2026, 1, 1).addDays(number % 365));
-    case ColumnType::time:
-        return defaultDateText(Date::timeOf(8 + number % 9, 30));
-    default:
-        return std::to_string(number % 50);
-    }
-}
 
 std::int32_t openUpdatable(SqliteDatabase& store, std::string_view sql)
 {
     return store.openRecordset(sql, 1, DatabaseService::updatable, true, {}, true);
 }
 
-void addTask(SqliteDatabase& store, int number)
-{
-    const auto handle = openUpdatable(store, allTasks);
-    store.addNew(handle);
-    for (const schema::Column& column : tasks().columns.subspan(1))
-        store.setFieldValue(handle, column.name, sampleValue(column, number), false, false, false);
-    store.update(handle);
-    store.closeRecordset(handle);
-}
-
-/// A database file with tasks, used by the store and by bare statements alike.
-class File {
-public:
-    File()
-    {
-        std::string name = (std::filesystem::temp_directory_path() / "qncalBenchXXXXXX").string();
-        folder_ = mkdtemp(name.data());
-        path_ = (folder_ / "store.db").string();
-        store_ = SqliteDatabase::create(path_);
-        for (int number = 0; number < itemCount; ++number)
-            addTask(*store_, number);
-        store_->idle();
-        sqlite3_open(path_.c_str(), &raw_);
-        sqlite3_exec(raw_, "PRAGMA synchronous = NORMAL; PRAGMA wal_autocheckpoint = 0", nullptr, nullptr, nullptr);
-    }
-    ~File()
-    {
-        for (const auto& [sql, statement] : statements_)
-            sqlite3_finalize(statement);
-        sqlite3_close(raw_);
-        store_.reset();
-        std::filesystem::remove_all(folder_);
-    }
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
-
-    SqliteDatabase& store() { return *store_; }
-    sqlite3* raw() { return raw_; }
-    sqlite3_stmt* prepared(const std::string& sql)
-    {
-        sqlite3_stmt*& statement = statements_[sql];
-        if (!statement)
-            sqlite3_prepare_v2(raw_, sql.c_str(), -1, &statement, nullptr);
-        return statement;
-    }
-
-private:
-    std::filesystem::path folder_;
-    std::string path_;
-    std::unique_ptr<SqliteDatabase> store_;
-    sqlite3* raw_ = nullptr;
-    std::unordered_map<std::string, sqlite3_stmt*> statements_;
-};
-
-File& file()
-{
-    static File instance;
-    return instance;
-}
-
-/// A bare SELECT * by key, every column copied into a text.
-void readRaw(int key, std::vector<std::string>& values)
-{
-    sqlite3_stmt* const statement = file().prepared("SELECT * FROM Tasks WHERE TaskID = ?");
-    sqlite3_bind_int(statement, 1, key);
-    if (sqlite3_step(statement) == SQLITE_ROW)
-        for (std::size_t column = 0; column < values.size(); ++column) {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, static_cast<int>(column)));
-            values[column] = text ? text : "";
-        }
-    sqlite3_reset(statement);
-}
-
-void bindAll(sqlite3_stmt* statement, const std::vector<std::string>& values)
-{
-    for (std::size_t i = 0; i < values.size(); ++i)
-        sqlite3_bind_text(statement, static_cast<int>(i) + 1, values[i].c_str(), -1, SQLITE_STATIC);
-}
+BenchFile& file() { return BenchFile::shared(); }
 
 void storeLoadRaw(benchmark::State& state)
 {
     std::vector<std::string> values(tasks().columns.size());
     int key = 0;
     for (auto _ : state) {
-        readRaw(1 + key++ % itemCount, values);
+        file().readRaw(tasks(), 1 + key++ % itemCount, values);
         benchmark::DoNotOptimize(values.data());
     }
 }
@@ -164,11 +71,11 @@ void storeSaveRaw(benchmark::State& state)
     int key = 0;
     for (auto _ : state) {
         const int id = 1 + key % itemCount;
-        readRaw(id, values);
-        bindAll(update, {"Subject " + std::to_string(key), "Notes " + std::to_string(key)});
+        file().readRaw(tasks(), id, values);
+        const std::vector<std::string> texts{"Subject " + std::to_string(key), "Notes " + std::to_string(key)};
+        bindTexts(update, texts);
         sqlite3_bind_int(update, 3, id);
-        sqlite3_step(update);
-        sqlite3_reset(update);
+        run(update);
         ++key;
     }
     file().store().idle();
@@ -213,9 +120,8 @@ void storeAddRaw(benchmark::State& state)
     }
     sqlite3_stmt* const insert = file().prepared("INSERT INTO Tasks VALUES (NULL" + places + ")");
     for (auto _ : state) {
-        bindAll(insert, values);
-        sqlite3_step(insert);
-        sqlite3_reset(insert);
+        bindTexts(insert, values);
+        run(insert);
     }
     file().store().idle();
 }
@@ -241,22 +147,39 @@ void storeAdd(benchmark::State& state)
 }
 BENCHMARK(storeAdd)->Iterations(2000);
 
+/// A database file whose table of holidays has so many rows.
+std::unique_ptr<SqliteDatabase> openFilled(const TemporaryFolder& folder, int rows)
+{
+    const std::string path = folder.file("store.db");
+    SqliteDatabase::create(path)->close();
+    sqlite3* raw = nullptr;
+    sqlite3_open(path.c_str(), &raw);
+    const std::string fill = "WITH RECURSIVE row(number) AS (SELECT 1 UNION ALL SELECT number + 1 FROM row LIMIT "
+                             + std::to_string(rows)
+                             + ") INSERT INTO Holidays (HolidayDate, HolidayType) SELECT '2026-01-01', 1 FROM row";
+    sqlite3_exec(raw, fill.c_str(), nullptr, nullptr, nullptr);
+    sqlite3_close(raw);
+    return SqliteDatabase::open(path);
+}
+
 /// Opening all of a table to add to it; the record is abandoned, so that the table keeps its size.
 void openForAdding(benchmark::State& state, int rows)
 {
-    const auto store = SqliteDatabase::openInMemory();
-    const auto filler = openUpdatable(*store, "SELECT Holidays.* FROM Holidays;");
-    for (int row = 0; row < rows; ++row) {
-        store->addNew(filler);
-        store->update(filler);
-    }
-    store->closeRecordset(filler);
-    for (auto _ : state) {
+    const TemporaryFolder folder;
+    const auto store = openFilled(folder, rows);
+    const auto openOne = [&store] {
         const auto handle = openUpdatable(*store, "SELECT Holidays.* FROM Holidays;");
         store->addNew(handle);
         store->setNewField(handle, "HolidayType", "1");
-        store->closeRecordset(handle);
-    }
+        return handle;
+    };
+    HeapUse heap;
+    const auto first = openOne();
+    heap.note();
+    store->closeRecordset(first);
+    for (auto _ : state)
+        store->closeRecordset(openOne());
+    heap.report(state);
 }
 
 void storeOpenForAddingTo10(benchmark::State& state) { openForAdding(state, 10); }
@@ -302,6 +225,16 @@ void dialectLookUp(benchmark::State& state)
     }
 }
 BENCHMARK(dialectLookUp);
+
+/// The same through the store: a record set is opened by a statement of a known shape, read nothing of, and closed.
+void storeOpenKnownShape(benchmark::State& state)
+{
+    compareWith(state, "dialectPrepareRaw", 0.2);
+    SqliteDatabase& store = file().store();
+    for (auto _ : state)
+        store.closeRecordset(store.openRecordset(longSelect, 1, DatabaseService::readOnly, true, {}, true));
+}
+BENCHMARK(storeOpenKnownShape);
 
 } // namespace
 } // namespace qncal::host

@@ -1,17 +1,21 @@
-#include "templates/regionFieldNames.h"
-#include "utilities/text.h"
+#include "templates/FieldRenamer.h"
+#include "templates/legacyFieldNames.h"
+#include "utilities/replaceText.h"
 
 #include <cstdint>
 #include <string>
 
-/// Any bytes as a template to be brought up to date: no legacy delimiter and no docket is left.
+/// Any bytes as a template to be brought up to date: the walk gives what one line after the other gives.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
-    for (std::int32_t country = 0; country <= 2; ++country) {
-        std::string text(reinterpret_cast<const char*>(data), size);
-        qncal::fieldRenamer(country, static_cast<std::int32_t>(size % 13)).apply(text);
-        if (text.find("<<") != std::string::npos || qncal::lowerAscii(text).find("docket") != std::string::npos)
-            __builtin_trap();
-    }
+    using namespace qncal;
+    static const FieldRenamer renamer({legacyFieldNames().begin(), legacyFieldNames().end()});
+    std::string text(reinterpret_cast<const char*>(data), size);
+    std::string expected = text;
+    for (const FieldRenaming& line : legacyFieldNames())
+        replaceNoCase(expected, line.oldText.view(), line.newText.view());
+    renamer.apply(text);
+    if (text != expected)
+        __builtin_trap();
     return 0;
 }

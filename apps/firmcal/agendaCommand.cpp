@@ -2,17 +2,20 @@
 #include "firmcal/Failure.h"
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
+#include "firmcal/itemCommands.h"
 #include "firmcal/itemKind.h"
 #include "firmcal/itemRows.h"
+#include "firmcal/itemTexts.h"
 #include "firmcal/valueText.h"
-#include "services/Rows.h"
-#include "utilities/Clock.h"
+#include "services/holidayRows.h"
 #include "utilities/dateText.h"
+#include "utilities/text.h"
 
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
 #include <ostream>
+#include <sstream>
 
 namespace qncal::firmcal {
 
@@ -23,6 +26,7 @@ struct AgendaOptions {
     bool day = false;
     bool week = false;
     int days = 1;
+    bool texts = false;
 };
 
 struct Span {
@@ -45,28 +49,59 @@ Span spanOf(const AgendaOptions& options)
 std::string holidaysOn(DatabaseService& database, Date day)
 {
     std::string names;
-    for (host::Rows rows = host::Rows::read(database, "SELECT Holidays.HolidayName FROM Holidays WHERE HolidayDate=#"
-                                                          + database.getSQLDate(day) + "#;");
-         !rows.atEnd(); rows.moveNext()) {
-        const std::string name = rows.text("HolidayName");
-        names += (names.empty() ? "" : ", ") + (name.empty() ? "holiday" : name);
-    }
+    for (const host::HolidayRow& row : host::readHolidays(database, day, day))
+        names += (names.empty() ? "" : ", ") + (row.holiday.name.empty() ? "holiday" : row.holiday.name);
     return names;
 }
 
-void printDay(CommandContext& context, Date day, std::span<const ItemRow> items, bool withUser)
+ItemTexts textsOf(CommandContext& context, const ItemRow& row)
+{
+    clsCalendarItem item;
+    load(context, item, row.kind, row.id);
+    return readableTexts(context, item);
+}
+
+/// Both texts of an item on one line.
+std::string textLine(const ItemTexts& texts)
+{
+    std::string line;
+    std::istringstream lines(texts.title + '\n' + texts.display);
+    for (std::string part; std::getline(lines, part);) {
+        const std::string_view words = trimmed(part);
+        if (!words.empty())
+            line.append(line.empty() ? "" : ", ").append(words);
+    }
+    return line;
+}
+
+void printDay(CommandContext& context, Date day, std::span<const ItemRow> items, bool withUser, bool withTexts)
 {
     host::HostEnvironment& host = context.host();
     const std::string holidays = holidaysOn(host.database(), day);
     context.out() << formatDate(day, "dddd, mmmm d, yyyy") << (holidays.empty() ? "" : "  [" + holidays + "]") << '\n';
-    Table table({{"Time"}, {"Kind"}, {"ID", Table::Align::right}, {"Subject"}, {"Client"}, {"User"}});
+    Table table({{"Time"}, {"Kind"}, {"ID", Table::Align::right}, {"Subject or text"}, {"Client"}, {"User"}});
     for (const ItemRow& row : items)
-        table.add({timesText(row), std::string(kindNoun(row.kind)), std::to_string(row.id), row.subject,
-                   clientName(host.clients(), row.companyID, row.contactID),
+        table.add({timesText(row), std::string(kindNoun(row.kind)), std::to_string(row.id),
+                   withTexts ? textLine(textsOf(context, row)) : row.subject,
+                   withTexts ? std::string() : clientName(host.clients(), row.companyID, row.contactID),
                    withUser ? host.clients().getUserName(row.userID) : std::string()});
     table.printRows(context.out(), "  ");
     if (items.empty())
         context.out() << "  nothing\n";
+}
+
+nlohmann::ordered_json itemsJson(CommandContext& context, std::span<const ItemRow> items, bool withTexts)
+{
+    auto json = nlohmann::ordered_json::array();
+    for (const ItemRow& row : items) {
+        json.push_back(rowJson(row, context.host().clients()));
+        if (withTexts) {
+            const ItemTexts texts = textsOf(context, row);
+            json.back()["title"] = texts.title;
+            json.back()["display"] = texts.display;
+        }
+    }
+    return json;
 }
 
 void printAgenda(CommandContext& context, const AgendaOptions& options)
@@ -80,19 +115,15 @@ void printAgenda(CommandContext& context, const AgendaOptions& options)
     if (const auto user = context.user())
         filter.userID = user->id;
     const std::vector<ItemRow> items = readItems(host.database(), filter);
-    if (context.options().json) {
-        auto json = nlohmann::ordered_json::array();
-        for (const ItemRow& row : items)
-            json.push_back(rowJson(row, host.clients()));
-        return context.printJson(json);
-    }
+    if (context.options().json)
+        return context.printJson(itemsJson(context, items, options.texts));
     for (Date day = span.from; day <= span.to; day = day.addDays(1)) {
         if (day != span.from)
             context.out() << '\n';
         const auto dayOf = [](const ItemRow& row) { return row.date.serial(); };
         const auto first = std::ranges::lower_bound(items, day.serial(), {}, dayOf);
         const auto last = std::ranges::upper_bound(items, day.serial(), {}, dayOf);
-        printDay(context, day, {first, last}, !filter.userID);
+        printDay(context, day, {first, last}, !filter.userID, options.texts);
     }
 }
 
@@ -110,10 +141,11 @@ void addAgendaCommand(CLI::App& program, CommandContext& context)
         ->check(CLI::Range(1, 366))
         ->excludes(day)
         ->excludes(week);
+    command->add_flag("--texts", options->texts, "The texts that the calendar shows, instead of subject and client");
     command->footer("Without --user the items of all users.\n"
                     "Examples:\n"
                     "  firmcal agenda --user \"Maya Singh\" --week\n"
-                    "  firmcal agenda --from monday --days 3");
+                    "  firmcal agenda --from monday --days 3 --texts");
     command->callback([&context, options] { printAgenda(context, *options); });
 }
 

@@ -147,6 +147,7 @@ void setField(CommandContext& context, const FieldOptions& options)
     } else {
         for (const auto& [column, value] : changes)
             row.set(column, value);
+        row.close();
     }
     context.out() << lowerAscii(options.field) << " of " << kindNoun(field.kind) << "s changed\n";
 }

@@ -8,6 +8,7 @@
 #include "firmcal/itemChanges.h"
 #include "firmcal/itemKind.h"
 #include "firmcal/valueText.h"
+#include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>
 
@@ -19,17 +20,6 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-struct ItemReference {
-    std::string kind = "appointment";
-    std::int32_t id = -1;
-};
-
-void addReference(CLI::App& command, ItemReference& reference)
-{
-    command.add_option("ID", reference.id, "The item's number")->required();
-    addKindOption(command, reference.kind);
-}
-
 Json itemJson(clsCalendarItem& item)
 {
     Json json{{"kind", kindWord(item.calendarItemType())}, {"itemID", item.itemID()}};
@@ -38,18 +28,6 @@ Json itemJson(clsCalendarItem& item)
             json[std::string(known.name)] = known.get(item);
     }
     return json;
-}
-
-void save(CommandContext& context, clsCalendarItem& item, std::string_view done)
-{
-    const bool saved = item.saveCalendarItem();
-    context.throwIfComponentFailed();
-    if (!saved)
-        throw Failure("the item was not saved");
-    if (context.options().json)
-        context.printJson(itemJson(item));
-    else
-        context.out() << done << ' ' << describe(item) << '\n';
 }
 
 void addItem(CommandContext& context, const std::string& kind, const ItemChanges& changes)
@@ -70,7 +48,7 @@ void setItem(CommandContext& context, const ItemReference& reference, const Item
     if (changes == ItemChanges{})
         throw UsageError("nothing to change");
     clsCalendarItem item;
-    load(context, item, readKind(reference.kind), reference.id);
+    load(context, item, reference);
     apply(context, item, changes);
     save(context, item, "Changed");
 }
@@ -97,7 +75,7 @@ std::string plainText(const Json& value)
 void showItem(CommandContext& context, const ItemReference& reference, bool allFields)
 {
     clsCalendarItem item;
-    load(context, item, readKind(reference.kind), reference.id);
+    load(context, item, reference);
     if (context.options().json)
         return context.printJson(itemJson(item));
     context.out() << describe(item) << "\n\n";
@@ -218,6 +196,17 @@ std::string describe(clsCalendarItem& item)
            + (item.Subject().empty() ? "(no subject)" : item.Subject());
 }
 
+void addReference(CLI::App& command, ItemReference& reference)
+{
+    command.add_option("ID", reference.id, "The item's number")->required();
+    addKindOption(command, reference.kind);
+}
+
+void load(CommandContext& context, clsCalendarItem& item, const ItemReference& reference)
+{
+    load(context, item, readKind(reference.kind), reference.id);
+}
+
 void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemType kind, std::int32_t id)
 {
     context.host();
@@ -229,9 +218,21 @@ void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemT
         throw Failure("no " + std::string(kindNoun(kind)) + " " + std::to_string(id));
 }
 
+void save(CommandContext& context, clsCalendarItem& item, std::string_view done)
+{
+    const bool saved = host::saveItem(item);
+    context.throwIfComponentFailed();
+    if (!saved)
+        throw Failure("the item was not saved");
+    if (context.options().json)
+        context.printJson(itemJson(item));
+    else
+        context.out() << done << ' ' << describe(item) << '\n';
+}
+
 void addItemCommands(CLI::App& program, CommandContext& context)
 {
-    CLI::App* item = program.add_subcommand("item", "Add, show, list, change, delete and archive items");
+    CLI::App* item = program.add_subcommand("item", "Add, show, list, change, move, delete and archive items");
     item->require_subcommand(1);
     item->footer("'firmcal item COMMAND --help' tells about a command.");
     addAddCommand(*item, context);
@@ -240,6 +241,8 @@ void addItemCommands(CLI::App& program, CommandContext& context)
     addSetCommand(*item, context);
     addDeleteCommand(*item, context);
     addArchiveCommand(*item, context);
+    addRenderCommand(*item, context);
+    addPlacementCommands(*item, context);
     addFieldsCommand(*item, context);
 }
 

@@ -5,6 +5,8 @@
 #include <CLI/App.hpp>
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 
 namespace qncal::firmcal {
 
@@ -12,9 +14,21 @@ class CommandContext;
 
 /// The parts of `firmcal item` that have files of their own.
 void addListCommand(CLI::App& item, CommandContext& context);
+void addRenderCommand(CLI::App& item, CommandContext& context);
+void addPlacementCommands(CLI::App& item, CommandContext& context);
+
+/// The item that a command is about.
+struct ItemReference {
+    std::string kind = "appointment";
+    std::int32_t id = -1;
+};
+void addReference(CLI::App& command, ItemReference& reference);
 
 /// Loads an item. Throws `Failure` when there is none of that number.
 void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemType kind, std::int32_t id);
+void load(CommandContext& context, clsCalendarItem& item, const ItemReference& reference);
+/// Saves the item and prints it: as JSON, or described behind the word. Throws `Failure` when it was not saved.
+void save(CommandContext& context, clsCalendarItem& item, std::string_view done);
 /// "appointment 12: Tue, Mar 31, 2026, 09:30-10:00, Year-end review"
 std::string describe(clsCalendarItem& item);
 /// Asks, then deletes with reminders and notifications.

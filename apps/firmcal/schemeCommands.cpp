@@ -127,6 +127,7 @@ void addScheme(CommandContext& context, SchemeOptions options)
     writeScheme(row, options);
     const std::int32_t id = row.integer("ColourSchemeID");
     row.update();
+    row.close();
     context.out() << "colour scheme " << id << " added\n";
 }
 
@@ -135,6 +136,7 @@ void setScheme(CommandContext& context, const SchemeOptions& options)
     const std::int32_t id = schemeID(context, options);
     host::Rows row = host::Rows::change(context.host().database(), byKey(id));
     writeScheme(row, options);
+    row.close();
     context.out() << "colour scheme " << id << " changed\n";
 }
 
@@ -145,7 +147,9 @@ void deleteScheme(CommandContext& context, const SchemeOptions& options)
         "Delete colour scheme " + std::to_string(id) + "?", MessageDialogService::informationStyle, nullptr);
     if (answer != MessageDialogService::answerYes)
         throw Failure("the colour scheme was not deleted");
-    host::Rows::change(context.host().database(), byKey(id)).deleteCurrent();
+    host::Rows row = host::Rows::change(context.host().database(), byKey(id));
+    row.deleteCurrent();
+    row.close();
     context.out() << "colour scheme " << id << " deleted\n";
 }
 

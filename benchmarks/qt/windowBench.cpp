@@ -12,10 +12,12 @@
 #include <QApplication>
 #include <QDialog>
 
+#include <memory>
+
 namespace qncal::bench {
 namespace {
 
-/// The time from nothing to a window on the screen, painted once, and away again; beside that of an empty dialog.
+// The time from nothing to a window on the screen, painted once, and away again; beside that of an empty dialog.
 constexpr const char* emptyDialog = "open_QDialog";
 
 /// Without a display: what is measured is the work of the windows.
@@ -43,11 +45,12 @@ void openEmptyDialog(benchmark::State& state)
         showOnce(window);
     }
 }
-BENCHMARK(openEmptyDialog)->Name(emptyDialog)->Unit(benchmark::kMillisecond);
 
-void openWindow(benchmark::State& state, Form& form, double atMost)
+template <class FormType>
+void openWindow(benchmark::State& state, double atMost)
 {
     startQt();
+    FormType form;
     const host::WindowRegistry windows = host::standardWindows();
     for (auto _ : state) {
         const std::unique_ptr<host::FormWindow> window(windows.make(form, nullptr));
@@ -62,20 +65,20 @@ struct ColourSchemesForm : Form {
 };
 
 template <class FormType>
-void openWindowOf(benchmark::State& state, double atMost)
+void add(const char* name, double atMost)
 {
-    FormType form;
-    openWindow(state, form, atMost);
+    benchmark::RegisterBenchmark(name, openWindow<FormType>, atMost)->Unit(benchmark::kMillisecond);
 }
 
-#define QNCAL_WINDOW_BENCHMARK(form, atMost)                                                                           \
-    BENCHMARK_CAPTURE(openWindowOf<form>, form, atMost)->Name("open_" #form)->Unit(benchmark::kMillisecond)
-
-QNCAL_WINDOW_BENCHMARK(frmChangeApptStatusFields, 60);
-QNCAL_WINDOW_BENCHMARK(frmApptCustomFields, 60);
-QNCAL_WINDOW_BENCHMARK(frmApptStatusOptions, 60);
-QNCAL_WINDOW_BENCHMARK(ColourSchemesForm, 60);
-QNCAL_WINDOW_BENCHMARK(frmSelectStartTime, 60);
+[[maybe_unused]] const bool registered = [] {
+    benchmark::RegisterBenchmark(emptyDialog, openEmptyDialog)->Unit(benchmark::kMillisecond);
+    add<frmChangeApptStatusFields>("open_frmChangeApptStatusFields", 3);
+    add<frmApptCustomFields>("open_frmApptCustomFields", 3);
+    add<frmApptStatusOptions>("open_frmApptStatusOptions", 12);
+    add<ColourSchemesForm>("open_frmColourSchemes", 3);
+    add<frmSelectStartTime>("open_frmSelectStartTime", 3);
+    return true;
+}();
 
 } // namespace
 } // namespace qncal::bench

@@ -35,6 +35,9 @@ public:
     /// None takes the focus away. A disabled or hidden control leaves the focus where it is.
     void focus(Control* control);
 
+    /// Prepares the form ahead of its first showing; a registry of windows calls it once.
+    virtual void Form_Load() {}
+
     bool isVisible() const { return visible_; }
     bool isModal() const { return modal_; }
     /// Shows the form through the dialog host and returns when it is hidden or unloaded; without a host it

@@ -73,7 +73,8 @@ std::int32_t ListView::selectedItemData() const
 
 std::int32_t ListView::findItemData(std::int32_t itemData) const
 {
-    const auto found = std::find_if(rows_.begin(), rows_.end(), [=](const Row& row) { return row.itemData == itemData; });
+    const auto found =
+        std::find_if(rows_.begin(), rows_.end(), [=](const Row& row) { return row.itemData == itemData; });
     return found == rows_.end() ? -1 : static_cast<std::int32_t>(found - rows_.begin());
 }
 
@@ -95,14 +96,16 @@ void ListView::sort(std::int32_t column, bool ascending)
     sortColumn_ = column;
     ascending_ = ascending;
     const auto cell = [column](const Row& row) {
-        return static_cast<std::size_t>(column) < row.cells.size() ? std::string_view(row.cells[static_cast<std::size_t>(column)])
-                                                                   : std::string_view();
+        return static_cast<std::size_t>(column) < row.cells.size()
+                   ? std::string_view(row.cells[static_cast<std::size_t>(column)])
+                   : std::string_view();
     };
     std::vector<std::int32_t> order(rows_.size());
     std::iota(order.begin(), order.end(), 0);
     if (column >= 0)
         std::stable_sort(order.begin(), order.end(), [&](std::int32_t a, std::int32_t b) {
-            const int compared = compareNoCase(cell(rows_[static_cast<std::size_t>(a)]), cell(rows_[static_cast<std::size_t>(b)]));
+            const int compared =
+                compareNoCase(cell(rows_[static_cast<std::size_t>(a)]), cell(rows_[static_cast<std::size_t>(b)]));
             return ascending ? compared < 0 : compared > 0;
         });
     std::vector<Row> sorted;

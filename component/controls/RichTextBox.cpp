@@ -17,7 +17,8 @@ void RichTextBox::insertText(std::int32_t position, std::string_view plainText)
     position = std::max(position, 0);
     std::string stream = textRTF_;
     const bool rich = isRichTextStream(stream);
-    const std::size_t offset = rich ? streamOffsetOf(stream, position) : truncatedToCodePoints(stream, static_cast<std::size_t>(position)).size();
+    const std::size_t offset = rich ? streamOffsetOf(stream, position)
+                                    : truncatedToCodePoints(stream, static_cast<std::size_t>(position)).size();
     stream.insert(offset, rich ? escapedForStream(plainText) : std::string(plainText));
     selStart_ = position + static_cast<std::int32_t>(countCodePoints(plainText));
     selLength_ = 0;

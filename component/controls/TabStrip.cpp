@@ -2,7 +2,10 @@
 
 namespace qncal {
 
-std::string TabStrip::valueText() const { return tabs_.empty() ? std::string() : tabs_[static_cast<std::size_t>(selected_)]; }
+std::string TabStrip::valueText() const
+{
+    return tabs_.empty() ? std::string() : tabs_[static_cast<std::size_t>(selected_)];
+}
 
 void TabStrip::addTab(std::string caption)
 {
@@ -18,7 +21,8 @@ bool TabStrip::isTabVisible(std::int32_t tab) const
 
 void TabStrip::tabVisible(std::int32_t tab, bool visible)
 {
-    if (tab < 0 || static_cast<std::size_t>(tab) >= visible_.size() || visible_[static_cast<std::size_t>(tab)] == visible)
+    if (tab < 0 || static_cast<std::size_t>(tab) >= visible_.size()
+        || visible_[static_cast<std::size_t>(tab)] == visible)
         return;
     visible_[static_cast<std::size_t>(tab)] = visible;
     updated.raise();

@@ -12,13 +12,22 @@ namespace qncal {
 ///
 /// A handle is a number above zero, issued by `openRecordset` and valid until `closeRecordset`. Each handle has
 /// a current record of its own. Every operation may throw `RunTimeError`; nothing is changed by a call that
-/// throws. Names of tables and fields compare without regard to case. Called on the component's thread; an
+/// throws; a full or failing disk alone may be told by a later call, which is then the one to try again. Names of
+/// tables and fields compare without regard to case. Called on the component's thread; an
 /// implementation never calls back. A handle that an error left open must not disturb later calls.
 ///
 /// Values come back as variants and go in as text: numbers in decimal, booleans as "True" and "False", dates as
 /// `defaultDateText` writes them, all converted by the service to the column's type. An empty text into a
-/// number, date or colour column stores Null; a text that does not convert is an error naming table, column and
-/// text. A column that no one set stores its default, or Null.
+/// number, date or colour column stores Null; a boolean or key column refuses it, as every column does a text that
+/// does not convert, with an error naming table, column and text. A column that no one set stores its default, or
+/// Null.
+///
+/// A record set is fixed when it is opened: what others add or change through this service later does not move a
+/// record in or out of it or to another place, records deleted leave it, and records added through the handle itself
+/// come to its end. All records of one table in no order are the exception: they are found as they are walked over,
+/// and those added meanwhile may be among them. `findRecord` finds what the set holds, by the values of the moment.
+/// A record set over several tables takes writes to the fields of each, but neither new records nor deletions; a
+/// grouped, distinct or computed one takes no writes at all.
 class DatabaseService {
 public:
     static constexpr std::int32_t cursorType = 1;

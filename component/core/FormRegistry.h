@@ -15,7 +15,7 @@ public:
     virtual void key(std::int32_t key) = 0;
     virtual std::shared_ptr<Form> form() const = 0;
     virtual void form(std::shared_ptr<Form> form) = 0;
-    /// Prepares the form for its first showing.
+    /// Prepares the form for its first showing: calls its `Form_Load`, once.
     virtual void initialize() = 0;
     /// Shows the form; returns at once for a modeless one, when it is hidden for a modal one.
     virtual void show(bool modal) = 0;

@@ -18,10 +18,26 @@ Service& inSlot(const std::shared_ptr<Service>& slot, const char* name)
 
 } // namespace
 
+namespace {
+
+/// Trivially destructible, so it can still be read when the registry of its thread is gone.
+thread_local bool registryEnded = false;
+
+struct ThreadRegistry {
+    ServiceRegistry services;
+    ~ThreadRegistry() { registryEnded = true; }
+};
+
+} // namespace
+
 ServiceRegistry& serviceRegistry()
 {
-    thread_local ServiceRegistry registry;
-    return registry;
+    // A static object of a host outlives its thread's registry; it meets empty slots.
+    static ServiceRegistry& empty = *new ServiceRegistry;
+    if (registryEnded)
+        return empty;
+    thread_local ThreadRegistry registry;
+    return registry.services;
 }
 
 void createComponentServices()

@@ -40,19 +40,12 @@ public:
 std::shared_ptr<ItemKindForm> newChangeApptStatusFieldsForm();
 std::shared_ptr<ItemKindForm> newApptCustomFieldsForm();
 
-/// A dialog that lives in the host's registry of windows under a fixed key, see `registeredForm`.
-class RegisteredForm : public Form {
+/// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
+class ApptForm : public Form {
 public:
     using Form::Form;
-    /// Runs once, ahead of the first showing.
-    virtual void Initialize() = 0;
-};
-
-/// The editor. Its opener hands it the item and `showTaskNotes`, calls `setupForm` and has it shown modally.
-class ApptForm : public RegisteredForm {
-public:
-    using RegisteredForm::RegisteredForm;
     /// The item to edit, or none. It stays its owner's and must outlive its time in the form.
+    virtual clsCalendarItem* PassedClassRef() const = 0;
     virtual void PassedClassRef(clsCalendarItem* item) = 0;
     virtual void showTaskNotes(bool show) = 0;
     virtual void setupForm() = 0;
@@ -62,6 +55,6 @@ public:
 std::shared_ptr<ApptForm> newApptForm();
 
 /// The duplicate removal wizard, modeless.
-std::shared_ptr<RegisteredForm> newDuplicateAppointmentsForm();
+std::shared_ptr<Form> newDuplicateAppointmentsForm();
 
 } // namespace qncal

@@ -14,7 +14,7 @@ bool askYesNo(std::string_view text, Form* owner)
 {
     return statement([&] {
         return messageDialogService().askQuestion(text, MessageDialogService::informationStyle, owner)
-            == MessageDialogService::answerYes;
+               == MessageDialogService::answerYes;
     });
 }
 

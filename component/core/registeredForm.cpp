@@ -1,8 +1,8 @@
 #include "core/registeredForm.h"
 
 #include "core/ClientDropDownService.h"
+#include "core/FormRegistry.h"
 #include "core/ServiceRegistry.h"
-#include "core/forms.h"
 #include "core/routineScope.h"
 #include "utilities/RunTimeError.h"
 
@@ -23,19 +23,25 @@ FormRegistryEntry& currentEntry(FormRegistry& registry)
     return statement([&]() -> FormRegistryEntry& { return registry.currentEntry(); });
 }
 
+std::shared_ptr<Form> formOf(const FormRegistryEntry& entry)
+{
+    return statement([&] { return entry.form(); });
+}
+
 } // namespace
 
-FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<RegisteredForm>()>& create)
+FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<Form>()>& create)
 {
     const auto registry = statement([] { return formRegistry(); });
-    if (!statement([&] { return registry->isRegistered(key); })) {
+    const bool registered = statement([&] { return registry->isRegistered(key); });
+    if (!registered || !formOf(currentEntry(*registry))) {
         const auto form = create();
-        statement([&] { registry->addKey(key); });
+        if (!registered)
+            statement([&] { registry->addKey(key); });
         FormRegistryEntry& entry = currentEntry(*registry);
         statement([&] { entry.key(key); });
         statement([&] { entry.form(form); });
         statement([&] { entry.initialize(); });
-        form->Initialize();
     }
     return currentEntry(*registry);
 }

@@ -57,7 +57,7 @@ const Frame* Frame::innermost() { return innermostFrame; }
 
 Decision decideOnFailure()
 {
-    if (!innermostFrame || innermostFrame->kind() == Frame::Kind::skipOnError)
+    if (!innermostFrame || innermostFrame->kind() != Frame::Kind::routine)
         throw;
     return report();
 }

@@ -30,10 +30,11 @@ enum class Decision { retry, leave };
 /// In a skip-on-error section, and outside of any routine, it throws the exception on instead.
 Decision decideOnFailure();
 
-/// The error handling of one routine or skip-on-error section, innermost last.
+/// The error handling of one routine or skip-on-error section, innermost last. Code of the host, which a service
+/// call or an event reaches, stands in a frame of its own: no routine answers for its failures.
 class Frame {
 public:
-    enum class Kind : std::uint8_t { routine, skipOnError };
+    enum class Kind : std::uint8_t { routine, skipOnError, host };
     explicit Frame(Kind kind);
     ~Frame();
     Frame(const Frame&) = delete;
@@ -72,6 +73,7 @@ decltype(auto) statement(Body&& body)
 {
     for (;;) {
         try {
+            const detail::Frame frame(detail::Frame::Kind::host);
             return body();
         } catch (const detail::LeaveRoutine&) {
             throw;
@@ -91,6 +93,26 @@ void skipOnError(Body&& body)
         body();
     } catch (...) { // passed over by contract
     }
+}
+
+/// Calls out to the host other than through a service: an event's handlers.
+template <class Body>
+void callHost(Body&& body)
+{
+    const detail::Frame frame(detail::Frame::Kind::host);
+    body();
+}
+
+/// A property that reads through services. Read by a routine it is a part of that routine; read by the host there is
+/// nobody to report to, and a failure is passed over.
+template <class Body>
+void accessor(Body&& body)
+{
+    const detail::Frame* reader = detail::Frame::innermost();
+    if (reader && reader->kind() == detail::Frame::Kind::routine)
+        body();
+    else
+        skipOnError(body);
 }
 
 /// A routine without a result, or one whose result is a variable of the caller that keeps what it reached.

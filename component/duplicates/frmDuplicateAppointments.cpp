@@ -2,9 +2,6 @@
 
 namespace qncal {
 
-std::shared_ptr<RegisteredForm> newDuplicateAppointmentsForm()
-{
-    return std::make_shared<frmDuplicateAppointments>();
-}
+std::shared_ptr<Form> newDuplicateAppointmentsForm() { return std::make_shared<frmDuplicateAppointments>(); }
 
 } // namespace qncal

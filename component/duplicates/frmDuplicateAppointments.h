@@ -5,11 +5,9 @@
 namespace qncal {
 
 /// The wizard that finds and deletes calendar rows which repeat an earlier row.
-class frmDuplicateAppointments : public RegisteredForm {
+class frmDuplicateAppointments : public Form {
 public:
-    frmDuplicateAppointments() : RegisteredForm("frmDuplicateAppointments") {}
-
-    void Initialize() override {}
+    frmDuplicateAppointments() : Form("frmDuplicateAppointments") {}
 };
 
 } // namespace qncal

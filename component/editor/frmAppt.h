@@ -9,8 +9,7 @@ class frmAppt : public ApptForm {
 public:
     frmAppt() : ApptForm("frmAppt") {}
 
-    void Initialize() override {}
-    clsCalendarItem* PassedClassRef() const { return passedClassRef_; }
+    clsCalendarItem* PassedClassRef() const override { return passedClassRef_; }
     void PassedClassRef(clsCalendarItem* item) override { passedClassRef_ = item; }
     bool showTaskNotes() const { return showTaskNotes_; }
     void showTaskNotes(bool show) override { showTaskNotes_ = show; }

@@ -10,16 +10,21 @@ namespace qncal {
 
 namespace {
 
-/// Lets the editor see an item while it is open, and no longer: the form outlives the call in the registry.
+/// Lets the editor see an item while it is open, and no longer: the form outlives the call in the registry. A call
+/// inside another gives the form its former item back.
 class PassedItem {
 public:
-    PassedItem(ApptForm& form, clsCalendarItem& item) : form_(form) { form_.PassedClassRef(&item); }
-    ~PassedItem() { form_.PassedClassRef(nullptr); }
+    PassedItem(ApptForm& form, clsCalendarItem& item) : form_(form), former_(form.PassedClassRef())
+    {
+        form_.PassedClassRef(&item);
+    }
+    ~PassedItem() { form_.PassedClassRef(former_); }
     PassedItem(const PassedItem&) = delete;
     PassedItem& operator=(const PassedItem&) = delete;
 
 private:
     ApptForm& form_;
+    clsCalendarItem* former_;
 };
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "core/HostReferences.h"
 #include "core/clsCalendarItemType.h"
+#include "core/routineScope.h"
 #include "items/CalendarItemRecord.h"
 #include "utilities/Date.h"
 #include "utilities/Event.h"
@@ -265,9 +266,18 @@ public:
 
     // Inside the component:
 
-    void raiseColourSelectionChanged(std::int32_t& ColourSchemeID) { colourSelectionChanged.raise(ColourSchemeID); }
-    void raiseRefreshedAppointmentText(std::string& text) { refreshedAppointmentText.raise(text); }
-    void raiseRefreshedTitleBarText(std::string& text) { refreshedTitleBarText.raise(text); }
+    void raiseColourSelectionChanged(std::int32_t& ColourSchemeID)
+    {
+        callHost([&] { colourSelectionChanged.raise(ColourSchemeID); });
+    }
+    void raiseRefreshedAppointmentText(std::string& text)
+    {
+        callHost([&] { refreshedAppointmentText.raise(text); });
+    }
+    void raiseRefreshedTitleBarText(std::string& text)
+    {
+        callHost([&] { refreshedTitleBarText.raise(text); });
+    }
 
     /// Whether the item may be saved; always True, there is no condition so far.
     bool checkOKToSave();
@@ -307,10 +317,17 @@ private:
 
     /// A place for the item in its day as it stands in the database; none on a day without any.
     std::optional<Date> findGapInDay();
-    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
-                                  bool withCompany);
-    std::unique_ptr<clsInsertFieldsInRTB> newMergeEngine() const;
-    std::string mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine);
+
+    /// None until a text needs it. Its list of fields costs more than a merge, so that it serves both stages of a
+    /// merge, and both texts of a save.
+    using MergeEngine = std::unique_ptr<clsInsertFieldsInRTB>;
+    void renderBothTexts();
+    std::string renderDisplayText(MergeEngine& engine);
+    std::string renderTitleBarText(MergeEngine& engine);
+    std::string mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(), bool withCompany,
+                                  MergeEngine& engine);
+    MergeEngine newMergeEngine() const;
+    std::string mergeFromItem(const std::string& text, MergeEngine& engine);
     std::string itemFieldText(ItemTextField field, const std::string& dateFormat) const;
 
     std::optional<RecordSet> findRowToLoad(std::int32_t tempRST);

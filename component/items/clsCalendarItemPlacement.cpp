@@ -57,8 +57,8 @@ void clsCalendarItem::getBestStartTime(Date startTimeRange, Date endTimeRange)
             const std::string& table = kind().tableName();
             RecordSet rows = RecordSet::openReadOnly(
                 "SELECT " + table + ".UserIDNum, " + table + ".DateFrom, " + table + ".TimeTo FROM " + table + " WHERE "
-                + table + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table
-                + ".DateFrom=" + sqlDate(record_.dateFrom) + " AND " + table + ".TimeTo>=" + sqlTime(startTimeRange)
+                + table + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table + ".DateFrom="
+                + sqlDate(record_.dateFrom.dateOnly()) + " AND " + table + ".TimeTo>=" + sqlTime(startTimeRange)
                 + " And " + table + ".TimeTo<=" + sqlTime(endTimeRange) + " ORDER BY " + table + ".TimeTo DESC;");
             if (rows.hasRecords() && rows.read("TimeTo", best))
                 best = statement([&] { return dateTimeService().getTimeOnly(best); });
@@ -75,11 +75,10 @@ std::optional<Date> clsCalendarItem::findGapInDay()
     Date firstGap = Date::timeOf(6);
     if (calendarItemType() != enumLocalCalendarUnknownItem) {
         const std::string& table = kind().tableName();
-        RecordSet rows = RecordSet::openReadOnly("SELECT " + table + ".UserIDNum, " + table + ".DateFrom, " + table
-                                                 + ".TimeFrom, " + table + ".TimeTo FROM " + table + " WHERE " + table
-                                                 + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table
-                                                 + ".DateFrom=" + sqlDate(record_.dateFrom) + " ORDER BY " + table
-                                                 + ".TimeTo;");
+        RecordSet rows = RecordSet::openReadOnly(
+            "SELECT " + table + ".UserIDNum, " + table + ".DateFrom, " + table + ".TimeFrom, " + table + ".TimeTo FROM "
+            + table + " WHERE " + table + ".UserIDNum=" + std::to_string(record_.userIDNum) + " AND " + table
+            + ".DateFrom=" + sqlDate(record_.dateFrom.dateOnly()) + " ORDER BY " + table + ".TimeTo;");
         bool found = false;
         for (; !found && !rows.isEOF(); rows.moveNext()) {
             Date rowStart;
@@ -110,11 +109,10 @@ std::optional<Date> clsCalendarItem::findGapInDay()
 
 void clsCalendarItem::getBestTimeInCalendarForSpecificDayAndUser()
 {
-    routine("Vestrel.exe-clsCalendarItem-getBestTimeInCalendarForSpecificDayAndUser",
-            [&] {
-                const auto gap = findGapInDay();
-                record_.timeFrom = gap ? *gap : randomHour();
-            });
+    routine("Vestrel.exe-clsCalendarItem-getBestTimeInCalendarForSpecificDayAndUser", [&] {
+        const auto gap = findGapInDay();
+        record_.timeFrom = gap ? *gap : randomHour();
+    });
 }
 
 void clsCalendarItem::moveCalendarItemToNewDateAndHourSlot(Date newDate, Date newStartHourTime)

@@ -115,15 +115,10 @@ std::string clsCalendarItem::DisplayTextDefaultTemplate()
 const std::string& clsCalendarItem::templateOrDefault(std::string& own,
                                                       std::string (clsCalendarItem::*defaultTemplate)())
 {
-    const auto fill = [&] {
+    accessor([&] {
         if (isNullText(own))
             own = (this->*defaultTemplate)();
-    };
-    // A read by a routine is a statement of that routine; for a host there is nobody to report to.
-    if (detail::Frame::innermost())
-        fill();
-    else
-        skipOnError(fill);
+    });
     return own;
 }
 

@@ -140,8 +140,7 @@ bool clsCalendarItem::saveCalendarItem(std::int32_t tempRST)
         bool saved = false;
         if (checkOKToSave()) {
             mousePointer(MousePointer::hourglass);
-            createTitleBarTextByID();
-            createDisplayTextByID();
+            renderBothTexts();
             bool isNewRow = false;
             auto row = tempRST < 0 ? openRowToSave(isNewRow) : RecordSet::borrow(tempRST);
             writeColumns(row);

@@ -14,6 +14,8 @@
 #include "utilities/numberText.h"
 #include "utilities/text.h"
 
+#include <utility>
+
 namespace qncal {
 
 namespace {
@@ -46,34 +48,53 @@ std::string clientText(ClientKind client, std::int32_t id, const std::string& di
 
 std::string clsCalendarItem::createDisplayTextByID()
 {
-    return routine("Vestrel.exe-clsCalendarItem-createDisplayTextByID", std::string(), [this] {
+    MergeEngine engine;
+    return renderDisplayText(engine);
+}
+
+std::string clsCalendarItem::createTitleBarTextByID()
+{
+    MergeEngine engine;
+    return renderTitleBarText(engine);
+}
+
+void clsCalendarItem::renderBothTexts()
+{
+    MergeEngine engine;
+    renderTitleBarText(engine);
+    renderDisplayText(engine);
+}
+
+std::string clsCalendarItem::renderDisplayText(MergeEngine& engine)
+{
+    return routine("Vestrel.exe-clsCalendarItem-createDisplayTextByID", std::string(), [&] {
         record_.appointmentText.clear();
         const std::string itemTemplate = DisplayTextTemplate();
         if (itemTemplate.empty())
             return std::string();
-        buildDisplayText(mergeItemTemplate(itemTemplate, &clsCalendarItem::DisplayTextDefaultTemplate, true));
+        buildDisplayText(mergeItemTemplate(itemTemplate, &clsCalendarItem::DisplayTextDefaultTemplate, true, engine));
         raiseRefreshedAppointmentText(record_.appointmentText);
         return record_.appointmentText;
     });
 }
 
-std::string clsCalendarItem::createTitleBarTextByID()
+std::string clsCalendarItem::renderTitleBarText(MergeEngine& engine)
 {
-    return routine("Vestrel.exe-clsCalendarItem-createTitleBarTextByID", std::string(), [this] {
+    return routine("Vestrel.exe-clsCalendarItem-createTitleBarTextByID", std::string(), [&] {
         record_.titleText.clear();
         const std::string itemTemplate = TitleBarTextTemplate();
         if (itemTemplate.empty())
             return std::string();
-        record_.titleText = mergeItemTemplate(itemTemplate, &clsCalendarItem::TitleBarTextDefaultTemplate, false);
+        record_.titleText =
+            mergeItemTemplate(itemTemplate, &clsCalendarItem::TitleBarTextDefaultTemplate, false, engine);
         raiseRefreshedTitleBarText(record_.titleText);
         return record_.titleText;
     });
 }
 
 std::string clsCalendarItem::mergeItemTemplate(std::string text, std::string (clsCalendarItem::*defaultTemplate)(),
-                                               bool withCompany)
+                                               bool withCompany, MergeEngine& engine)
 {
-    std::unique_ptr<clsInsertFieldsInRTB> engine;
     exchangeClientName(text, record_.companyIDNum, record_.contactIDNum);
     text = mergeFromItem(text, engine);
     if (!holdsExpression(text))
@@ -86,31 +107,33 @@ std::string clsCalendarItem::mergeItemTemplate(std::string text, std::string (cl
     }
     if (engine->testRTBComment(text, false, false, false))
         text = (this->*defaultTemplate)();
-    engine->MergeFieldListUse(mergeListUse::normal);
+    // From here on it has the ids of this text: no other may use it.
+    const MergeEngine merge = std::move(engine);
+    merge->MergeFieldListUse(mergeListUse::normal);
     if (withCompany)
-        engine->companyID(record_.companyIDNum);
-    engine->contactID(record_.contactIDNum);
-    engine->userID(record_.userIDNum);
-    engine->TemplateText(engine->convertProvinceFields(std::move(text)));
+        merge->companyID(record_.companyIDNum);
+    merge->contactID(record_.contactIDNum);
+    merge->userID(record_.userIDNum);
+    merge->TemplateText(merge->convertProvinceFields(std::move(text)));
     switch (calendarItemType()) {
     case enumLocalCalendarAppointmentItem:
-        engine->appointmentID(itemID_);
+        merge->appointmentID(itemID_);
         break;
     case enumLocalCalendarTaskItem:
-        engine->TaskID(itemID_);
+        merge->TaskID(itemID_);
         break;
     case enumLocalCalendarDocketItem:
-        engine->docketId(itemID_);
+        merge->docketId(itemID_);
         break;
     case enumLocalCalendarUnknownItem:
         break;
     }
-    text = engine->parseRTBComment();
-    engine->Terminate();
+    text = merge->parseRTBComment();
+    merge->Terminate();
     return text;
 }
 
-std::unique_ptr<clsInsertFieldsInRTB> clsCalendarItem::newMergeEngine() const
+clsCalendarItem::MergeEngine clsCalendarItem::newMergeEngine() const
 {
     auto engine = std::make_unique<clsInsertFieldsInRTB>();
     engine->ListType(mergeListTypeOf(calendarItemType()));
@@ -130,18 +153,18 @@ std::string clsCalendarItem::buildDisplayText(const std::string& templateResult)
 
 std::string clsCalendarItem::parseCalendarItemComment(const std::string& newText)
 {
-    std::unique_ptr<clsInsertFieldsInRTB> engine;
+    MergeEngine engine;
     return mergeFromItem(newText, engine);
 }
 
-/// The engine that the merge needed, if any, is left to the caller: its list serves the second stage as well.
-std::string clsCalendarItem::mergeFromItem(const std::string& text, std::unique_ptr<clsInsertFieldsInRTB>& engine)
+std::string clsCalendarItem::mergeFromItem(const std::string& text, MergeEngine& engine)
 {
     return routine("Vestrel.exe-clsCalendarItem-parseCalendarItemComment", std::string(), [&] {
         std::string merged = text;
         if (!holdsDelimiter(text))
             return merged;
-        engine = newMergeEngine();
+        if (!engine)
+            engine = newMergeEngine();
         const FieldListCollection& list = *engine->FieldList();
         engine->mergeFields(
             merged, [&](std::int32_t position, const std::string& format) -> std::optional<std::string> {

@@ -35,7 +35,7 @@ void clsCalendarItem::determineEndTimeFromTimeDuration()
     routine("Vestrel.exe-clsCalendarItem-determineEndTimeFromTimeDuration", [this] {
         if (record_.timeduration <= 0) {
             record_.timeduration = 1.0F / 60.0F;
-            record_.timeTo = record_.timeFrom.addSeconds(oneMinuteInSeconds);
+            record_.timeTo = record_.timeFrom.addSeconds(oneMinuteInSeconds).timeOnly();
         } else {
             record_.timeTo =
                 statement([this] { return dateTimeService().addHoursToTime(record_.timeFrom, record_.timeduration); });

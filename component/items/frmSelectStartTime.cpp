@@ -41,7 +41,8 @@ frmSelectStartTime::frmSelectStartTime() : Form("frmSelectStartTime")
     cmdOpts(0).isDefault(true);
     cmdOpts(1).caption("&Cancel");
     cmdOpts(1).isCancel(true);
-    cmdOpts.forEach([this](CommandButton& button, int index) { button.Click = [this, index] { cmdOpts_Click(index); }; });
+    cmdOpts.forEach(
+        [this](CommandButton& button, int index) { button.Click = [this, index] { cmdOpts_Click(index); }; });
 }
 
 void frmSelectStartTime::Initialize()
@@ -95,9 +96,6 @@ void frmSelectStartTime::cmdOpts_Click(int index)
     });
 }
 
-void frmSelectStartTime::Form_QueryUnload(bool&, bool)
-{
-    cancelFlag_ = true;
-}
+void frmSelectStartTime::Form_QueryUnload(bool&, bool) { cancelFlag_ = true; }
 
 } // namespace qncal

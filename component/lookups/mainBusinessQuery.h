@@ -6,6 +6,7 @@
 namespace qncal::modFormatAddresses {
 
 /// The one query that joins a client's whole record; its SELECT list and joins depend on the firm's country.
+/// All joins are inner ones: a client that lacks a row in one of the side tables is not in the result.
 /// The text ends with a semicolon. After a failure it is empty.
 
 /// `filterClients` leaves out clients that are not to be shown. `activeFilter`: 1 active clients, 2 inactive

@@ -15,14 +15,17 @@ namespace {
 
 struct Channel {
     std::uint8_t bit;
-    std::int32_t (AutoNotifyService::*create)(std::int16_t, std::int32_t, Date, std::int32_t, std::int32_t, std::int32_t);
+    std::int32_t (AutoNotifyService::*create)(std::int16_t, std::int32_t, Date, std::int32_t, std::int32_t,
+                                              std::int32_t);
     void (AutoNotifyService::*setDate)(std::int16_t, std::int16_t, std::int32_t, Date, std::int32_t);
 };
 
 constexpr std::array<Channel, 4> channels{{
-    {AutoNotifyService::email, &AutoNotifyService::createEmailNotification, &AutoNotifyService::setEmailNotificationDate},
+    {AutoNotifyService::email, &AutoNotifyService::createEmailNotification,
+     &AutoNotifyService::setEmailNotificationDate},
     {AutoNotifyService::fax, &AutoNotifyService::createFaxNotification, &AutoNotifyService::setFaxNotificationDate},
-    {AutoNotifyService::phone, &AutoNotifyService::createPhoneNotification, &AutoNotifyService::setPhoneNotificationDate},
+    {AutoNotifyService::phone, &AutoNotifyService::createPhoneNotification,
+     &AutoNotifyService::setPhoneNotificationDate},
     {AutoNotifyService::letter, &AutoNotifyService::createLetterNotification,
      &AutoNotifyService::setLetterNotificationDate},
 }};

@@ -49,8 +49,8 @@ void clsCalendarItem::schedulePopupReminderForItem()
         }
         getPopUpReminderTime();
         const std::string text = isAppointment
-            ? getPopUpReminderText(type, itemID_)
-            : getPopUpReminderText(type, record_.scheduleIDNum, record_.reminderPeriod);
+                                     ? getPopUpReminderText(type, itemID_)
+                                     : getPopUpReminderText(type, record_.scheduleIDNum, record_.reminderPeriod);
         createPopUpReminder(type, record_.userIDNum, record_.reminderDate, record_.reminderTime, text, ids);
     });
 }
@@ -83,9 +83,8 @@ std::string clsCalendarItem::getPopUpReminderPopupText()
 
 std::string clsCalendarItem::getPopupReminderCurrentStatusText(bool checkRemindersTableForRealStatus)
 {
-    return routine("Vestrel.exe-clsCalendarItem-getPopupReminderCurrentStatusText", std::string(), [&] {
-        return checkRemindersTableForRealStatus ? storedReminderStatus() : plannedReminderStatus();
-    });
+    return routine("Vestrel.exe-clsCalendarItem-getPopupReminderCurrentStatusText", std::string(),
+                   [&] { return checkRemindersTableForRealStatus ? storedReminderStatus() : plannedReminderStatus(); });
 }
 
 std::string clsCalendarItem::storedReminderStatus() const

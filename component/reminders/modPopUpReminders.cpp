@@ -19,7 +19,7 @@ namespace {
 struct RemindedRecord {
     std::int32_t type;
     std::string_view column;
-    std::int32_t ReminderIDs::* id;
+    std::int32_t ReminderIDs::*id;
     std::int32_t (*companyOf)(std::int32_t id) = nullptr;
     std::int32_t (*contactOf)(std::int32_t id) = nullptr;
 };
@@ -27,8 +27,8 @@ struct RemindedRecord {
 using namespace modDatabaseFunctions;
 
 constexpr std::array<RemindedRecord, 7> remindedRecords{{
-    {reminderType::appointment, "AppointmentIDNum", &ReminderIDs::appointmentOrScheduleID, getCompanyIDFromAppointmentID,
-     getContactIDFromAppointmentID},
+    {reminderType::appointment, "AppointmentIDNum", &ReminderIDs::appointmentOrScheduleID,
+     getCompanyIDFromAppointmentID, getContactIDFromAppointmentID},
     {reminderType::toDo, "ToDoIDNum", &ReminderIDs::toDoID},
     {reminderType::task, "TaskIDNum", &ReminderIDs::taskID, getCompanyIDFromTaskID, getContactIDFromTaskID},
     {reminderType::missingInfo, "MissingInfoIDNum", &ReminderIDs::missingInfoID, getCompanyIDFromMissingInfoID,
@@ -75,7 +75,7 @@ void fillInClient(const RemindedRecord* record, ReminderIDs& ids)
 std::string whereRecord(const RemindedRecord& record, std::int32_t type, std::int32_t userID, const ReminderIDs& ids)
 {
     return " FROM Reminders WHERE UserIDNum = " + std::to_string(userID) + " AND " + std::string(record.column) + " = "
-        + std::to_string(ids.*record.id) + " AND ReminderType = " + std::to_string(type) + ";";
+           + std::to_string(ids.*record.id) + " AND ReminderType = " + std::to_string(type) + ";";
 }
 
 /// The reminder that stands already, -1 for none.
@@ -116,9 +116,9 @@ void writeColumns(Write write, std::int32_t type, std::int32_t userID, Date date
 std::string clientNameOfSchedule(std::int32_t clientNum)
 {
     std::int32_t companyID = -1;
-    readFirstRow("SELECT Clients.ClientID, Clients.CompanyIDNum FROM Clients WHERE ClientID="
-                     + std::to_string(clientNum) + ";",
-                 "CompanyIDNum", companyID);
+    readFirstRow(
+        "SELECT Clients.ClientID, Clients.CompanyIDNum FROM Clients WHERE ClientID=" + std::to_string(clientNum) + ";",
+        "CompanyIDNum", companyID);
     return clientName(companyID, -1);
 }
 
@@ -142,7 +142,7 @@ std::string taskText(std::int32_t scheduleID, std::string period)
                      "ReminderPeriod", period);
     const std::string client = clientNum < 0 ? std::string() : clientNameOfSchedule(clientNum);
     return "Your upcoming " + name + (client.empty() ? " task" : " task for " + client)
-        + std::string(reminderPeriod(period).taskWording);
+           + std::string(reminderPeriod(period).taskWording);
 }
 
 std::string appointmentText(std::int32_t appointmentID)
@@ -184,16 +184,16 @@ bool createPopUpReminder(std::int32_t& type, std::int32_t userID, Date date, Dat
             return false;
         const std::int32_t reminderID = findReminder(record, type, userID, ids);
         if (reminderID >= 0) {
-            auto row = RecordSet::openUpdatable("SELECT Reminders.* FROM Reminders WHERE ReminderID="
-                                                + std::to_string(reminderID) + ";");
+            auto row = RecordSet::openUpdatable(
+                "SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(reminderID) + ";");
             writeColumns([&](std::string_view column, const auto& value) { row.write(column, value); }, type, userID,
                          date, time, text, ids);
             row.close();
         } else {
             auto rows = RecordSet::openUpdatable("SELECT Reminders.* FROM Reminders;");
             rows.addNew();
-            writeColumns([&](std::string_view column, const auto& value) { rows.writeNew(column, value); }, type, userID,
-                         date, time, text, ids);
+            writeColumns([&](std::string_view column, const auto& value) { rows.writeNew(column, value); }, type,
+                         userID, date, time, text, ids);
             rows.update();
             rows.close();
         }

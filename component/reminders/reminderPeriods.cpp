@@ -36,6 +36,8 @@ constexpr ReminderPeriod noPeriod;
 
 } // namespace
 
+std::span<const ReminderPeriod> reminderPeriods() { return periods; }
+
 const ReminderPeriod& reminderPeriod(std::string_view name)
 {
     const auto found = std::find_if(periods.begin(), periods.end(),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <span>
 #include <string_view>
 
 namespace qncal {
@@ -15,6 +16,8 @@ struct ReminderPeriod {
     std::string_view appointmentPopupWording;
 };
 
+/// The periods that an item can have, shortest first.
+std::span<const ReminderPeriod> reminderPeriods();
 /// A name outside of the table has no offset and no words.
 const ReminderPeriod& reminderPeriod(std::string_view name);
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "controls/captionedControls.h"
 #include "controls/ControlArray.h"
 #include "controls/Form.h"
+#include "controls/captionedControls.h"
 #include "controls/rangeControls.h"
 
 namespace qncal {

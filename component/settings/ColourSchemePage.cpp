@@ -41,8 +41,8 @@ ColourSchemePage::ColourSchemePage(Form& form)
     lvSchemes.Click = [this] { lvSchemes_Click(); };
     txtSchemeName.accessibleName("Scheme name");
     txtSchemeName.Change = [this] { txtSchemeName_Change(); };
-    constexpr std::string_view colourTitles[] = {"Title Bar Background:", "Title Bar Foreground:", "Body Background:",
-                                                 "Body Foreground:"};
+    constexpr std::string_view colourTitles[] = {
+        "Title Bar Background:", "Title Bar Foreground:", "Body Background:", "Body Foreground:"};
     cpBackColour.forEach([&](ColourPicker& picker, int index) {
         lblColour(index).caption(std::string(colourTitles[index]));
         picker.accessibleName(std::string(colourTitles[index]));
@@ -77,10 +77,10 @@ void ColourSchemePage::populateColourSchemes()
             return;
         const PopulatingMark mark(populatingSchemes_);
         lvSchemes.clear();
-        RecordSet schemes = RecordSet::openReadOnly("SELECT ColourSchemes.* FROM ColourSchemes "
-                                                    "WHERE ColourSchemes.SchemeType = "
-                                                    + std::to_string(calendarKind_)
-                                                    + " ORDER BY ColourSchemes.SchemeName;");
+        RecordSet schemes =
+            RecordSet::openReadOnly("SELECT ColourSchemes.* FROM ColourSchemes "
+                                    "WHERE ColourSchemes.SchemeType = "
+                                    + std::to_string(calendarKind_) + " ORDER BY ColourSchemes.SchemeName;");
         for (; !schemes.isEOF(); schemes.moveNext()) {
             std::string name;
             std::int32_t id = -1;

@@ -6,14 +6,13 @@
 namespace qncal {
 
 frmChangeApptStatusFields::frmChangeApptStatusFields()
-    : FieldNamesForm(
-        {"frmChangeApptStatusFields",
-         {"Appointment Status Fields", "Task Status Fields", "Time Entry Status Fields"},
-         {"You can define status information for your appointments by entering the names below:",
-          "You can define status information for your tasks by entering the names below:",
-          "You can define status information for your time entries by entering the names below:"},
-         "Status Field ",
-         "StatusName"})
+    : FieldNamesForm({"frmChangeApptStatusFields",
+                      {"Appointment Status Fields", "Task Status Fields", "Time Entry Status Fields"},
+                      {"You can define status information for your appointments by entering the names below:",
+                       "You can define status information for your tasks by entering the names below:",
+                       "You can define status information for your time entries by entering the names below:"},
+                      "Status Field ",
+                      "StatusName"})
 {
     constexpr std::string_view hints[] = {"Default: Completed", "Default: Cancelled", "Default: Postponed",
                                           "Default: Out-of-Office", "Default: Important"};

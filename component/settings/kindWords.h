@@ -13,8 +13,8 @@ using TextsByKind = std::array<std::string_view, 3>;
 constexpr std::string_view textOfKind(const TextsByKind& texts, enumLocalCalendarItemType kind)
 {
     return kind >= enumLocalCalendarAppointmentItem && kind <= enumLocalCalendarDocketItem
-        ? texts[static_cast<std::size_t>(kind)]
-        : std::string_view();
+               ? texts[static_cast<std::size_t>(kind)]
+               : std::string_view();
 }
 
 /// What begins the names of a kind's columns in the settings tables.

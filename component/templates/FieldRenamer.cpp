@@ -3,11 +3,11 @@
 #include "utilities/replaceText.h"
 #include "utilities/text.h"
 
+#include <cassert>
+
 namespace qncal {
 
 namespace {
-
-char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 std::size_t pairOf(char first, char second)
 {
@@ -20,6 +20,7 @@ FieldRenamer::FieldRenamer(std::vector<FieldRenaming> lines) : lines_(std::move(
 {
     for (Line line = 0; line < lines_.size(); ++line) {
         const std::string_view text = lines_[line].oldText.view();
+        assert(text.size() >= 2);
         for (const char first : {lowerAscii(text[0]), upperAscii(text[0])}) {
             firstBytes_.set(static_cast<std::uint8_t>(first));
             for (const char second : {lowerAscii(text[1]), upperAscii(text[1])})

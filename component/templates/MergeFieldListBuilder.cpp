@@ -14,21 +14,17 @@ namespace qncal {
 
 namespace {
 
-constexpr char placeholderStart = '{';
-
-bool hasPlaceholder(std::string_view text) { return text.find(placeholderStart) != std::string_view::npos; }
-
 /// The text with a word in place of its placeholder, which it holds.
 std::string withWord(std::string_view text, std::string_view placeholder, std::string_view word)
 {
     return std::string(text).replace(text.find(placeholder), placeholder.size(), word);
 }
 
-FieldText sampleText(std::string_view sample)
+FieldText sampleText(const MergeFieldEntry& entry)
 {
-    if (!hasPlaceholder(sample))
-        return FieldText::fixed(sample);
-    return FieldText::owned(withWord(sample, "{year}", std::to_string(today().civilDate().year)));
+    if (!entry.sampleHoldsWord)
+        return FieldText::fixed(entry.sample);
+    return FieldText::owned(withWord(entry.sample, "{year}", std::to_string(today().civilDate().year)));
 }
 
 std::string provinceName(std::string_view name, const RegionWords& words)
@@ -48,7 +44,7 @@ std::string provinceName(std::string_view name, const RegionWords& words)
 
 bool dependsOnProvince(const MergeFieldEntry& entry)
 {
-    return entry.province != ProvinceCondition::any || hasPlaceholder(entry.displayName);
+    return entry.province != ProvinceCondition::any || entry.nameHoldsWord;
 }
 
 bool isForProvince(ProvinceCondition condition, std::int32_t province)
@@ -78,7 +74,7 @@ FieldListRow rowOf(const MergeFieldEntry& entry)
     row.displayName = FieldText::fixed(entry.displayName);
     row.category = FieldText::fixed(entry.category);
     row.dataType = entry.type;
-    row.sampleText = sampleText(entry.sample);
+    row.sampleText = sampleText(entry);
     row.maximumLength = entry.maximumLength;
     return row;
 }
@@ -93,10 +89,13 @@ int numberOfUntouchedLabel(std::string_view label)
     return number >= 1 && number <= customFieldCount ? number : 0;
 }
 
+std::string_view withoutColonAtTheEnd(std::string_view label)
+{
+    return label.ends_with(':') ? label.substr(0, label.size() - 1) : label;
+}
+
 FieldText customName(std::string_view label, const CustomFieldTexts& texts)
 {
-    if (label.ends_with(':'))
-        label.remove_suffix(1);
     if (const int number = numberOfUntouchedLabel(label); number > 0)
         return FieldText::fixed(texts.fallbackNames[static_cast<std::size_t>(number - 1)].view());
     return FieldText::owned(std::string(texts.labelPrefix).append(label));
@@ -157,8 +156,9 @@ MergeFieldListBuilder::CustomNames MergeFieldListBuilder::customNames(const Cust
     RecordSet labels = RecordSet::openReadOnly(texts.labelQuery);
     if (labels.hasRecords()) {
         for (std::size_t i = 0; i < names.size(); ++i) {
-            std::string label;
-            if (labels.read(texts.labelColumns[i].view(), label))
+            std::string text;
+            labels.read(texts.labelColumns[i].view(), text);
+            if (const std::string_view label = withoutColonAtTheEnd(text); !label.empty())
                 names[i] = customName(label, texts);
         }
     }

@@ -36,7 +36,7 @@ struct MergeItemIDs {
 };
 
 /// The record sets of one merge. They stay open from merge to merge, so that a row is read once for all its
-/// fields; a new id needs `open` again. Failures are those of `RecordSet`.
+/// fields; a new id needs `openAll` again. Failures are those of `RecordSet`.
 class MergeRecordSets {
 public:
     /// Closes what is open, then opens every record whose id is at least 0; without a connection only the former.

@@ -17,11 +17,6 @@ std::string fieldExpression(const FieldListRow& row)
     return row.dataType == MergeDataType::date ? "(" + name + ", mmmm d yyyy)" : name;
 }
 
-std::string inDelimiters(std::string_view expression)
-{
-    return std::string(plainDelimiters.open).append(expression).append(plainDelimiters.close);
-}
-
 std::int32_t caretPosition(const RichTextTarget* rtb)
 {
     const Variant caret = statement([&] {
@@ -77,7 +72,7 @@ std::string clsInsertFieldsInRTB::parseListItem(std::int32_t key, bool includeBr
         if (key < 0 || !fieldList().moveToKey(key))
             return std::string();
         const std::string expression = fieldExpression(fieldList().current());
-        return includeBrackets ? inDelimiters(expression) : expression;
+        return includeBrackets ? inDelimiters(expression, plainDelimiters) : expression;
     });
 }
 
@@ -98,7 +93,7 @@ std::string clsInsertFieldsInRTB::insertCurrentDateMergeField(std::int32_t forma
         if (formatIndex >= 1 && formatIndex <= static_cast<std::int32_t>(dateFormatKeywords.size()))
             expression += dateFormatKeywords[static_cast<std::size_t>(formatIndex - 1)].keyword;
         expression += ')';
-        return includeBrackets ? inDelimiters(expression) : expression;
+        return includeBrackets ? inDelimiters(expression, plainDelimiters) : expression;
     });
 }
 

@@ -178,15 +178,16 @@ public:
 
     // --- Texts of a calendar item by its id ---
 
-    /// The item's display text by the firm's template. The ids and `ListType` are set first.
+    /// The item's display text by the firm's template. The ids and `ListType` are set first; the text is empty for
+    /// a `ListType` that is not an item's.
     std::string createDisplayTextByID2();
     std::string createTitleBarTextByID2();
 
     // --- Inside the component ---
 
     /// Both passes of the merge with values of the caller's own: « and » first, the rich form where that has
-    /// replaced nothing.
-    void mergeFields(std::string& text, const FieldValueSource& valueOf);
+    /// replaced nothing. True when expressions between « and » were replaced.
+    bool mergeFields(std::string& text, const FieldValueSource& valueOf);
 
 private:
     /// The catalogue, or run-time error 91 after `Terminate`.
@@ -194,6 +195,7 @@ private:
     void addBlocksOfListType(FieldListCollection& list, bool noListBox);
     void addBlock(FieldListCollection& list, MergeFieldBlock block, bool noListBox);
     void buildListForIDs();
+    void removeUnfoundFields(std::string& text, bool plainOnesMerged);
     bool showsContactForCompany() const;
 
     /// The firm's template from a settings column with the kind's prefix, merged when the item has an id.

@@ -2,7 +2,7 @@
 
 #include "templates/clsInsertFieldsInRTB.h"
 
-#include "controls/DialogHost.h"
+#include "controls/otherEvents.h"
 #include "core/routineScope.h"
 #include "templates/MergeFieldListBuilder.h"
 #include "templates/mergeFieldCodes.h"
@@ -15,16 +15,12 @@ namespace {
 /// The key of a line that stands for no field.
 constexpr std::int32_t headerKey = -1;
 constexpr std::size_t usualRowCount = 256;
+/// How often other events may run before the firm's own block.
+constexpr int turnsForOtherEvents = 2;
 
 void addHeaderLine(ListTarget& listBox, std::string_view text)
 {
     statement([&] { listBox.addLine(text, headerKey); });
-}
-
-void letOtherEventsRun()
-{
-    if (const auto host = dialogHost())
-        statement([&] { host->doEvents(); });
 }
 
 } // namespace
@@ -34,6 +30,8 @@ void clsInsertFieldsInRTB::createDefaultFieldListStructure(bool& noListBox, bool
     routine("Vestrel.exe-clsInsertFieldsInRTB-createDefaultFieldListStructure", [&] {
         noListBox = !listBox_;
         FieldListCollection& list = fieldList();
+        // One of the events that run meanwhile may end this engine.
+        const auto keepsTheList = fieldList_;
         list.clearRows();
         list.reserve(usualRowCount);
         lastRowKey_ = 0;
@@ -45,8 +43,8 @@ void clsInsertFieldsInRTB::createDefaultFieldListStructure(bool& noListBox, bool
         addBlocksOfListType(list, noListBox);
         if (listBox_) {
             statement([&] { listBox_->refresh(); });
-            letOtherEventsRun();
-            letOtherEventsRun();
+            for (int turn = 0; turn < turnsForOtherEvents; ++turn)
+                statement([] { letOtherEventsRun(); });
         }
         createAccountantFieldListStructure(list, noListBox);
     });

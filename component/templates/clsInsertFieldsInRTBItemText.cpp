@@ -10,28 +10,31 @@
 #include "templates/itemTextParts.h"
 #include "templates/mergeFieldCodes.h"
 
+#include <optional>
+
 namespace qncal {
 
 namespace {
 
 /// The kind of item that a list is for, and its record.
 struct ItemList {
-    enumLocalCalendarItemType kind = enumLocalCalendarUnknownItem;
-    MergeRecord record = MergeRecord::appointment;
-    std::int32_t MergeItemIDs::*id = &MergeItemIDs::appointment;
+    enumLocalCalendarItemType kind;
+    MergeRecord record;
+    std::int32_t MergeItemIDs::*id;
 };
 
-ItemList itemListOf(std::int32_t listType)
+/// None for a list that is not for an item.
+std::optional<ItemList> itemListOf(std::int32_t listType)
 {
     switch (listType) {
     case mergeListType::appointment:
-        return {enumLocalCalendarAppointmentItem, MergeRecord::appointment, &MergeItemIDs::appointment};
+        return ItemList{enumLocalCalendarAppointmentItem, MergeRecord::appointment, &MergeItemIDs::appointment};
     case mergeListType::timeEntry:
-        return {enumLocalCalendarDocketItem, MergeRecord::timeEntry, &MergeItemIDs::docket};
+        return ItemList{enumLocalCalendarDocketItem, MergeRecord::timeEntry, &MergeItemIDs::docket};
     case mergeListType::task:
-        return {enumLocalCalendarTaskItem, MergeRecord::task, &MergeItemIDs::task};
+        return ItemList{enumLocalCalendarTaskItem, MergeRecord::task, &MergeItemIDs::task};
     default:
-        return {};
+        return std::nullopt;
     }
 }
 
@@ -49,14 +52,16 @@ std::string firmSetting(const std::string& column)
 std::string clsInsertFieldsInRTB::createDisplayTextByID2()
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-createDisplayTextByID2", std::string(), [this] {
-        const ItemList list = itemListOf(listType_);
-        const std::string text = mergeFirmTemplate("Template", calendarItemKind(list.kind).defaultDisplayTemplate);
-        if (itemIDs().*list.id < 0 || !recordSets().isOpen(list.record))
+        const auto list = itemListOf(listType_);
+        if (!list)
+            return std::string();
+        const std::string text = mergeFirmTemplate("Template", calendarItemKind(list->kind).defaultDisplayTemplate);
+        if (itemIDs().*list->id < 0 || !recordSets().isOpen(list->record))
             return text;
-        RecordSet& item = recordSets().at(list.record);
+        RecordSet& item = recordSets().at(list->record);
         std::string before;
         std::string after;
-        if (item.findRecord(calendarItemKind(list.kind).fieldName, itemIDs().*list.id)) {
+        if (item.findRecord(calendarItemKind(list->kind).fieldName, itemIDs().*list->id)) {
             item.read("BeforeAppointmentText", before);
             item.read("AfterAppointmentText", after);
         }
@@ -72,9 +77,11 @@ std::string clsInsertFieldsInRTB::createTitleBarTextByID2()
 
 std::string clsInsertFieldsInRTB::mergeFirmTemplate(std::string_view settingsColumn, std::string_view defaultTemplate)
 {
+    const auto list = itemListOf(listType_);
+    if (!list)
+        return {};
     MergeFieldListUse(mergeListUse::normal);
-    const ItemList list = itemListOf(listType_);
-    std::string text = firmSetting(std::string(calendarItemKind(list.kind).tableText).append(settingsColumn));
+    std::string text = firmSetting(std::string(calendarItemKind(list->kind).tableText).append(settingsColumn));
     // Remains of damaged values.
     if (text.empty() || text == "0" || text == "Text Constant")
         text = defaultTemplate;
@@ -84,7 +91,7 @@ std::string clsInsertFieldsInRTB::mergeFirmTemplate(std::string_view settingsCol
         contactID_ = modDatabaseClientFunctions::getDefaultContactIDFromCompanyID(companyID_);
     if (testComment_ && testRTBComment(text, false, false, false))
         text = defaultTemplate;
-    if (itemIDs().*list.id < 0)
+    if (itemIDs().*list->id < 0)
         return text;
     initializeDataRecordsetsForSingleDocMerge();
     templateText_ = text;

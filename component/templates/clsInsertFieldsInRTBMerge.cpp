@@ -22,11 +22,6 @@ bool containsNoCase(std::string_view text, std::string_view wanted)
     return findNoCase(text, wanted) != std::string_view::npos;
 }
 
-std::string inDelimiters(std::string_view name, const DelimiterPair& pair)
-{
-    return std::string(pair.open).append(name).append(pair.close);
-}
-
 /// For an item without a company: its contact's name where the template asks for the company's.
 void askForContactName(std::string& text)
 {
@@ -53,20 +48,24 @@ std::string clsInsertFieldsInRTB::parseRTBComment()
         const auto valueOf = [this](std::int32_t position, const std::string& format) {
             return std::optional(getDataFieldInfo(fieldList().rows()[static_cast<std::size_t>(position)].key, format));
         };
-        mergeFields(text, valueOf);
-        replaceUnfoundMergeFieldsWithBlanks(text);
+        const bool plainOnesMerged = mergeFields(text, valueOf);
+        removeUnfoundFields(text, plainOnesMerged);
         return text;
     });
 }
 
-void clsInsertFieldsInRTB::mergeFields(std::string& text, const FieldValueSource& valueOf)
+bool clsInsertFieldsInRTB::mergeFields(std::string& text, const FieldValueSource& valueOf)
 {
+    FieldListCollection& list = fieldList();
+    // Values let other events run, and one of those may end this engine.
+    const auto keepsTheList = fieldList_;
     for (const DelimiterPair& pair : {plainDelimiters, richDelimiters}) {
         text = parseTodaysDateInRTBComment(std::move(text), pair.open, pair.close);
         // Expressions between « and » keep those of rich text from being merged; today's date does not.
-        if (substituteFields(text, pair, fieldList(), convertStrToRTF_, valueOf))
-            return;
+        if (substituteFields(text, pair, list, convertStrToRTF_, valueOf))
+            return pair.open == plainDelimiters.open;
     }
+    return false;
 }
 
 std::string clsInsertFieldsInRTB::parseTodaysDateInRTBComment(std::string text, std::string_view openDelimiter,
@@ -106,10 +105,18 @@ std::string clsInsertFieldsInRTB::removeBlankLinesFromRTFText(const std::string&
 
 bool clsInsertFieldsInRTB::replaceUnfoundMergeFieldsWithBlanks(std::string& text)
 {
-    return routine("Vestrel.exe-clsInsertFieldsInRTB-replaceUnfoundMergeFieldsWithBlanks", false, [&] {
-        if (fieldList().getCount() > 0 && !removeExpressions(text, plainDelimiters))
+    removeUnfoundFields(text, false);
+    return false;
+}
+
+void clsInsertFieldsInRTB::removeUnfoundFields(std::string& text, bool plainOnesMerged)
+{
+    routine("Vestrel.exe-clsInsertFieldsInRTB-replaceUnfoundMergeFieldsWithBlanks", [&] {
+        if (fieldList().getCount() == 0)
+            return;
+        // Beside expressions between « and », merged or removed, those of rich text stay: meant.
+        if (!removeExpressions(text, plainDelimiters) && !plainOnesMerged)
             removeExpressions(text, richDelimiters);
-        return false;
     });
 }
 

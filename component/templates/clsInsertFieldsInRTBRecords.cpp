@@ -2,7 +2,7 @@
 
 #include "templates/clsInsertFieldsInRTB.h"
 
-#include "controls/DialogHost.h"
+#include "controls/otherEvents.h"
 #include "core/RecordSet.h"
 #include "core/ServiceRegistry.h"
 #include "core/routineScope.h"
@@ -67,13 +67,6 @@ std::string inheritedField(const RecordSet& contact, const RecordSet& company, c
     return field.companyFirst ? textIn(contact, field.contactColumn) : textIn(company, field.companyColumn);
 }
 
-void letOtherEventsRun()
-{
-    const auto host = dialogHost();
-    for (int i = 0; host && i < turnsForOtherEvents; ++i)
-        statement([&] { host->doEvents(); });
-}
-
 } // namespace
 
 MergeRecordSets& clsInsertFieldsInRTB::recordSets()
@@ -104,7 +97,8 @@ std::string clsInsertFieldsInRTB::readCurrentField()
     if (!source || itemIDs().*source->id < 0)
         return {};
     recordSets().openIfClosed(source->record, itemIDs(), mergeFieldListUse_);
-    letOtherEventsRun();
+    for (int turn = 0; turn < turnsForOtherEvents; ++turn)
+        statement([] { letOtherEventsRun(); });
     if (!recordSets().at(source->record).findRecord(source->keyColumn, itemIDs().*source->id))
         return {};
     return getDataFieldFromRecordset(databaseField);

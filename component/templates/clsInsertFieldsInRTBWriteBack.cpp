@@ -17,11 +17,12 @@ namespace qncal {
 
 namespace {
 
-/// A number in single precision, the shortest text that reads back the same.
+/// A number in single precision, the shortest decimal text that reads back the same; never with an exponent.
 std::string singleText(double number)
 {
     std::array<char, 64> buffer{};
-    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(number));
+    const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), static_cast<float>(number),
+                                   std::chars_format::fixed);
     return {buffer.data(), end.ptr};
 }
 

@@ -4,6 +4,11 @@
 
 namespace qncal {
 
+std::string inDelimiters(std::string_view expression, const DelimiterPair& pair)
+{
+    return std::string(pair.open).append(expression).append(pair.close);
+}
+
 DelimiterPosition findDelimiter(std::string_view text, const DelimiterPair& pair, std::size_t from)
 {
     // Both halves of a pair begin with the same byte, which is no letter.
@@ -22,6 +27,8 @@ bool endsWithinDelimiter(std::string_view text, const DelimiterPair& pair)
 {
     for (std::size_t length = 1; length < pair.open.size() && length <= text.size(); ++length) {
         const std::string_view end = text.substr(text.size() - length);
+        if (end.front() != pair.open.front())
+            continue;
         if (equalsNoCase(end, pair.open.substr(0, length)) || equalsNoCase(end, pair.close.substr(0, length)))
             return true;
     }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace qncal {
@@ -15,6 +16,9 @@ struct DelimiterPair {
 inline constexpr DelimiterPair plainDelimiters{"\xC2\xAB", "\xC2\xBB"};
 /// The same two characters as the escapes of a rich-text stream.
 inline constexpr DelimiterPair richDelimiters{"\\'ab", "\\'bb"};
+
+/// A field's name, or a date expression, as it stands in a template.
+std::string inDelimiters(std::string_view expression, const DelimiterPair& pair);
 
 /// The next half of a pair in a text.
 struct DelimiterPosition {

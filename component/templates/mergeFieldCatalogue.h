@@ -47,6 +47,9 @@ struct MergeFieldEntry {
     std::string_view listText = {};
     /// Set on the entry that stands for the five rows of a custom group.
     CustomFieldGroup customGroup = CustomFieldGroup::none;
+    /// Known before any list is built, since every list asks it of every row.
+    bool nameHoldsWord = displayName.find('{') != std::string_view::npos;
+    bool sampleHoldsWord = sample.find('{') != std::string_view::npos;
 };
 
 /// The rows of a block in the order of the list.

@@ -1,5 +1,7 @@
 #include "templates/provinceNames.h"
 
+#include "utilities/text.h"
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -29,8 +31,6 @@ constexpr std::array<Province, 13> provinces{{
     {{"NUNAVUT", "NU"}, {"NU", "Nunavut"}},
     {{"YUKON", "YT"}, {"YT", "Yukon"}},
 }};
-
-char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 } // namespace
 

@@ -134,7 +134,8 @@ std::int32_t FieldListCollection::positionOfDisplayName(std::string_view name, s
         const std::int32_t position = nameIndex_[slot];
         if (position == freeSlot)
             return -1;
-        if (position >= from && equalsNoCase(rows_[static_cast<std::size_t>(position)].displayName.view(), name))
+        const std::string_view here = rows_[static_cast<std::size_t>(position)].displayName.view();
+        if (position >= from && (here == name || equalsNoCase(here, name))) // most names come in their own case
             return position;
     }
 }

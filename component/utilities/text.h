@@ -7,6 +7,7 @@ namespace qncal {
 
 /// ASCII letters only; every other byte, and so every multi-byte character, stands as it is.
 constexpr char lowerAscii(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+constexpr char upperAscii(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 std::string lowerAscii(std::string_view text);
 inline bool equalsNoCase(std::string_view a, std::string_view b)
 {

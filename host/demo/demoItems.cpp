@@ -7,6 +7,7 @@
 #include "items/modDatabaseFunctions.h"
 #include "services/HostEnvironment.h"
 #include "services/Rows.h"
+#include "services/saveItem.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 
@@ -200,7 +201,7 @@ private:
     void save(clsCalendarItem& item)
     {
         const std::size_t errorsBefore = host_.errors().reportCount();
-        if (item.saveCalendarItem() && host_.errors().reportCount() == errorsBefore)
+        if (saveItem(item) && host_.errors().reportCount() == errorsBefore)
             return;
         if (host_.errors().reportCount() == errorsBefore)
             throw RunTimeError(errorNumber::invalidProcedureCall, "An item of the demonstration was not saved");

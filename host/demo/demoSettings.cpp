@@ -2,7 +2,7 @@
 #include "demo/demoCalendar.h"
 #include "services/HostEnvironment.h"
 #include "services/Rows.h"
-#include "services/statutoryHolidays.h"
+#include "services/holidayRows.h"
 #include "utilities/Clock.h"
 
 namespace qncal::host {
@@ -58,18 +58,9 @@ std::string numbered(std::string_view prefix, std::string_view name, std::size_t
 
 void addDemoHolidays(HostEnvironment& host)
 {
-    const Locale::Values& locale = host.locale().values();
-    std::string_view region;
-    if (locale.country == LocaleService::canada)
-        region = provinceFromCode(locale.province).value_or(Province{}).letters;
     const int thisYear = today().civilDate().year;
-    for (const int year : {thisYear, thisYear + 1}) {
-        for (const StatutoryHoliday& holiday : statutoryHolidays(year, locale.country, region))
-            addRow(host.database(), "Holidays",
-                   {{"HolidayDate", defaultDateText(holiday.date)},
-                    {"HolidayType", std::to_string(holiday.type)},
-                    {"HolidayName", holiday.name}});
-    }
+    for (const int year : {thisYear, thisYear + 1})
+        addStatutoryHolidays(host.database(), host.locale().values(), year);
 }
 
 DemoSchemes addDemoSchemes(HostEnvironment& host)

@@ -39,10 +39,7 @@ Control& Hand::named(std::string_view path) const
     return *control;
 }
 
-void Hand::wrongKind(std::string_view path) const
-{
-    refuse(*form_, path, std::string("is a ") + named(path).kind());
-}
+void Hand::wrongKind(std::string_view path) const { refuse(*form_, path, std::string("is a ") + named(path).kind()); }
 
 Control& Hand::reach(std::string_view path) const
 {
@@ -172,7 +169,8 @@ void Hand::tabAway()
 {
     const auto& controls = form_->controls();
     const auto current = std::find(controls.begin(), controls.end(), form_->focusedControl());
-    const auto start = current == controls.end() ? std::size_t{0} : static_cast<std::size_t>(current - controls.begin()) + 1;
+    const auto start =
+        current == controls.end() ? std::size_t{0} : static_cast<std::size_t>(current - controls.begin()) + 1;
     for (std::size_t step = 0; step < controls.size(); ++step) {
         Control* next = controls[(start + step) % controls.size()];
         if (next->isEnabled() && next->isVisible() && !dynamic_cast<Label*>(next) && !dynamic_cast<Panel*>(next)

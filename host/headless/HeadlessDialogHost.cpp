@@ -55,6 +55,7 @@ void HeadlessDialogHost::runProgress(ProgressDialog& dialog)
 {
     if (cancelProgress_)
         dialog.cancel();
+    turn();
     dialog.run();
 }
 
@@ -66,8 +67,15 @@ bool HeadlessDialogHost::print(const RichTextBox& box)
 
 std::optional<std::int32_t> HeadlessDialogHost::pickColour(std::int32_t) { return colour_; }
 
+void HeadlessDialogHost::turn()
+{
+    if (onTurn_)
+        onTurn_();
+}
+
 void HeadlessDialogHost::act(Form& form)
 {
+    turn();
     shown_.push_back(form.name());
     Script script = fallback_;
     if (const auto waiting = scripts_.find(form.name()); waiting != scripts_.end() && !waiting->second.empty()) {

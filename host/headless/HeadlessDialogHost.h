@@ -7,6 +7,7 @@
 #include <functional>
 #include <map>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace qncal::host {
@@ -30,6 +31,8 @@ public:
     /// The forms on the screen, the front one last.
     const std::vector<Form*>& openForms() const { return open_; }
 
+    /// Called before each form is shown and whenever events are let through, as at each turn of a real loop.
+    void onTurn(std::function<void()> action) { onTurn_ = std::move(action); }
     void holdKey(ModifierKey key, bool down);
     /// What the next progress dialogs do: cancelled at once when set.
     void cancelProgress(bool cancel) { cancelProgress_ = cancel; }
@@ -44,16 +47,18 @@ public:
     MousePointer mousePointer() const override { return pointer_; }
     void mousePointer(MousePointer pointer) override { pointer_ = pointer; }
     bool isKeyDown(ModifierKey key) const override;
-    void doEvents() override {}
+    void doEvents() override { turn(); }
     void runProgress(ProgressDialog& dialog) override;
     bool print(const RichTextBox& box) override;
     std::optional<std::int32_t> pickColour(std::int32_t current) override;
 
 private:
     void act(Form& form);
+    void turn();
 
     std::map<std::string, std::deque<Script>> scripts_;
     Script fallback_;
+    std::function<void()> onTurn_;
     std::vector<std::string> shown_;
     std::vector<std::string> unexpected_;
     std::vector<Form*> open_;

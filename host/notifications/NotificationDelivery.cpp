@@ -203,6 +203,7 @@ std::string NotificationDelivery::beginAttempt(const Delivery& delivery)
         row.set("Attempts", std::to_string(delivery.attempts + 1));
         row.set("AttemptDate", defaultDateText(now()));
         row.set("DeliveryState", numberOf(DeliveryState::sending));
+        row.close();
     }
     // A read throws when the writes before it cannot be stored: nothing leaves that is not on record.
     const Rows row = Rows::read(*database_, byKey(delivery.id));
@@ -235,6 +236,7 @@ void NotificationDelivery::fail(Delivery& delivery, const std::string& reason)
     row.set("NextAttemptDate", defaultDateText(nextAttempt(moment, delivery.attempts)));
     row.set("LastError", reason);
     row.set("DeliveryState", numberOf(DeliveryState::waiting));
+    row.close();
 }
 
 void NotificationDelivery::close(const Delivery& delivery, DeliveryState state)
@@ -244,6 +246,7 @@ void NotificationDelivery::close(const Delivery& delivery, DeliveryState state)
         return;
     row.set("DeliveryState", numberOf(state));
     row.set("LastError", delivery.reason);
+    row.close();
 }
 
 bool NotificationDelivery::markSent(std::int32_t id)
@@ -255,6 +258,7 @@ bool NotificationDelivery::markSent(std::int32_t id)
     row.set("DeliveryState", numberOf(DeliveryState::sent));
     row.set("SentDate", defaultDateText(now()));
     row.set("LastError", {});
+    row.close();
     return true;
 }
 
@@ -265,6 +269,7 @@ bool NotificationDelivery::tryAgain(std::int32_t id)
         return false;
     row.set("DeliveryState", numberOf(DeliveryState::waiting));
     row.set("NextAttemptDate", {});
+    row.close();
     return true;
 }
 

@@ -106,6 +106,7 @@ ReminderLoop::Outcome ReminderLoop::snooze(std::int32_t reminderID, int minutes)
     row.set("ReminderDate", defaultDateText(again.dateOnly()));
     row.set("ReminderTime", clockTime(again));
     markCompleted(row, false);
+    row.close();
     return Outcome::done;
 }
 
@@ -116,6 +117,7 @@ ReminderLoop::Outcome ReminderLoop::dismiss(std::int32_t reminderID)
     if (row.isEmpty())
         return Outcome::deleted;
     markCompleted(row, true);
+    row.close();
     return Outcome::done;
 }
 
@@ -158,6 +160,7 @@ void ReminderLoop::complete(const Reminder& reminder)
     Rows row = Rows::change(*database_, byKey(reminder.id));
     if (!row.isEmpty() && momentOf(row) == reminder.due)
         markCompleted(row, true);
+    row.close();
 }
 
 /// An item that moves takes its reminder along but leaves the row's mark.

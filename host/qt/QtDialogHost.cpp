@@ -5,18 +5,35 @@
 #include "qt/convert.h"
 #include "qt/printRichText.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QColorDialog>
 #include <QEventLoop>
 
 #include <algorithm>
+#include <utility>
 
 namespace qncal::host {
 
 QtDialogHost::~QtDialogHost()
 {
+    QObject::disconnect(beforeWaiting_);
     for (const Shown& shown : shown_)
         delete shown.window;
+}
+
+void QtDialogHost::onTurn(std::function<void()> action)
+{
+    onTurn_ = std::move(action);
+    QObject::disconnect(beforeWaiting_);
+    if (auto* const loops = QAbstractEventDispatcher::instance())
+        beforeWaiting_ = QObject::connect(loops, &QAbstractEventDispatcher::aboutToBlock, [this] { turn(); });
+}
+
+void QtDialogHost::turn() const
+{
+    if (onTurn_)
+        onTurn_();
 }
 
 std::vector<QtDialogHost::Shown>::iterator QtDialogHost::find(const Form& form)
@@ -42,6 +59,7 @@ QWidget* QtDialogHost::owner() const
 
 FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
 {
+    turn();
     FormWindow* window = windows_.make(form, owner());
     window->setModal(loop != nullptr);
     shown_.push_back({&form, window, loop});
@@ -135,6 +153,7 @@ bool QtDialogHost::isKeyDown(ModifierKey key) const
 
 void QtDialogHost::doEvents()
 {
+    turn();
     if (qApp)
         QApplication::processEvents();
 }
@@ -145,12 +164,14 @@ void QtDialogHost::runProgress(ProgressDialog& dialog)
         dialog.run();
         return;
     }
+    turn();
     ProgressWindow window(dialog, owner());
     window.run();
 }
 
 bool QtDialogHost::print(const RichTextBox& box)
 {
+    turn();
     return qApp && printRichText(box.textRTF(), owner(), choosePrinter_);
 }
 
@@ -158,6 +179,7 @@ std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
 {
     if (!qApp)
         return {};
+    turn();
     QColorDialog dialog(toQtColour(current), owner());
     dialog.setObjectName("pickColour");
     if (dialog.exec() != QDialog::Accepted)

@@ -3,6 +3,7 @@
 #include "controls/DialogHost.h"
 #include "qt/WindowRegistry.h"
 
+#include <QMetaObject>
 #include <QPointer>
 
 #include <functional>
@@ -27,6 +28,10 @@ public:
     /// Asks for the printer before a text is printed; False cancels. The print dialog unless set.
     void choosePrinter(std::function<bool(QPrinter& printer)> choose) { choosePrinter_ = std::move(choose); }
 
+    /// Called before the event loop waits and before anything is shown, for what must not be left standing while the
+    /// user thinks. Must not throw, and has to be set after the QApplication is made.
+    void onTurn(std::function<void()> action);
+
     void showModal(Form& form) override;
     void show(Form& form) override;
     void hide(Form& form) override;
@@ -47,6 +52,7 @@ private:
         QEventLoop* loop;
     };
 
+    void turn() const;
     FormWindow* open(Form& form, QEventLoop* loop);
     std::vector<Shown>::iterator find(const Form& form);
     /// What a new window opens in front of.
@@ -56,6 +62,8 @@ private:
     std::vector<Shown> shown_;
     QPointer<QWidget> mainWindow_;
     std::function<bool(QPrinter& printer)> choosePrinter_;
+    std::function<void()> onTurn_;
+    QMetaObject::Connection beforeWaiting_;
     MousePointer pointer_ = MousePointer::standard;
 };
 

@@ -21,7 +21,7 @@ QDateTime toQt(const Date& date)
 {
     const CivilDate day = date.civilDate();
     const CivilTime time = date.civilTime();
-    return {QDate(day.year, day.month, day.day), QTime(time.hour, time.minute, time.second)};
+    return {QDate(day.year, day.month, day.day), QTime(time.hour, time.minute, time.second), Qt::UTC};
 }
 
 Date fromQt(const QDateTime& moment)

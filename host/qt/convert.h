@@ -21,6 +21,7 @@ std::string fromQt(const QString& text);
 QColor toQtColour(Colour colour);
 Colour fromQtColour(const QColor& colour);
 
+/// A moment of the calendar has no time zone; UTC is the one without gaps.
 QDateTime toQt(const Date& date);
 /// To the second; day 0 for an invalid moment.
 Date fromQt(const QDateTime& moment);

@@ -53,6 +53,21 @@ HostEnvironment::HostEnvironment(HostServices services)
     references.clientDropDownCtrlReference(services_.clients);
 }
 
+std::function<void()> HostEnvironment::turnAction() const
+{
+    return [database = std::weak_ptr<DatabaseService>(services_.database)] {
+        const auto kept = database.lock();
+        auto* const store = dynamic_cast<SqliteDatabase*>(kept.get());
+        if (!store || !store->isConnected())
+            return;
+        try {
+            store->flush();
+        } catch (const RunTimeError&) {
+            // The writes go on waiting, and the next call that needs them fails.
+        }
+    };
+}
+
 HostEnvironment::~HostEnvironment() { serviceRegistry() = std::move(previous_); }
 
 } // namespace qncal::host

@@ -5,6 +5,7 @@
 #include "services/ErrorControl.h"
 #include "services/Locale.h"
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -41,6 +42,12 @@ public:
     ~HostEnvironment();
     HostEnvironment(const HostEnvironment&) = delete;
     HostEnvironment& operator=(const HostEnvironment&) = delete;
+
+    /// What a dialog host is to do at each turn of its loop: writes that the database put off must not be left
+    /// standing while the user thinks. What fails here is told by the next call. Outlives the environment.
+    ///
+    ///     dialogs->onTurn(host.turnAction());
+    std::function<void()> turnAction() const;
 
     DatabaseService& database() const { return *services_.database; }
     ErrorControl& errors() const { return *services_.errors; }

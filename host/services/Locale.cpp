@@ -75,6 +75,7 @@ void storeRegion(DatabaseService& database, const Locale::Values& values)
     Rows rows = Rows::change(database, settingsRow);
     rows.set("CountryCode", std::to_string(values.country));
     rows.set("ProvinceCode", std::to_string(values.province));
+    rows.close();
 }
 
 } // namespace qncal::host

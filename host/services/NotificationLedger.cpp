@@ -102,6 +102,7 @@ void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notifi
         return;
     setClient(row, clientOfItem(*database_, kind, itemID));
     rearm(row);
+    row.close();
 }
 
 void NotificationLedger::setEmailNotificationDate(std::int16_t, std::int16_t, std::int32_t notificationID, Date date,
@@ -133,6 +134,7 @@ void NotificationLedger::deleteNotification(std::int32_t notificationID)
     Rows row = Rows::change(*database_, rowByKey(notificationID));
     if (!row.isEmpty() && !mayHaveBeenSent(row))
         row.deleteCurrent();
+    row.close();
 }
 
 std::int32_t NotificationLedger::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
@@ -155,6 +157,7 @@ void NotificationLedger::setDate(std::int32_t notificationID, Date date)
         return;
     row.set("NotificationDate", defaultDateText(date));
     rearm(row);
+    row.close();
 }
 
 } // namespace qncal::host

@@ -12,9 +12,17 @@ Rows::Rows(DatabaseService& database, std::string_view sql, std::int32_t lock)
 Rows::~Rows()
 {
     try {
-        database_.closeRecordset(handle_);
-    } catch (...) { // a handle that an error left open disturbs nobody
+        close();
+    } catch (...) { // nobody is left to tell; a handle that stays open disturbs no later call
     }
+}
+
+void Rows::close()
+{
+    if (handle_ == 0)
+        return;
+    database_.closeRecordset(handle_);
+    handle_ = 0;
 }
 
 std::string Rows::text(std::string_view name) const
@@ -44,6 +52,7 @@ std::int32_t addRow(DatabaseService& database, std::string_view table, const std
         rows.setNew(column, text);
     const std::int32_t key = rows.integer(schema::findTable(table)->columns.front().name);
     rows.update();
+    rows.close();
     return key;
 }
 

@@ -11,8 +11,8 @@
 namespace qncal::host {
 
 /// The rows of one SELECT, for code on the host's side of the contract. The first row is current at once; the
-/// handle is closed at the end of the object's life. Every failure is thrown to the caller as `RunTimeError`.
-/// The database must outlive the object.
+/// handle is closed at the end of the object's life, in silence: whoever has written calls `close`. Every failure
+/// is thrown to the caller as `RunTimeError`. The database must outlive the object.
 class Rows {
 public:
     static Rows read(DatabaseService& database, std::string_view sql)
@@ -42,7 +42,7 @@ public:
     /// Null reads as False.
     bool boolean(std::string_view name) const;
 
-    /// Writes a field of the current row, at once.
+    /// Writes a field of the current row. The database may put it off until `close`.
     void set(std::string_view name, std::string_view value)
     {
         database_.setFieldValue(handle_, name, value, false, false, false);
@@ -51,12 +51,14 @@ public:
     void setNew(std::string_view name, std::string_view value) { database_.setNewField(handle_, name, value); }
     void update() { database_.update(handle_); }
     void deleteCurrent() { database_.deleteRecord(handle_); }
+    /// The last use of the object: throws when a write that was put off fails. Destruction then tries once more.
+    void close();
 
 private:
     Rows(DatabaseService& database, std::string_view sql, std::int32_t lock);
 
     DatabaseService& database_;
-    std::int32_t handle_;
+    std::int32_t handle_; ///< 0 once closed
 };
 
 /// A column and what it is to hold, as the contract wants it in text.

@@ -42,6 +42,12 @@ Form& WindowRegistry::Entry::existingForm() const
     return *form_;
 }
 
+void WindowRegistry::Entry::initialize()
+{
+    confirmed_ = false;
+    existingForm().Form_Load();
+}
+
 void WindowRegistry::Entry::show(bool modal)
 {
     Form& form = existingForm();

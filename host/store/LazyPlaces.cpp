@@ -1,5 +1,6 @@
 #include "store/LazyPlaces.h"
 
+#include <algorithm>
 #include <array>
 #include <limits>
 #include <utility>
@@ -13,14 +14,35 @@ void LazyPlaces::open(std::shared_ptr<SelectPlan> plan, const dialect::Literals&
     statistics_ = &statistics;
     list_.clear(plan_->parts().byKey ? plan_->keyWidth() : 1);
     started_ = complete_ = false;
-    deletionsSeen_ = plan_->parts().tables.front()->deletions().size();
+    deletionsSeen_.clear();
+    for (const StoreTable* table : plan_->parts().tables)
+        deletionsSeen_.push_back(table->deletions().size());
+    listening_ = !plan_->isStreaming();
+    if (listening_)
+        for (StoreTable* table : plan_->parts().tables)
+            table->tellBeforeWrite(*this);
 }
 
 void LazyPlaces::close()
 {
+    stopListening();
     plan_.reset();
     copies_.clear();
     list_.clear(1);
+}
+
+void LazyPlaces::stopListening()
+{
+    if (!std::exchange(listening_, false))
+        return;
+    for (StoreTable* table : plan_->parts().tables)
+        table->tellNoMore(*this);
+}
+
+void LazyPlaces::beforeWrite()
+{
+    loadAll();
+    stopListening();
 }
 
 bool LazyPlaces::start(Row& row)
@@ -153,10 +175,18 @@ std::optional<std::size_t> LazyPlaces::find(std::size_t column, const StoredValu
 
 void LazyPlaces::noteDeletions()
 {
-    const auto& deletions = plan_->parts().tables.front()->deletions();
-    if (deletionsSeen_ < deletions.size() && plan_->parts().byKey)
-        list_.markGone(std::span(deletions).subspan(deletionsSeen_));
-    deletionsSeen_ = deletions.size();
+    for (std::size_t table = 0; table < deletionsSeen_.size(); ++table) {
+        const auto& deletions = plan_->parts().tables[table]->deletions();
+        if (deletionsSeen_[table] < deletions.size() && plan_->parts().byKey)
+            list_.markGone(std::span(deletions).subspan(deletionsSeen_[table]), table);
+        deletionsSeen_[table] = deletions.size();
+    }
+}
+
+void LazyPlaces::settleDeletions()
+{
+    noteDeletions();
+    std::ranges::fill(deletionsSeen_, 0U);
 }
 
 } // namespace qncal::host

@@ -17,8 +17,15 @@ namespace qncal::host {
 
 /// The places of a record set, read from the engine as far as they are asked for. No statement stays open between
 /// two calls: one that does would hold this connection to the past and its next write would fail.
-class LazyPlaces {
+///
+/// A set that is fixed as of its opening reads the rest of its places before the first write to one of its tables.
+class LazyPlaces : private TableReader {
 public:
+    LazyPlaces() = default;
+    ~LazyPlaces() override { close(); }
+    LazyPlaces(const LazyPlaces&) = delete;
+    LazyPlaces& operator=(const LazyPlaces&) = delete;
+
     void open(std::shared_ptr<SelectPlan> plan, const dialect::Literals& literals, StoreStatistics& statistics);
     void close();
 
@@ -27,7 +34,6 @@ public:
     PlaceList& list() { return list_; }
     const RecordCopies& copies() const { return copies_; }
 
-    bool isStarted() const { return started_; }
     bool isComplete() const { return complete_; }
     /// Finds the first place. True when its record was read along into `row`.
     bool start(Row& row);
@@ -44,8 +50,12 @@ public:
     std::optional<std::size_t> find(std::size_t column, const StoredValue& wanted);
     /// Learns which records have been deleted by now.
     void noteDeletions();
+    /// As above, and the tables are about to forget them.
+    void settleDeletions();
 
 private:
+    void beforeWrite() override;
+    void stopListening();
     void loadMore();
     void loadCopies();
     void loadKeys();
@@ -57,8 +67,9 @@ private:
     RecordCopies copies_;
     std::vector<std::int64_t> block_;
     bool started_ = false;
-    bool complete_ = false; ///< all places are known
-    std::size_t deletionsSeen_ = 0;
+    bool complete_ = false;                  ///< all places are known
+    bool listening_ = false;                 ///< to the tables, for their next write
+    std::vector<std::size_t> deletionsSeen_; ///< by table
 };
 
 } // namespace qncal::host

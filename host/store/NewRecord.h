@@ -21,11 +21,15 @@ public:
     StoredValue value(std::size_t column) const { return values_.value(column); }
     /// The key may be set too: tables that take over records of another keep the keys that these had.
     void set(std::size_t column, std::string_view text);
-    /// Stores the record and gives its key. After a failure it is still open.
+    /// Stores the record and gives its key. After a failure it is still open; when somebody else has come to use
+    /// the key that it was given, the error names the new one with which it can be stored.
     std::int64_t store();
 
 private:
+    void replaceTakenKey();
+
     StoreTable* table_ = nullptr;
+    bool isKeyChosen_ = false; ///< by the caller
     Row values_;
     std::vector<bool> isSet_;
     std::vector<StoreTable::Change> changes_;

@@ -17,7 +17,8 @@ void PlaceList::clear(std::size_t keyWidth)
     states_.clear();
     byKey_.clear();
     inByKey_ = 0;
-    closed_ = gone_ = 0;
+    closed_.clear();
+    gone_ = 0;
     ascending_ = keyWidth == 1;
 }
 
@@ -30,11 +31,12 @@ void PlaceList::append(std::span<const std::int64_t> keys)
 
 void PlaceList::close(std::size_t index)
 {
+    if (states_[index] == State::closed)
+        return;
     if (states_[index] == State::gone)
         --gone_;
-    if (states_[index] != State::closed)
-        ++closed_;
     states_[index] = State::closed;
+    closed_.insert(std::ranges::lower_bound(closed_, index), index);
 }
 
 void PlaceList::markGone(std::size_t index)
@@ -45,7 +47,7 @@ void PlaceList::markGone(std::size_t index)
     ++gone_;
 }
 
-void PlaceList::markGone(std::span<const std::int64_t> deleted)
+void PlaceList::markGone(std::span<const std::int64_t> deleted, std::size_t table)
 {
     if (ascending_) {
         for (const std::int64_t key : deleted)
@@ -55,26 +57,29 @@ void PlaceList::markGone(std::span<const std::int64_t> deleted)
     }
     const std::unordered_set<std::int64_t> keys(deleted.begin(), deleted.end());
     for (std::size_t index = 0; index < size(); ++index)
-        if (keys.contains(keys_[index * width_]))
+        if (keys.contains(keys_[index * width_ + table]))
             markGone(index);
 }
 
 std::int64_t PlaceList::position(std::size_t index) const
 {
-    const auto end = states_.begin() + static_cast<std::ptrdiff_t>(index);
-    const std::ptrdiff_t closedBefore = closed_ == 0 ? 0 : std::count(states_.begin(), end, State::closed);
+    const auto closedBefore = std::ranges::lower_bound(closed_, index) - closed_.begin();
     return static_cast<std::int64_t>(index) - closedBefore + 1;
 }
 
 std::size_t PlaceList::index(std::int64_t position) const
 {
-    if (closed_ == 0)
-        return std::min(static_cast<std::size_t>(position - 1), size());
-    std::size_t index = 0;
-    for (; index < size(); ++index)
-        if (states_[index] != State::closed && --position == 0)
-            break;
-    return index;
+    // The closed place number n, from 0, has all before it but n others.
+    const auto open = static_cast<std::size_t>(position - 1);
+    std::size_t before = 0;
+    for (std::size_t after = closed_.size(); before < after;) {
+        const std::size_t middle = (before + after) / 2;
+        if (closed_[middle] - middle <= open)
+            before = middle + 1;
+        else
+            after = middle;
+    }
+    return std::min(open + before, size());
 }
 
 std::optional<std::size_t> PlaceList::find(std::span<const std::int64_t> keys) const

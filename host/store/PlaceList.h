@@ -27,11 +27,12 @@ public:
     bool isClosed(std::size_t index) const { return states_[index] == State::closed; }
     void close(std::size_t index);
     void markGone(std::size_t index);
-    /// Marks the places of deleted records, given by their first keys.
-    void markGone(std::span<const std::int64_t> deleted);
+    /// Marks the places whose record has one of the deleted records of a table, `table` being its place among the
+    /// keys.
+    void markGone(std::span<const std::int64_t> deleted, std::size_t table);
 
     /// Records that are still there, as far as known.
-    std::size_t liveCount() const { return size() - closed_ - gone_; }
+    std::size_t liveCount() const { return size() - closed_.size() - gone_; }
     /// Position of an index, from 1; of `size()` the position past the last.
     std::int64_t position(std::size_t index) const;
     /// Index of a position; `size()` for one past the last.
@@ -44,7 +45,7 @@ private:
     std::size_t width_ = 1;
     std::vector<std::int64_t> keys_;
     std::vector<State> states_;
-    std::size_t closed_ = 0;
+    std::vector<std::size_t> closed_; ///< the closed indexes, ascending
     std::size_t gone_ = 0;
     bool ascending_ = true; ///< one key to a place, each greater than the one before
     /// Places by first key, as far as they were looked for, for lists in another order.

@@ -83,7 +83,7 @@ void RecordCursor::start()
     const auto keys = places_.list().keys(0);
     rowKeys_.assign(keys.begin(), keys.end());
     rowLoaded_ = true;
-    rowVersion_ = version();
+    noteRowVersions();
 }
 
 /// Gives a found or added record its place.
@@ -247,7 +247,7 @@ bool RecordCursor::readRow()
     row_.readFrom(statement, columns);
     rowKeys_.assign(keys.begin(), keys.end());
     rowLoaded_ = true;
-    rowVersion_ = version();
+    noteRowVersions();
     ++statistics_->recordsRead;
     return true;
 }
@@ -285,7 +285,7 @@ Variant RecordCursor::field(std::string_view name)
     return column.type ? fieldValue(*column.type, value(place)) : computedValue(value(place));
 }
 
-RecordCursor::Write RecordCursor::writeField(std::string_view name, std::string_view text)
+RecordCursor::Write RecordCursor::planWrite(std::string_view name, std::string_view text)
 {
     requireUpdatable();
     std::size_t place = 0;
@@ -295,12 +295,38 @@ RecordCursor::Write RecordCursor::writeField(std::string_view name, std::string_
     if (rowKeys_[column.table] == 0)
         throw RunTimeError(storeError::noCurrentRecord, "The join found no record for \"" + std::string(name) + "\"");
     const StoredValue stored = storedForColumn(table.schema(), table.column(column.column), text, buffer_);
-    const bool changes = !(stored == row_.value(place));
-    if (changes && column.column == 0)
+    if (column.column == 0 && stored.integer != rowKeys_[column.table])
         throw RunTimeError(storeError::readOnly, "The key of a record cannot be changed");
+    return {&table, rowKeys_[column.table], column.column, place, stored};
+}
+
+void RecordCursor::noteRowVersions()
+{
+    rowVersion_ = version();
+    rowDataVersion_ = plan().dataVersion();
+}
+
+void RecordCursor::confirmRow()
+{
+    if (isRowFresh() && rowDataVersion_ == plan().dataVersion())
+        return;
+    if (!readRow())
+        failDeleted();
+}
+
+bool RecordCursor::putWrite(const Write& write)
+{
+    const bool changes = !(write.value == row_.value(write.place));
     if (changes)
-        putIntoRow(place, stored);
-    return {&table, rowKeys_[column.table], column.column, place, changes};
+        putIntoRow(write.place, write.value);
+    return changes;
+}
+
+void RecordCursor::acceptOwnWrite()
+{
+    noteRowVersions();
+    if (plan().hasDependentColumns())
+        rowLoaded_ = false;
 }
 
 /// A column may stand in the record set under several names.

@@ -37,25 +37,33 @@ public:
     Variant field(std::string_view name);
     std::vector<std::string> fieldNames() const { return plan().fieldNames(); }
 
-    /// A write to a record of the database that may be put off; its value stands in the current row.
+    /// A write to the current record, which may be put off.
     struct Write {
         StoreTable* table = nullptr;
         std::int64_t key = 0;
         std::uint16_t column = 0; ///< of the table
         std::size_t place = 0;    ///< of the record set
-        bool changes = false;     ///< false when the record holds that value already
+        StoredValue value;        ///< lies in the text or in the record set until its next call
     };
-    /// Converts the text and puts the value into the current record's copy.
-    Write writeField(std::string_view name, std::string_view value);
+    /// Finds out what a write means and converts its text; nothing is changed.
+    Write planWrite(std::string_view name, std::string_view text);
+    /// Reads the current record again unless the database is as it was when it was read. Throws when it is gone.
+    void confirmRow();
+    /// Puts the value into the copy of the current record; false when it holds that value already.
+    bool putWrite(const Write& write);
     StoredValue currentValue(std::size_t place) const { return row_.value(place); }
-    /// The copy counts as fresh again: its own write was the last.
-    void acceptOwnWrite() { rowVersion_ = version(); }
+    /// The copy, which holds values still to be written, counts as fresh.
+    void keepRow() { rowVersion_ = version(); }
+    /// The record set's own write has reached the database: the copy is fresh as far as it can tell.
+    void acceptOwnWrite();
 
     bool isAdding() const { return newRecord_.isOpen(); }
     void beginRecord();
     void setNewField(std::string_view name, std::string_view value);
     void storeRecord();
     bool deleteRecord();
+    /// Learns which records have been deleted; the tables are about to forget them.
+    void settleDeletions() { places_.settleDeletions(); }
 
 private:
     static constexpr std::ptrdiff_t beforeFirst = -1;
@@ -73,6 +81,7 @@ private:
     bool isAtRecord() { return places_.list().isLive(index()) && readRow(); }
     void leaveRow();
     bool readRow();
+    void noteRowVersions();
     bool isRowFresh() const { return rowLoaded_ && (!isByKey() || rowVersion_ == version()); }
     void requireRow();
     StoredValue value(std::size_t place) const;
@@ -92,7 +101,8 @@ private:
     Row row_;
     std::vector<std::int64_t> rowKeys_;
     bool rowLoaded_ = false;
-    std::uint64_t rowVersion_ = 0;
+    std::uint64_t rowVersion_ = 0;     ///< of the tables as this store wrote them
+    std::uint32_t rowDataVersion_ = 0; ///< of the database, whoever wrote
     std::size_t lastColumn_ = 0;
 
     NewRecord newRecord_;

@@ -16,12 +16,6 @@ void Row::readFrom(const SqliteStatement& statement, int count)
         append(statement.value(column));
 }
 
-void Row::assignNulls(std::size_t count)
-{
-    clear();
-    cells_.resize(count);
-}
-
 void Row::append(const StoredValue& value) { cells_.push_back(cellOf(value)); }
 void Row::set(std::size_t place, const StoredValue& value) { cells_[place] = cellOf(value); }
 

@@ -16,7 +16,6 @@ public:
     void clear();
     /// Takes the first `count` columns of the statement's current row.
     void readFrom(const SqliteStatement& statement, int count);
-    void assignNulls(std::size_t count);
     void append(const StoredValue& value);
     void set(std::size_t place, const StoredValue& value);
 

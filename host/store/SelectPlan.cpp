@@ -2,6 +2,7 @@
 
 #include "store/dateStorage.h"
 
+#include <algorithm>
 #include <set>
 #include <utility>
 
@@ -17,6 +18,10 @@ SelectPlan::SelectPlan(Parts parts, SqliteConnection& connection)
     for (const PlanColumn& column : parts_.columns)
         if (column.table != PlanColumn::computed && !seen.emplace(column.table, column.column).second)
             hasTwins_ = true;
+    hasDependentColumns_ = std::ranges::any_of(
+        parts_.columns, [](const PlanColumn& column) { return column.table == PlanColumn::computed; });
+    const std::set<StoreTable*> different(parts_.tables.begin(), parts_.tables.end());
+    hasDependentColumns_ = hasDependentColumns_ || different.size() < parts_.tables.size();
     // Whatever the engine has to say against the statement is said when it is opened.
     if (!parts_.byKey)
         allRecords_ = connection_.prepareToKeep(allRecordsText());
@@ -62,6 +67,13 @@ std::string SelectPlan::columns() const
     for (const PlanColumn& column : parts_.columns)
         text += (text.empty() ? "" : ", ") + column.sql;
     return text;
+}
+
+/// Texts compare without regard to case, also where no column of a table brings that along.
+std::string SelectPlan::equality(std::size_t column) const
+{
+    const PlanColumn& sought = parts_.columns[column];
+    return sought.sql + (sought.table == PlanColumn::computed ? " COLLATE NOCASE = " : " = ") + own(0);
 }
 
 std::string SelectPlan::whereClause(const std::string& condition) const
@@ -161,59 +173,51 @@ void SelectPlan::bindLiterals(SqliteStatement& statement, const dialect::Literal
     }
 }
 
-SqliteStatement& SelectPlan::ready(SqliteStatement& statement, std::string (SelectPlan::*text)() const,
-                                   const dialect::Literals& literals)
+template <class Text>
+SqliteStatement& SelectPlan::ready(SqliteStatement& statement, const dialect::Literals& literals, const Text& text)
 {
     if (!statement)
-        statement = connection_.prepareToKeep((this->*text)());
+        statement = connection_.prepareToKeep(text());
     bindLiterals(statement, literals);
     return statement;
 }
 
 SqliteStatement& SelectPlan::firstRecord(const dialect::Literals& literals)
 {
-    return ready(firstRecord_, &SelectPlan::firstRecordText, literals);
+    return ready(firstRecord_, literals, [this] { return firstRecordText(); });
 }
 SqliteStatement& SelectPlan::moreKeys(const dialect::Literals& literals)
 {
-    return ready(moreKeys_, &SelectPlan::moreKeysText, literals);
+    return ready(moreKeys_, literals, [this] { return moreKeysText(); });
 }
 SqliteStatement& SelectPlan::allKeys(const dialect::Literals& literals)
 {
-    return ready(allKeys_, &SelectPlan::allKeysText, literals);
+    return ready(allKeys_, literals, [this] { return allKeysText(); });
 }
 SqliteStatement& SelectPlan::record(const dialect::Literals& literals)
 {
-    return ready(record_, &SelectPlan::recordText, literals);
+    return ready(record_, literals, [this] { return recordText(); });
 }
 SqliteStatement& SelectPlan::allRecords(const dialect::Literals& literals)
 {
-    return ready(allRecords_, &SelectPlan::allRecordsText, literals);
+    return ready(allRecords_, literals, [this] { return allRecordsText(); });
 }
 SqliteStatement& SelectPlan::count(const dialect::Literals& literals)
 {
-    return ready(count_, &SelectPlan::countText, literals);
+    return ready(count_, literals, [this] { return countText(); });
 }
 
 SqliteStatement& SelectPlan::findFirst(const dialect::Literals& literals, std::size_t column)
 {
-    SqliteStatement& statement = findFirst_[column];
-    if (!statement)
-        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from
-                                              + whereClause(parts_.columns[column].sql + " = " + own(0)) + orderClause()
-                                              + " LIMIT 1");
-    bindLiterals(statement, literals);
-    return statement;
+    return ready(findFirst_[column], literals, [this, column] {
+        return "SELECT " + keys() + " FROM " + parts_.from + whereClause(equality(column)) + orderClause() + " LIMIT 1";
+    });
 }
 
 SqliteStatement& SelectPlan::findAll(const dialect::Literals& literals, std::size_t column)
 {
-    SqliteStatement& statement = findAll_[column];
-    if (!statement)
-        statement = connection_.prepareToKeep("SELECT " + keys() + " FROM " + parts_.from + " WHERE "
-                                              + parts_.columns[column].sql + " = " + own(0));
-    bindLiterals(statement, literals);
-    return statement;
+    return ready(findAll_[column], literals,
+                 [this, column] { return "SELECT " + keys() + " FROM " + parts_.from + " WHERE " + equality(column); });
 }
 
 } // namespace qncal::host

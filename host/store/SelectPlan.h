@@ -58,11 +58,17 @@ public:
     std::size_t keyWidth() const { return parts_.tables.size(); }
     /// Records come in the order of their keys, so that they can be fetched in blocks.
     bool isInKeyOrder() const { return parts_.byKey && keyWidth() == 1 && parts_.order.empty() && !parts_.top; }
+    /// Records are found as they are walked over; any other set is fixed when it is opened.
+    bool isStreaming() const { return isInKeyOrder() && parts_.where.empty(); }
     std::optional<std::size_t> findColumn(std::string_view name) const;
     /// False when an earlier column has the same name.
     bool isUnique(std::size_t column) const { return unique_[column]; }
     /// True when a column of a table stands in the set more than once.
     bool hasTwins() const { return hasTwins_; }
+    /// True when a write to one column may show in another: it is computed, or a table stands in the set twice.
+    bool hasDependentColumns() const { return hasDependentColumns_; }
+    /// The state of the database that the last statement of the plan saw.
+    std::uint32_t dataVersion() const { return connection_.dataVersion(); }
     std::vector<std::string> fieldNames() const;
 
     /// The statements. Each comes with the literals bound; parameters of its own follow at `ownParameter`.
@@ -86,8 +92,9 @@ public:
     static constexpr int blockSize = 256;
 
 private:
-    SqliteStatement& ready(SqliteStatement& statement, std::string (SelectPlan::*text)() const,
-                           const dialect::Literals& literals);
+    /// Prepares a statement when it is wanted for the first time, and binds the literals.
+    template <class Text>
+    SqliteStatement& ready(SqliteStatement& statement, const dialect::Literals& literals, const Text& text);
     void bindLiterals(SqliteStatement& statement, const dialect::Literals& literals);
     std::string own(int place) const { return "?" + std::to_string(ownParameter(place)); }
     std::string keyOf(std::size_t table) const;
@@ -95,6 +102,7 @@ private:
     std::string columns() const;
     std::string whereClause(const std::string& condition) const;
     std::string orderClause() const;
+    std::string equality(std::size_t column) const;
     std::string firstRecordText() const;
     std::string moreKeysText() const;
     std::string allKeysText() const;
@@ -107,6 +115,7 @@ private:
     SqliteStatement firstRecord_, moreKeys_, allKeys_, record_, allRecords_, count_;
     std::vector<bool> unique_;
     bool hasTwins_ = false;
+    bool hasDependentColumns_ = false;
     std::vector<SqliteStatement> findFirst_, findAll_; ///< by column
     std::vector<std::string> boundTexts_;              ///< dates and times as bound, until the next binding
 };

@@ -153,6 +153,16 @@ std::string SqliteConnection::queryText(const std::string& sql)
 }
 
 std::int64_t SqliteConnection::changes() const { return sqlite3_changes64(connection_.get()); }
+bool SqliteConnection::isInTransaction() const { return sqlite3_get_autocommit(connection_.get()) == 0; }
+
+void SqliteConnection::rollback() noexcept { sqlite3_exec(connection_.get(), "ROLLBACK", nullptr, nullptr, nullptr); }
+
+std::uint32_t SqliteConnection::dataVersion() const
+{
+    std::uint32_t version = 0;
+    sqlite3_file_control(connection_.get(), "main", SQLITE_FCNTL_DATA_VERSION, &version);
+    return version;
+}
 
 SqliteTransaction::SqliteTransaction(SqliteConnection& connection) : connection_(connection)
 {
@@ -162,7 +172,7 @@ SqliteTransaction::SqliteTransaction(SqliteConnection& connection) : connection_
 SqliteTransaction::~SqliteTransaction()
 {
     if (open_)
-        sqlite3_exec(connection_.raw(), "ROLLBACK", nullptr, nullptr, nullptr);
+        connection_.rollback();
 }
 
 void SqliteTransaction::commit()

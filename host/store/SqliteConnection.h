@@ -76,6 +76,11 @@ public:
     std::int64_t queryInteger(const std::string& sql);
     std::string queryText(const std::string& sql);
     std::int64_t changes() const;
+    bool isInTransaction() const;
+    /// Ends a transaction without a trace of it.
+    void rollback() noexcept;
+    /// The state of the database that the last statement saw: it differs after each write, whoever wrote.
+    std::uint32_t dataVersion() const;
     sqlite3* raw() const { return connection_.get(); }
 
 private:

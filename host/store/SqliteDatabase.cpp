@@ -36,8 +36,9 @@ std::unique_ptr<StoreEngine> openEngine(const std::string& path, Access access, 
     try {
         if (path != inMemory)
             requirePlace(path, access);
-        return std::make_unique<StoreEngine>(path, access, options.tables, options.version,
-                                             StoreEngine::Limits{options.busyTimeout, options.largestFile});
+        return std::make_unique<StoreEngine>(
+            path, access, options.tables, options.version,
+            StoreEngine::Limits{options.busyTimeout, options.largestFile, options.longestLog});
     } catch (const RunTimeError& error) {
         throw RunTimeError(error.number(), "Cannot open the database \"" + path + "\". " + error.what());
     }
@@ -133,8 +134,8 @@ RecordCursor& SqliteDatabase::settledCursor(std::int32_t handle)
     return found;
 }
 
-/// The record set of an operation on its current record. Its own buffered writes may go on waiting: its copy of the
-/// record holds them.
+/// The record set of a write to its current record. Its own buffered writes may go on waiting: its copy of the record
+/// holds them.
 RecordCursor& SqliteDatabase::ownSettledCursor(std::int32_t handle)
 {
     RecordCursor& found = cursor(handle);
@@ -166,9 +167,9 @@ void SqliteDatabase::closeRecordset(std::int32_t handle)
     if (isWriter)
         flushToClose(handle);
     engine_->handles().close(handle);
-    engine_->recordSetClosed();
     if (!isWriter)
         engine_->writes().flush();
+    engine_->recordSetClosed();
 }
 
 /// A first failure leaves the record set open, so that closing can be tried again. A second one ends it all the
@@ -180,7 +181,7 @@ void SqliteDatabase::flushToClose(std::int32_t handle)
     try {
         writes.flush();
     } catch (const RunTimeError&) {
-        if (isLastAttempt || writes.isEmpty()) {
+        if (isLastAttempt) {
             writes.discard();
             engine_->handles().close(handle);
         }
@@ -218,8 +219,7 @@ bool SqliteDatabase::findRecord(std::int32_t handle, std::string_view fieldName,
 
 Variant SqliteDatabase::getField(std::int32_t handle, std::string_view fieldName)
 {
-    RecordCursor& found = ownSettledCursor(handle);
-    return orFlush(*engine_, [&] { return found.field(fieldName); });
+    return settledCursor(handle).field(fieldName);
 }
 
 bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldName, std::string_view value, bool, bool,
@@ -229,8 +229,8 @@ bool SqliteDatabase::setFieldValue(std::int32_t handle, std::string_view fieldNa
     orFlush(*engine_, [&] {
         if (found.isAdding()) {
             found.setNewField(fieldName, value);
-        } else if (const RecordCursor::Write write = found.writeField(fieldName, value); write.changes) {
-            engine_->writes().add(found, write);
+        } else {
+            engine_->writes().add(found, found.planWrite(fieldName, value));
         }
     });
     return true;
@@ -254,7 +254,12 @@ bool SqliteDatabase::update(std::int32_t handle)
     return true;
 }
 
-bool SqliteDatabase::deleteRecord(std::int32_t handle) { return settledCursor(handle).deleteRecord(); }
+bool SqliteDatabase::deleteRecord(std::int32_t handle)
+{
+    const bool deleted = settledCursor(handle).deleteRecord();
+    engine_->recordDeleted();
+    return deleted;
+}
 
 std::string SqliteDatabase::getSQLDate(const Date& date)
 {

@@ -19,7 +19,8 @@ class StoreEngine;
 ///
 /// Writes to existing records are combined on their way to the engine. Nobody who goes through this object can
 /// tell; for others (another process, an SQL tool) they are there after `flush`, which a host calls at each turn
-/// of its event loop. A file is in WAL mode; its log is written back by `idle` and `close`.
+/// of its event loop. Until then the others cannot write. They must not be on the same thread: they would wait in
+/// vain. A file is in WAL mode; its log is written back by `idle` and `close`.
 ///
 /// Objects are used by one thread at a time. Several objects and processes may share a file.
 class SqliteDatabase : public DatabaseService {
@@ -29,6 +30,8 @@ public:
         std::int32_t version = schema::version;
         int busyTimeout = 5000;       ///< milliseconds to wait for another process
         std::int64_t largestFile = 0; ///< bytes that the file may grow to; 0 for as many as the disk holds
+        /// Bytes of the log from which on it is written back when no quiet moment comes.
+        std::int64_t longestLog = 64 << 20;
     };
 
     /// Each throws `RunTimeError` that names the file: when it is missing (open), is no database, is of a newer

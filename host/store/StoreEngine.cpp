@@ -8,6 +8,7 @@
 
 #include <sqlite3.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace qncal::host {
@@ -16,8 +17,8 @@ namespace {
 
 /// Texts that differ in more than their literals are few; lists of IN may make many shapes.
 constexpr std::size_t mostPlans = 512;
-/// The log is written back in quiet moments; when none comes, a busy program does it at this length (64 MiB).
-constexpr int mostLogPages = 16384;
+/// Deletions that open record sets may be behind with.
+constexpr std::size_t mostDeletions = 4096;
 
 std::string_view textArgument(sqlite3_value* value)
 {
@@ -73,7 +74,7 @@ SqliteConnection openConnection(const std::string& path, SqliteConnection::Acces
 StoreEngine::StoreEngine(const std::string& path, SqliteConnection::Access access,
                          std::span<const schema::Table> tables, std::int32_t version, const Limits& limits)
     : connection_(openConnection(path, access, tables, version, limits)), logPages_(std::make_unique<int>(0)),
-      catalogue_(tables, connection_)
+      mostLogPages_(limits.longestLog / connection_.queryInteger("PRAGMA page_size")), catalogue_(tables, connection_)
 {
     sqlite3_wal_hook(
         connection_.raw(),
@@ -109,11 +110,25 @@ void StoreEngine::checkpoint()
 
 void StoreEngine::recordSetClosed()
 {
-    if (*logPages_ > mostLogPages)
+    if (*logPages_ > mostLogPages_)
         checkpoint();
-    if (handles_.openCount() > 0)
-        return;
     // With no record set open nobody needs to hear of the records deleted so far.
+    if (handles_.openCount() == 0)
+        forgetDeletions();
+}
+
+void StoreEngine::recordDeleted()
+{
+    // A handle that was never closed must not let the lists grow for ever.
+    const auto isLong = [](const auto& table) { return table->deletions().size() >= mostDeletions; };
+    if (std::ranges::none_of(catalogue_.tables(), isLong))
+        return;
+    handles_.forEachOpen([](RecordCursor& cursor) { cursor.settleDeletions(); });
+    forgetDeletions();
+}
+
+void StoreEngine::forgetDeletions()
+{
     for (const auto& table : catalogue_.tables())
         table->forgetDeletions();
 }

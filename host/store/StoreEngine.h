@@ -22,6 +22,7 @@ public:
     struct Limits {
         int busyTimeout;          ///< milliseconds
         std::int64_t largestFile; ///< bytes, 0 for none
+        std::int64_t longestLog;  ///< bytes
     };
     StoreEngine(const std::string& path, SqliteConnection::Access access, std::span<const schema::Table> tables,
                 std::int32_t version, const Limits& limits);
@@ -34,6 +35,8 @@ public:
     void checkpoint();
     /// To be called when a record set was closed: the moment for what may not stand between two writes.
     void recordSetClosed();
+    /// To be called when a record was deleted.
+    void recordDeleted();
     /// The last duties of a database that closes.
     void finish();
 
@@ -43,14 +46,17 @@ public:
     const Catalogue& catalogue() const { return catalogue_; }
 
 private:
+    void forgetDeletions();
+
     SqliteConnection connection_;
     std::unique_ptr<int> logPages_; ///< pages of the log after the last write; the engine holds its address
+    std::int64_t mostLogPages_;
     StoreStatistics statistics_;
     Catalogue catalogue_;
     std::unordered_map<std::string, std::shared_ptr<SelectPlan>> plans_;
     dialect::ShapedText text_;
     HandleTable handles_;
-    WriteBuffer writes_{statistics_};
+    WriteBuffer writes_{connection_, statistics_};
 };
 
 } // namespace qncal::host

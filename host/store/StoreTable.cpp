@@ -1,5 +1,8 @@
 #include "store/StoreTable.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace qncal::host {
 
 namespace {
@@ -20,9 +23,22 @@ StoreTable::StoreTable(const schema::Table& table, SqliteConnection& connection)
 
 std::int64_t StoreTable::takeKey()
 {
-    if (nextKey_ == endKey_)
-        takeKeys();
-    return nextKey_++;
+    // Whoever chooses keys may have chosen one of those taken: a former number, say, that goes into an archive.
+    do {
+        if (nextKey_ == endKey_)
+            takeKeys();
+        ++nextKey_;
+    } while (holds(nextKey_ - 1));
+    return nextKey_ - 1;
+}
+
+bool StoreTable::holds(std::int64_t key)
+{
+    if (!find_)
+        find_ = connection_.prepareToKeep("SELECT 1 FROM " + quotedName(schema_.name) + " WHERE " + keyName() + " = ?");
+    const StatementRun run(find_);
+    find_.bind(1, key);
+    return find_.step();
 }
 
 /// The engine's own number of the last key given moves past the keys taken, so that a record which an SQL tool
@@ -107,8 +123,24 @@ std::string StoreTable::updateText(const std::vector<Change>& values) const
     return "UPDATE " + quotedName(schema_.name) + " SET " + assignments + " WHERE " + keyName() + " = ?";
 }
 
+void StoreTable::tellNoMore(const TableReader& reader)
+{
+    // Mostly the last: who opens a record set closes it before another.
+    const auto found = std::find(readers_.rbegin(), readers_.rend(), &reader);
+    if (found != readers_.rend())
+        readers_.erase(std::next(found).base());
+}
+
+void StoreTable::tellReaders()
+{
+    // One that fails is still there, and the write does not happen.
+    while (!readers_.empty())
+        readers_.back()->beforeWrite();
+}
+
 void StoreTable::insert(const std::vector<Change>& values)
 {
+    tellReaders();
     SqliteStatement& statement = statementFor(inserts_, false, values);
     const StatementRun run(statement);
     int index = 0;
@@ -123,6 +155,7 @@ void StoreTable::insert(const std::vector<Change>& values)
 
 bool StoreTable::update(std::int64_t key, const std::vector<Change>& values)
 {
+    tellReaders();
     SqliteStatement& statement = statementFor(updates_, true, values);
     const StatementRun run(statement);
     int index = 0;
@@ -136,6 +169,7 @@ bool StoreTable::update(std::int64_t key, const std::vector<Change>& values)
 
 bool StoreTable::remove(std::int64_t key)
 {
+    tellReaders();
     if (!remove_)
         remove_ = connection_.prepareToKeep("DELETE FROM " + quotedName(schema_.name) + " WHERE " + keyName() + " = ?");
     const StatementRun run(remove_);

@@ -13,6 +13,14 @@
 
 namespace qncal::host {
 
+/// Somebody whose answer a write to a table may change, and who must have it before.
+class TableReader {
+public:
+    virtual ~TableReader() = default;
+    /// Called before each write until the reader calls `tellNoMore`, which it does at the latest now.
+    virtual void beforeWrite() = 0;
+};
+
 /// One table of an open database: the statements that write it, the numbering of its keys, and what record sets
 /// need to know to see each other's writes. The first column is the key.
 class StoreTable {
@@ -26,11 +34,16 @@ public:
 
     /// A key that nobody has and nobody else, in whatever process, will be given.
     std::int64_t takeKey();
+    /// True when there is a record with that key.
+    bool holds(std::int64_t key);
     /// Gives back the keys that were taken from the file but from no caller.
     void returnKeys();
 
     /// What a new record holds in each column that no one set.
     const Row& defaults();
+
+    void tellBeforeWrite(TableReader& reader) { readers_.push_back(&reader); }
+    void tellNoMore(const TableReader& reader);
 
     using Change = std::pair<std::uint16_t, StoredValue>;
     void insert(const std::vector<Change>& values);
@@ -46,6 +59,7 @@ public:
 
 private:
     void takeKeys();
+    void tellReaders();
     SqliteStatement& statementFor(std::unordered_map<std::string, SqliteStatement>& cache, bool update,
                                   const std::vector<Change>& values);
     std::string insertText(const std::vector<Change>& values) const;
@@ -57,12 +71,13 @@ private:
     std::unordered_map<std::string, SqliteStatement> inserts_;
     std::unordered_map<std::string, SqliteStatement> updates_;
     std::string cacheKey_;
-    SqliteStatement remove_;
+    SqliteStatement remove_, find_;
     Row defaults_;
     std::int64_t nextKey_ = 0;
     std::int64_t endKey_ = 0;
     std::uint64_t version_ = 0;
     std::vector<std::int64_t> deletions_;
+    std::vector<TableReader*> readers_;
 };
 
 } // namespace qncal::host

@@ -70,6 +70,25 @@ void addMissing(SqliteConnection& connection, const schema::Table& table)
         connection.execute(createIndexText(table, index));
 }
 
+bool isUpToDate(SqliteConnection& connection, std::int32_t version)
+{
+    return connection.queryInteger("PRAGMA application_id") == applicationId
+           && connection.queryInteger("PRAGMA user_version") == version;
+}
+
+void requireOurs(SqliteConnection& connection, std::int32_t version)
+{
+    const std::int64_t fileVersion = connection.queryInteger("PRAGMA user_version");
+    const std::int64_t fileId = connection.queryInteger("PRAGMA application_id");
+    const bool isNew = fileId == 0 && connection.queryInteger("SELECT COUNT(*) FROM sqlite_master") == 0;
+    if (!isNew && fileId != applicationId)
+        throw RunTimeError(storeError::cannotOpen, "The file is a database of another program");
+    if (fileVersion > version)
+        throw RunTimeError(storeError::cannotOpen, "The database has version " + std::to_string(fileVersion)
+                                                       + ", this program knows versions up to "
+                                                       + std::to_string(version));
+}
+
 } // namespace
 
 std::string createTableText(const schema::Table& table)
@@ -82,18 +101,13 @@ std::string createTableText(const schema::Table& table)
 
 void prepareSchema(SqliteConnection& connection, std::span<const schema::Table> tables, std::int32_t version)
 {
-    const std::int64_t fileVersion = connection.queryInteger("PRAGMA user_version");
-    const std::int64_t fileId = connection.queryInteger("PRAGMA application_id");
-    const bool isNew = fileId == 0 && connection.queryInteger("SELECT COUNT(*) FROM sqlite_master") == 0;
-    if (!isNew && fileId != applicationId)
-        throw RunTimeError(storeError::cannotOpen, "The file is a database of another program");
-    if (fileVersion > version)
-        throw RunTimeError(storeError::cannotOpen, "The database has version " + std::to_string(fileVersion)
-                                                       + ", this program knows versions up to "
-                                                       + std::to_string(version));
-    if (!isNew && fileVersion == version)
+    if (isUpToDate(connection, version))
         return;
+    // What the file is counts under the lock: another program may be at the same work, or further.
     SqliteTransaction transaction(connection);
+    if (isUpToDate(connection, version))
+        return;
+    requireOurs(connection, version);
     for (const schema::Table& table : tables)
         addMissing(connection, table);
     connection.execute("PRAGMA application_id = " + std::to_string(applicationId));

@@ -7,6 +7,12 @@
 
 namespace qncal::test {
 
+void TestFormRegistry::Entry::initialize()
+{
+    ++initialized;
+    form_->Form_Load();
+}
+
 void TestFormRegistry::Entry::show(bool modal)
 {
     ++(modal ? shownModal : shownModeless);

@@ -45,7 +45,7 @@ public:
         void key(std::int32_t key) override { key_ = key; }
         std::shared_ptr<Form> form() const override { return form_; }
         void form(std::shared_ptr<Form> form) override { form_ = std::move(form); }
-        void initialize() override { ++initialized; }
+        void initialize() override;
         void show(bool modal) override;
         void hide() override { ++hidden; }
         void bringToFront() override { ++broughtToFront; }

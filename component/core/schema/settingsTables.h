@@ -99,7 +99,8 @@ inline constexpr Table settingsTables[] = {
      "The one row of labels of custom fields, and of names, colours and icons of status fields"},
     {"CustomAddressFields", customAddressFieldsColumns,
      "The one row of labels of the custom fields of contacts and companies"},
-    {"GlobalGeneralSettings", globalGeneralSettingsColumns, "The one row of firm-wide settings: the date stamp on notes, and the region"},
+    {"GlobalGeneralSettings", globalGeneralSettingsColumns,
+     "The one row of firm-wide settings: the date stamp on notes, and the region"},
 };
 
 } // namespace qncal::schema

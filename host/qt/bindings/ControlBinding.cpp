@@ -24,9 +24,7 @@ void colour(QPalette& palette, const std::optional<Colour>& value, std::initiali
 } // namespace
 
 ControlBinding::ControlBinding(Control& control, QWidget& widget)
-    : QObject(&widget), control_(&control), widget_(&widget),
-      updated_(control.updated, this, [this] { waiting_ ? void() : showEverything(); }),
-      destroyed_(control.destroyed, this, [this] {
+    : QObject(&widget), control_(&control), widget_(&widget), destroyed_(control.destroyed, this, [this] {
           control_ = nullptr;
           updated_.forget();
           destroyed_.forget();
@@ -49,7 +47,9 @@ QWidget* ControlBinding::widgetOf(const QWidget& window, const Control& control)
 
 void ControlBinding::start(When when)
 {
-    if (when == When::nextTurn)
+    if (when == When::atOnce)
+        updated_ = Subscription(control_->updated, this, [this] { showEverything(); });
+    else
         updated_ = Subscription(control_->updated, this, [this] { showLater(); });
     showEverything();
 }
@@ -133,7 +133,8 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
 bool ControlBinding::keyPressed(QObject* watched, QEvent* event)
 {
     const auto& key = static_cast<QKeyEvent&>(*event);
-    if (passingOn_ || !control_->KeyPress || key.text().isEmpty()
+    const bool leaves = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
+    if (passingOn_ || leaves || !control_->KeyPress || key.text().isEmpty()
         || (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0)
         return false;
     const auto typed = static_cast<std::int32_t>(key.text().toUcs4().front());

@@ -7,6 +7,7 @@
 #include <QCalendarWidget>
 #include <QCheckBox>
 #include <QDateTimeEdit>
+#include <QEvent>
 
 namespace qncal::host {
 
@@ -18,6 +19,7 @@ public:
     {
         watch(widget.edit());
         watch(widget.check());
+        widget.edit().setTimeSpec(Qt::UTC);
         if (control.format() == DateTimePicker::Format::date) {
             widget.edit().setCalendarPopup(true);
             widget.edit().calendarWidget()->installEventFilter(this);

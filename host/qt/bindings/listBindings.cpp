@@ -18,6 +18,7 @@ class ListBoxBinding : public BindingOf<ListBox, QListWidget> {
 public:
     ListBoxBinding(ListBox& control, QListWidget& widget) : BindingOf(control, widget)
     {
+        watch(*widget.viewport());
         connect(&widget, &QListWidget::currentRowChanged, this,
                 [this](int row) { fromUser([=, this] { model().listIndex(row); }); });
         start(When::nextTurn);

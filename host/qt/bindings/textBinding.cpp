@@ -58,10 +58,12 @@ class TextBoxBinding : public BindingOf<TextBox, Edit> {
 public:
     TextBoxBinding(TextBox& control, Edit& widget) : BindingOf<TextBox, Edit>(control, widget)
     {
-        if constexpr (std::is_same_v<Edit, QLineEdit>)
+        if constexpr (std::is_same_v<Edit, QLineEdit>) {
             widget.setMaxLength(std::numeric_limits<int>::max());
-        else
+        } else {
             widget.setTabChangesFocus(true);
+            this->watch(*widget.viewport());
+        }
         QObject::connect(&widget, &Edit::textChanged, this, [this] { this->fromUser([this] { edited(); }); });
         QObject::connect(&widget, &Edit::selectionChanged, this, [this] { this->fromUser([this] { caretMoved(); }); });
         QObject::connect(&widget, &Edit::cursorPositionChanged, this,

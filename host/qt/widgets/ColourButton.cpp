@@ -10,6 +10,7 @@ namespace qncal::host {
 ColourButton::ColourButton(QWidget* parent) : QPushButton(parent)
 {
     setAutoDefault(false);
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     connect(this, &QPushButton::clicked, this, &ColourButton::pick);
 }
 

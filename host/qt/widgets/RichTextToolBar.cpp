@@ -16,9 +16,10 @@ RichTextToolBar::RichTextToolBar(RichTextEdit& edit, QWidget* parent) : QToolBar
         auto* button = new QToolButton(this);
         QFont font = button->font();
         decorate(font);
+        action->setIconText(face);
         button->setDefaultAction(action);
-        button->setText(face);
         button->setFont(font);
+        button->setObjectName("format:" + action->text());
         button->setAccessibleName(action->text());
         button->setFocusPolicy(Qt::NoFocus);
         addWidget(button);

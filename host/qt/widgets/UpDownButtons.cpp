@@ -7,6 +7,7 @@ namespace qncal::host {
 
 UpDownButtons::UpDownButtons(QWidget* parent) : QWidget(parent)
 {
+    setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);

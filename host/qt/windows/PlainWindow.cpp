@@ -7,6 +7,7 @@
 #include <QLabel>
 #include <QMenuBar>
 #include <QScrollArea>
+#include <QScrollBar>
 
 namespace qncal::host {
 
@@ -42,6 +43,8 @@ PlainWindow::PlainWindow(Form& form, QWidget* parent) : FormWindow(form, parent)
     }
     if (heading)
         rows->addRow(heading);
+
+    area->setMinimumWidth(page->sizeHint().width() + area->verticalScrollBar()->sizeHint().width());
 
     auto* layout = new QVBoxLayout(this);
     if (QMenuBar* menus = newMenuBarFor(form, *this))

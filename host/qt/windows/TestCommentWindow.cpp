@@ -16,9 +16,7 @@ TestCommentWindow::TestCommentWindow(Form& form, QWidget* parent) : FormWindow(f
     text->setMinimumSize(fontMetrics().averageCharWidth() * 60, fontMetrics().height() * 12);
 
     auto* layout = new QVBoxLayout(this);
-    for (Control* control : form.controls())
-        if (auto* heading = dynamic_cast<Label*>(control))
-            layout->addWidget(addLabelFor(text, heading->path()));
+    layout->addWidget(addLabelFor(text, "lblHeading"));
     layout->addWidget(text, 1);
     layout->addLayout(addButtons({"cmdOk"}));
     finish();

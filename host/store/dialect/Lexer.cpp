@@ -66,7 +66,6 @@ Token Lexer::next()
         return quoted(TokenKind::date, '#', false);
     case '<':
     case '>':
-    case '!':
         at_ += (second == '=' || (c == '<' && second == '>')) ? 2 : 1;
         return take(TokenKind::symbol, start, start, at_);
     case '=':
@@ -80,8 +79,6 @@ Token Lexer::next()
     case '-':
     case '/':
     case '&':
-    case '\\':
-    case '^':
         ++at_;
         return take(TokenKind::symbol, start, start, at_);
     default:

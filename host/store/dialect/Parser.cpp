@@ -19,6 +19,9 @@ constexpr std::array aggregates{"COUNT", "SUM", "MIN", "MAX", "AVG"};
 constexpr std::array comparisons{"=", "<>", "<=", ">=", "<", ">"};
 /// Deep enough for any real statement, shallow enough for the stack.
 constexpr int deepestNesting = 200;
+/// What the engine takes in: conditions joined by one operator, and levels of parentheses.
+constexpr std::size_t longestChain = 800;
+constexpr std::size_t mostLevels = 24;
 
 std::string upper(std::string_view word)
 {
@@ -261,13 +264,25 @@ private:
         result.offset = offset;
         return result;
     }
-    Expression binary(std::string name, Expression left, Expression right) const
+    void add(Expression& parent, Expression operand) const
     {
-        Expression result = make(Expression::Kind::binary, left.offset);
-        result.name = std::move(name);
-        result.operands.push_back(std::move(left));
-        result.operands.push_back(std::move(right));
-        return result;
+        parent.levels = std::max(parent.levels, operand.levels + 1);
+        if (parent.levels > mostLevels)
+            failAt(sql_, operand.offset, "nested too deeply");
+        if (parent.operands.size() == longestChain && parent.kind == Expression::Kind::chain)
+            failAt(sql_, operand.offset, "more than " + std::to_string(longestChain) + " in a row");
+        parent.operands.push_back(std::move(operand));
+    }
+    /// Puts another operand behind those that the same operator joins already.
+    void join(Expression& left, const char* symbol, Expression right) const
+    {
+        if (left.kind != Expression::Kind::chain || left.name != symbol || left.isClosed) {
+            Expression chain = make(Expression::Kind::chain, left.offset);
+            chain.name = symbol;
+            add(chain, std::move(left));
+            left = std::move(chain);
+        }
+        add(left, std::move(right));
     }
 
     Expression expression()
@@ -275,7 +290,7 @@ private:
         const Nesting nesting(*this);
         Expression left = conjunction();
         while (acceptWord("OR"))
-            left = binary("OR", std::move(left), conjunction());
+            join(left, "OR", conjunction());
         return left;
     }
 
@@ -283,7 +298,7 @@ private:
     {
         Expression left = negation();
         while (acceptWord("AND"))
-            left = binary("AND", std::move(left), negation());
+            join(left, "AND", negation());
         return left;
     }
 
@@ -294,7 +309,7 @@ private:
         if (!acceptWord("NOT"))
             return predicate();
         Expression result = make(Expression::Kind::logicalNot, offset);
-        result.operands.push_back(negation());
+        add(result, negation());
         return result;
     }
 
@@ -306,7 +321,10 @@ private:
                 std::ranges::find_if(comparisons, [this](const char* symbol) { return isSymbol(symbol); });
             if (comparison != comparisons.end()) {
                 advance();
-                left = binary(*comparison, std::move(left), concatenation());
+                Expression compared = test(Expression::Kind::comparison, left.offset, false, std::move(left));
+                compared.name = *comparison;
+                add(compared, concatenation());
+                left = std::move(compared);
                 continue;
             }
             const std::size_t offset = left.offset;
@@ -314,26 +332,26 @@ private:
                 Expression test = make(Expression::Kind::isNull, offset);
                 test.negated = acceptWord("NOT");
                 expectWord("NULL");
-                test.operands.push_back(std::move(left));
+                add(test, std::move(left));
                 left = std::move(test);
                 continue;
             }
             const bool negated = acceptWord("NOT");
             if (acceptWord("LIKE")) {
                 left = test(Expression::Kind::like, offset, negated, std::move(left));
-                left.operands.push_back(concatenation());
+                add(left, concatenation());
             } else if (acceptWord("IN")) {
                 left = test(Expression::Kind::in, offset, negated, std::move(left));
                 expectSymbol("(");
                 do
-                    left.operands.push_back(concatenation());
+                    add(left, concatenation());
                 while (acceptSymbol(","));
                 expectSymbol(")");
             } else if (acceptWord("BETWEEN")) {
                 left = test(Expression::Kind::between, offset, negated, std::move(left));
-                left.operands.push_back(concatenation());
+                add(left, concatenation());
                 expectWord("AND");
-                left.operands.push_back(concatenation());
+                add(left, concatenation());
             } else if (negated) {
                 fail("LIKE, IN or BETWEEN expected");
             } else {
@@ -346,7 +364,7 @@ private:
     {
         Expression result = make(kind, offset);
         result.negated = negated;
-        result.operands.push_back(std::move(operand));
+        add(result, std::move(operand));
         return result;
     }
 
@@ -354,7 +372,7 @@ private:
     {
         Expression left = sum();
         while (acceptSymbol("&"))
-            left = binary("&", std::move(left), sum());
+            join(left, "&", sum());
         return left;
     }
 
@@ -363,9 +381,9 @@ private:
         Expression left = product();
         for (;;) {
             if (acceptSymbol("+"))
-                left = binary("+", std::move(left), product());
+                join(left, "+", product());
             else if (acceptSymbol("-"))
-                left = binary("-", std::move(left), product());
+                join(left, "-", product());
             else
                 return left;
         }
@@ -376,9 +394,9 @@ private:
         Expression left = factor();
         for (;;) {
             if (acceptSymbol("*"))
-                left = binary("*", std::move(left), factor());
+                join(left, "*", factor());
             else if (acceptSymbol("/"))
-                left = binary("/", std::move(left), factor());
+                join(left, "/", factor());
             else
                 return left;
         }
@@ -398,7 +416,7 @@ private:
             return operand;
         }
         Expression result = make(Expression::Kind::negate, offset);
-        result.operands.push_back(std::move(operand));
+        add(result, std::move(operand));
         return result;
     }
 
@@ -408,12 +426,16 @@ private:
         if (token_.isLiteral()) {
             Expression result = make(Expression::Kind::literal, offset);
             result.literal = literals_;
+            result.literalKind = token_.kind == TokenKind::number ? LiteralKind::number
+                                 : token_.kind == TokenKind::text ? LiteralKind::text
+                                                                  : LiteralKind::date;
             advance();
             return result;
         }
         if (acceptSymbol("(")) {
             Expression inner = expression();
             expectSymbol(")");
+            inner.isClosed = true;
             return inner;
         }
         if (acceptWord("TRUE"))
@@ -472,7 +494,7 @@ private:
             return result;
         }
         result.distinct = acceptWord("DISTINCT");
-        result.operands.push_back(expression());
+        add(result, expression());
         expectSymbol(")");
         return result;
     }

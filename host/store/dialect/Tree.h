@@ -12,15 +12,18 @@ namespace qncal::host::dialect {
 /// A SELECT statement as a tree. Literals are only numbered, in the order in which they stand in the text: their
 /// values belong to one text, the tree to all texts of the same shape.
 
+enum class LiteralKind : std::uint8_t { number, text, date };
+
 struct Expression {
     enum class Kind : std::uint8_t {
         column,  ///< `qualifier` and `name`
-        literal, ///< `literal`, `negative`
+        literal, ///< `literal`, `literalKind`, `negative`
         boolean, ///< `negated` for False
         null,
         negate,     ///< one operand
         logicalNot, ///< one operand
-        binary,     ///< `name` is the operator, upper case; two operands
+        comparison, ///< `name` is the operator; two operands
+        chain,      ///< `name` is the operator, upper case, that stands between all operands
         like,       ///< two operands, `negated`
         in,         ///< the first operand in the others, `negated`
         between,    ///< three operands, `negated`
@@ -32,9 +35,12 @@ struct Expression {
     std::string qualifier;
     std::string name;
     std::size_t literal = 0;
+    LiteralKind literalKind = LiteralKind::number;
     bool negative = false;
     bool negated = false;
     bool distinct = false;
+    bool isClosed = false;  ///< stands in parentheses
+    std::size_t levels = 1; ///< of the tree that hangs here
     std::vector<Expression> operands;
 };
 

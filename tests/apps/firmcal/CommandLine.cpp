@@ -9,6 +9,7 @@
 #include <fstream>
 #include <iterator>
 #include <sstream>
+#include <utility>
 
 namespace qncal::firmcal::test {
 
@@ -17,6 +18,30 @@ namespace {
 const std::filesystem::path goldenFolder = std::filesystem::path(QNCAL_SOURCE_DIR) / "tests/apps/firmcal/golden";
 
 } // namespace
+
+std::vector<std::string> splitWords(const std::string& line)
+{
+    std::vector<std::string> words;
+    std::string word;
+    bool isQuoted = false;
+    bool isWord = false;
+    for (const char c : line) {
+        if (c == '"') {
+            isQuoted = !isQuoted;
+            isWord = true;
+        } else if (c == ' ' && !isQuoted) {
+            if (isWord)
+                words.push_back(std::exchange(word, {}));
+            isWord = false;
+        } else {
+            word += c;
+            isWord = true;
+        }
+    }
+    if (isWord)
+        words.push_back(word);
+    return words;
+}
 
 CommandLineTest::CommandLineTest()
 {
@@ -67,6 +92,27 @@ std::string CommandLineTest::output(const std::vector<std::string>& arguments) c
     EXPECT_EQ(outcome.status, 0);
     EXPECT_EQ(outcome.err, "");
     return outcome.out;
+}
+
+std::vector<std::string> CommandLineTest::commands(const std::string& group) const
+{
+    const std::string help = output(splitWords(group + " --help"));
+    const std::size_t list = help.find("\nSubcommands:\n");
+    if (list == std::string::npos)
+        return {group};
+    std::vector<std::string> found;
+    std::istringstream lines(help.substr(list + 1));
+    std::string line;
+    std::getline(lines, line);
+    while (std::getline(lines, line) && line.starts_with("  ")) {
+        // A long description goes on in lines that are indented further.
+        if (line[2] == ' ')
+            continue;
+        const std::string name = line.substr(2, line.find(' ', 2) - 2);
+        for (std::string& command : commands(group.empty() ? name : group + " " + name))
+            found.push_back(std::move(command));
+    }
+    return found;
 }
 
 std::string CommandLineTest::rows(const std::string& sql) const

@@ -15,6 +15,9 @@ struct Outcome {
     std::string err;
 };
 
+/// The words of a command line; double quotes hold a word together.
+std::vector<std::string> splitWords(const std::string& line);
+
 /// Runs the program in-process, on a database file of the test's own, as if it were 9 o'clock on Monday, March 2,
 /// 2026, with nobody at the terminal.
 class CommandLineTest : public testing::Test {
@@ -31,6 +34,9 @@ protected:
     void succeed(const std::vector<std::string>& arguments) const { output(arguments); }
     /// The rows of a SELECT as JSON text on one line for each record, without the brackets around all.
     std::string rows(const std::string& sql) const;
+
+    /// The commands that can be run, as the help of each level names them: "agenda", "item add".
+    std::vector<std::string> commands(const std::string& group = {}) const;
 
     std::filesystem::path folder() const { return folder_; }
     std::string database() const { return (folder_ / "firm.db").string(); }

@@ -1,6 +1,8 @@
 #include "core/clsCalendarSetCtrl.h"
 
-#include "core/forms.h"
+#include "settings/frmApptStatusOptions.h"
+#include "settings/frmChangeApptStatusFields.h"
+#include "settings/frmDayTimerSettings.h"
 #include "support/ComponentTest.h"
 
 namespace qncal {
@@ -17,7 +19,13 @@ protected:
 TEST_F(clsCalendarSetCtrlTest, OpensTheSettingsDialogModally)
 {
     bool modal = false;
-    dialogs->whenShown("frmDayTimerSettings", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    dialogs->whenShown("frmDayTimerSettings", [&](host::Hand& hand) {
+        modal = hand.form().isModal();
+        const auto& form = dynamic_cast<frmDayTimerSettings&>(hand.form());
+        EXPECT_EQ(form.calendarKind(), enumLocalCalendarTaskItem);
+        EXPECT_EQ(form.editedUserID(), 7);
+        EXPECT_EQ(form.goToTab(), 2);
+    });
     control.openDayTimerSettingsForm(enumFormShowTasks, 7, 2);
     EXPECT_TRUE(modal);
     EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openDayTimerSettingsForm");
@@ -26,7 +34,13 @@ TEST_F(clsCalendarSetCtrlTest, OpensTheSettingsDialogModally)
 TEST_F(clsCalendarSetCtrlTest, OpensTheStatusOptionsDialogModally)
 {
     bool modal = false;
-    dialogs->whenShown("frmApptStatusOptions", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    dialogs->whenShown("frmApptStatusOptions", [&](host::Hand& hand) {
+        modal = hand.form().isModal();
+        const auto& form = dynamic_cast<frmApptStatusOptions&>(hand.form());
+        EXPECT_EQ(form.calendarKind(), enumLocalCalendarDocketItem);
+        EXPECT_EQ(form.txtField.text(), "Completed");
+        EXPECT_EQ(form.fieldNumber(), 3);
+    });
     control.openApptStatusOptionsForm(enumFormShowDockets, "Completed", 3);
     EXPECT_TRUE(modal);
     EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openApptStatusOptionsForm");
@@ -35,7 +49,11 @@ TEST_F(clsCalendarSetCtrlTest, OpensTheStatusOptionsDialogModally)
 TEST_F(clsCalendarSetCtrlTest, OpensTheStatusFieldsDialogModally)
 {
     bool modal = false;
-    dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) { modal = hand.form().isModal(); });
+    dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) {
+        modal = hand.form().isModal();
+        EXPECT_EQ(dynamic_cast<frmChangeApptStatusFields&>(hand.form()).calendarKind(),
+                  enumLocalCalendarAppointmentItem);
+    });
     control.openChangeApptStatusFieldsForm(enumFormShowAppointments);
     EXPECT_TRUE(modal);
     EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openChangeApptStatusFieldsForm");
@@ -95,6 +113,15 @@ TEST_F(clsCalendarSetCtrlTest, RaisesExitProgramToItsSubscribers)
     control.ExitProgram.subscribe([&] { ++raised; });
     control.raiseExitProgram();
     EXPECT_EQ(raised, 1);
+}
+
+TEST_F(clsCalendarSetCtrlTest, AKeyThatAFailureLeftWithoutAFormGetsOne)
+{
+    clientDropDown->formRegistry->addKey(29);
+    dialogs->whenAnyShown([](host::Hand&) {});
+    control.openDuplicateAppointmentsForm();
+    EXPECT_NE(clientDropDown->formRegistry->entries.at(29).form(), nullptr);
+    EXPECT_EQ(clientDropDown->formRegistry->entries.at(29).initialized, 1);
 }
 
 } // namespace

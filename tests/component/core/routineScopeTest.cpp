@@ -123,5 +123,72 @@ TEST_F(RoutineScopeTest, ALabelThatCouldNotBePushedIsNotPopped)
     EXPECT_EQ(errors->takeErrors().size(), 1u);
 }
 
+/// An error control of which one call throws.
+class BrokenErrorControl : public test::RecordingErrorControl {
+public:
+    std::string broken;
+
+    void leaveRoutine() override
+    {
+        RecordingErrorControl::leaveRoutine();
+        failIf("leaveRoutine");
+    }
+    void setError(const ErrorState& error) override
+    {
+        failIf("setError");
+        RecordingErrorControl::setError(error);
+    }
+    void reportError() override
+    {
+        failIf("reportError");
+        RecordingErrorControl::reportError();
+    }
+    std::int16_t getErrorAction() override
+    {
+        failIf("getErrorAction");
+        return RecordingErrorControl::getErrorAction();
+    }
+
+private:
+    void failIf(const char* call) const
+    {
+        if (broken == call)
+            throw RunTimeError(errorNumber::invalidProcedureCall, call);
+    }
+};
+
+TEST(BrokenErrorControlTest, NothingCrossesTheRoutine)
+{
+    for (const char* broken : {"leaveRoutine", "setError", "reportError", "getErrorAction"}) {
+        const auto control = std::make_shared<BrokenErrorControl>();
+        control->broken = broken;
+        serviceRegistry().errorControl = control;
+        EXPECT_EQ(routine("a-b-c", -1, [] { return 1; }), 1) << broken;
+        const int failed = routine("a-b-c", -1, []() -> int {
+            return statement([]() -> int { throw RunTimeError(errorNumber::typeMismatch, "no"); });
+        });
+        EXPECT_EQ(failed, -1) << broken;
+        EXPECT_TRUE(control->stack().empty()) << broken;
+        control->takeErrors();
+        serviceRegistry() = {};
+    }
+}
+
+TEST_F(RoutineScopeTest, AnAccessorReadByTheHostPassesOverItsFailureAlsoFromWithinAServiceCall)
+{
+    const auto read = [] { accessor([] { statement([] { throw RunTimeError(errorNumber::typeMismatch, "no"); }); }); };
+    EXPECT_NO_THROW(read()) << "outside of any routine";
+    bool after = false;
+    routine("a-b-c", [&] {
+        statement(read);
+        callHost(read);
+        after = true;
+    });
+    EXPECT_TRUE(after);
+    EXPECT_TRUE(errors->takeErrors().empty());
+    routine("a-b-c", [&] { read(); });
+    EXPECT_EQ(errors->takeErrors().size(), 1u) << "read by a routine it is that routine's failure";
+}
+
 } // namespace
 } // namespace qncal

@@ -1,8 +1,10 @@
 #include "items/clsCalendarItem.h"
 
 #include "controls/rangeControls.h"
+#include "core/forwarding/ForwardingDatabaseService.h"
 #include "support/ComponentTest.h"
 #include "support/rowName.h"
+#include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
@@ -69,19 +71,25 @@ TEST_P(BestTimeTest, IsTheFirstGapThatHoldsTheItem)
 
 INSTANTIATE_TEST_SUITE_P(
     Days, BestTimeTest,
-    testing::Values(
-        DayRow{"EmptyDay", {}, 2, "09:00:00"},
-        DayRow{"BetweenTwo", {{"9:00", "10:00"}, {"11:00", "12:00"}}, 1, "10:00:00"},
-        DayRow{"ARowToTheEndOfTheDayIsPassedOver", {{"9:00", "10:00"}, {"10:30", "17:00"}}, 1, "10:00:00"},
-        DayRow{"AnEarlyRowIsPassedOver", {{"8:00", "8:30"}}, 1, "09:00:00"},
-        DayRow{"ARowThatEndsAtNineIsPassedOver", {{"8:00", "9:00"}}, 1, "09:00:00"},
-        DayRow{"ARowIntoTheMorning", {{"8:00", "9:30"}}, 1, "09:30:00"},
-        DayRow{"TheGapIsTooSmall", {{"9:30", "10:00"}, {"11:30", "12:00"}}, 1, "10:00:00"},
-        DayRow{"AGapOfJustTheLength", {{"9:00", "10:00"}, {"10:20", "16:50"}}, 1.0F / 3, "10:00:00"},
-        DayRow{"AfterTheLastRow", {{"9:00", "12:00"}, {"12:10", "15:00"}}, 2, "15:00:00"},
-        DayRow{"NoRoomTakesTheFirstGap", {{"9:00", "11:00"}, {"11:30", "16:30"}}, 4, "11:00:00"},
-        DayRow{"NoRoomTakesTheGapBeforeTheFirstRow", {{"9:30", "16:30"}}, 3, "09:00:00"},
-        DayRow{"OverlappingRows", {{"9:00", "11:00"}, {"9:30", "12:00"}}, 1, "12:00:00"}),
+    testing::Values(DayRow{"EmptyDay", {}, 2, "09:00:00"},
+                    DayRow{"BetweenTwo", {{"9:00", "10:00"}, {"11:00", "12:00"}}, 1, "10:00:00"},
+                    DayRow{"ARowToTheEndOfTheDayIsPassedOver", {{"9:00", "10:00"}, {"10:30", "17:00"}}, 1, "10:00:00"},
+                    DayRow{"AnEarlyRowIsPassedOver", {{"8:00", "8:30"}}, 1, "09:00:00"},
+                    DayRow{"ARowThatEndsAtNineIsPassedOver", {{"8:00", "9:00"}}, 1, "09:00:00"},
+                    DayRow{"ARowIntoTheMorning", {{"8:00", "9:30"}}, 1, "09:30:00"},
+                    DayRow{"TheGapIsTooSmall", {{"9:30", "10:00"}, {"11:30", "12:00"}}, 1, "10:00:00"},
+                    DayRow{"AGapOfJustTheLength", {{"9:00", "10:00"}, {"10:20", "16:50"}}, 1.0F / 3, "10:00:00"},
+                    DayRow{"AfterTheLastRow", {{"9:00", "12:00"}, {"12:10", "15:00"}}, 2, "15:00:00"},
+                    DayRow{"NoRoomTakesTheFirstGap", {{"9:00", "11:00"}, {"11:30", "16:30"}}, 4, "11:00:00"},
+                    DayRow{"NoRoomTakesTheGapBeforeTheFirstRow", {{"9:30", "16:30"}}, 3, "09:00:00"},
+                    DayRow{"NoRoomTakesTheFirstOfTwoGaps",
+                           {{"9:00", "10:00"}, {"10:30", "11:30"}, {"12:00", "16:30"}},
+                           4,
+                           "10:00:00"},
+                    DayRow{"NoRoomTakesAnOverlapForAGap", {{"9:00", "10:20"}, {"10:00", "16:30"}}, 4, "10:20:00"},
+                    DayRow{"OverlappingRows", {{"9:00", "11:00"}, {"9:30", "12:00"}}, 1, "12:00:00"},
+                    DayRow{"RowsAreTakenByTheirEnd", {{"11:00", "12:00"}, {"9:00", "10:00"}}, 1, "10:00:00"},
+                    DayRow{"SecondsAreCutOff", {{"9:00:40", "10:00:50"}, {"10:30:20", "11:00"}}, 0.5F, "10:00:00"}),
     test::rowName);
 
 TEST_F(PlacementTest, RowsOfOtherUsersAndDaysDoNotCount)
@@ -90,6 +98,26 @@ TEST_F(PlacementTest, RowsOfOtherUsersAndDaysDoNotCount)
     const auto other = addAppointment("9:00", "12:00");
     setCell("Appointments", other, "DateFrom", defaultDateText(today().addDays(1)));
     EXPECT_EQ(bestTime(1), "09:00:00");
+}
+
+TEST_F(PlacementTest, ATimeOfDayInTheDateDoesNotMatter)
+{
+    addAppointment("9:00", "10:00");
+    item.DateFrom(today().addDays(0.5));
+    EXPECT_EQ(bestTime(1), "10:00:00");
+    item.getBestStartTime(Date::timeOf(9), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "10:00:00");
+}
+
+TEST_F(PlacementTest, PlacingDoesNotMarkDirty)
+{
+    ASSERT_TRUE(item.saveCalendarItem());
+    ASSERT_FALSE(item.IsDirty());
+    item.getBestStartTime(Date::timeOf(13), Date::timeOf(14));
+    item.getBestTimeInCalendarForSpecificDayAndUser();
+    item.moveCalendarItemToNewDateAndBestTimeInCalendar(today().addDays(1));
+    EXPECT_EQ(item.DateFrom(), today().addDays(1));
+    EXPECT_FALSE(item.IsDirty());
 }
 
 TEST_F(PlacementTest, RowsWithoutTimesArePassedOver)
@@ -161,6 +189,76 @@ TEST_F(PlacementTest, BestStartWithoutAConnectionIsTheStartOfTheRange)
     EXPECT_EQ(timeText(item.TimeFrom()), "10:00:00");
 }
 
+TEST_F(PlacementTest, BestStartLooksAtTheUsersOwnDay)
+{
+    addAppointment("9:00", "10:00", 2);
+    setCell("Appointments", addAppointment("9:00", "11:00"), "DateFrom", defaultDateText(today().addDays(1)));
+    item.getBestStartTime(Date::timeOf(9), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "09:00:00");
+}
+
+TEST_F(PlacementTest, BestStartRendersTheDisplayTextAndLeavesTheEndAlone)
+{
+    std::vector<std::string> rendered;
+    item.refreshedAppointmentText.subscribe([&](std::string& text) { rendered.push_back(text); });
+    item.DisplayTextTemplate("from «Appointment Start Time»");
+    const Date end = item.TimeTo();
+    item.getBestStartTime(Date::timeOf(13), Date::timeOf(14));
+    EXPECT_EQ(rendered, std::vector<std::string>{"from 1:00 pm"});
+    EXPECT_EQ(item.TimeTo(), end);
+}
+
+TEST_F(PlacementTest, BestStartOfAnUnknownKindIsTheStartOfTheRange)
+{
+    clsCalendarItem unknown;
+    unknown.getBestStartTime(Date::timeOf(11), Date::timeOf(12));
+    EXPECT_EQ(timeText(unknown.TimeFrom()), "11:00:00");
+}
+
+class NullEnds : public ForwardingDatabaseService {
+public:
+    using ForwardingDatabaseService::ForwardingDatabaseService;
+    Variant getField(std::int32_t handle, std::string_view field) override
+    {
+        return field == "TimeTo" ? Variant() : ForwardingDatabaseService::getField(handle, field);
+    }
+};
+
+TEST_F(PlacementTest, BestStartPassesOverAnEndThatIsNull)
+{
+    addAppointment("9:00", "10:00");
+    serviceRegistry().database = std::make_shared<NullEnds>(database);
+    item.getBestStartTime(Date::timeOf(9), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "09:00:00");
+}
+
+class RefusesQueries : public ForwardingDatabaseService {
+public:
+    using ForwardingDatabaseService::ForwardingDatabaseService;
+    std::int32_t openRecordset(std::string_view, std::int32_t, std::int32_t, bool, std::string_view, bool) override
+    {
+        throw RunTimeError(errorNumber::internalError, "no query today");
+    }
+};
+
+TEST_F(PlacementTest, AFailedQueryForTheBestStartLeavesTheStartAlone)
+{
+    item.TimeFrom(Date::timeOf(8, 15));
+    serviceRegistry().database = std::make_shared<RefusesQueries>(database);
+    item.getBestStartTime(Date::timeOf(9), Date::timeOf(12));
+    EXPECT_EQ(timeText(item.TimeFrom()), "08:15:00");
+    EXPECT_EQ(errors->takeErrors().size(), 1u);
+}
+
+TEST_F(PlacementTest, AMoveCountsHourBoundariesAndDropsTheSeconds)
+{
+    item.TimeFrom(Date::timeOf(9, 50, 30));
+    item.TimeTo(Date::timeOf(10, 10, 45));
+    item.moveCalendarItemToNewDateAndHourSlot(noDate, Date::timeOf(14, 25));
+    EXPECT_EQ(timeText(item.TimeFrom()), "14:50:00");
+    EXPECT_EQ(timeText(item.TimeTo()), "15:10:00");
+}
+
 TEST_F(PlacementTest, AMoveKeepsTheMinutesAndTheHoursBetween)
 {
     item.TimeFrom(Date::timeOf(9, 30));
@@ -220,10 +318,31 @@ TEST_F(PlacementTest, ThePromptTakesTheTimeChosen)
     EXPECT_EQ(timeText(item.TimeTo()), "16:00:00");
 }
 
+TEST_F(PlacementTest, ThePromptBeginsWithTheItemsTimeAndSetsTheChosenOneAsAUserWould)
+{
+    item.TimeFrom(Date::timeOf(8, 5));
+    item.TimeTo(Date::timeOf(10, 35));
+    ASSERT_TRUE(item.saveCalendarItem());
+    const auto choose = [&](Date shown, Date chosen) {
+        dialogs->whenShown("frmSelectStartTime", [shown, chosen](host::Hand& hand) {
+            EXPECT_EQ(hand.as<DateTimePicker>("dtpTime").value(), shown);
+            hand.pickDate("dtpTime", chosen);
+            hand.click("cmdOpts(0)");
+        });
+    };
+    choose(Date::timeOf(8, 5), Date::timeOf(9, 5));
+    item.promptFormToChangeStartTime();
+    EXPECT_TRUE(item.IsDirty());
+    choose(Date::timeOf(10, 35), Date::timeOf(11, 5));
+    item.promptFormToChangeEndTime();
+    EXPECT_FLOAT_EQ(item.timeduration(), 2);
+}
+
 TEST_F(PlacementTest, ACancelledPromptChangesNothing)
 {
-    for (const auto& leave : {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
-                              +[](host::Hand& hand) { hand.pressEscape(); }}) {
+    for (const auto& leave :
+         {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
+          +[](host::Hand& hand) { hand.pressEscape(); }}) {
         dialogs->whenShown("frmSelectStartTime", [&](host::Hand& hand) {
             hand.pickDate("dtpTime", Date::timeOf(14, 20));
             leave(hand);

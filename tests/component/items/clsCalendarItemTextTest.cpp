@@ -1,5 +1,4 @@
-#include "items/clsCalendarItem.h"
-#include "support/ComponentTest.h"
+#include "component/items/ItemTextTest.h"
 #include "support/RecordingDatabase.h"
 #include "support/rowName.h"
 
@@ -12,41 +11,6 @@ constexpr auto task = enumLocalCalendarTaskItem;
 constexpr auto timeEntry = enumLocalCalendarDocketItem;
 
 } // namespace
-
-class ItemTextTest : public ComponentTest {
-protected:
-    ItemTextTest()
-    {
-        clientDropDown->companies[4] = {{"CompanyName", "Maple Leaf"}, {"Email", "info@maple.example"}};
-        clientDropDown->contacts[6] = {{"DisplayName", "Ann Reed"}, {"FirstName", "Ann"}};
-        item.refreshedAppointmentText.subscribe([this](std::string& text) { displayEvents.push_back(text); });
-        item.refreshedTitleBarText.subscribe([this](std::string& text) { titleEvents.push_back(text); });
-    }
-    /// An item with a subject, a day and two times, not saved.
-    void fill(enumLocalCalendarItemType kind)
-    {
-        item.calendarItemType(kind);
-        item.Subject("Budget");
-        item.DateFrom(Date::of(2026, 3, 7));
-        item.TimeFrom(Date::timeOf(9, 30));
-        item.TimeTo(Date::timeOf(11));
-    }
-    /// The same with a row behind it.
-    void fillSaved(enumLocalCalendarItemType kind, std::string_view table)
-    {
-        fill(kind);
-        item.itemID(addRow(table, {{"Subject", "Budget"}, {"TimeFrom", "09:30:00"}, {"TimeTo", "11:00:00"}}));
-    }
-    std::string displayed(std::string itemTemplate)
-    {
-        item.DisplayTextTemplate(std::move(itemTemplate));
-        return item.createDisplayTextByID();
-    }
-
-    clsCalendarItem item;
-    std::vector<std::string> displayEvents;
-    std::vector<std::string> titleEvents;
-};
 
 // --- The default templates ---
 
@@ -146,6 +110,75 @@ TEST_F(ItemTextTest, FastMergeLeavesWhatItDoesNotKnow)
               "Budget «City» «Nobody» 2026");
 }
 
+TEST_F(ItemTextTest, SavedItemTakesItsContactFromTheDatabase)
+{
+    fillSaved(appointment, "Appointments");
+    item.contactIDNum(addRow("Contacts", {{"BusinessJobTitle", "President"}}));
+    EXPECT_EQ(displayed("with the «Contact Job Title»"), "with the President");
+}
+
+TEST_F(ItemTextTest, SavedTimeEntryTakesItsRestFromTheDatabase)
+{
+    fill(timeEntry);
+    item.itemID(addRow("Dockets", {{"DocketStatus", "Open"}}));
+    EXPECT_EQ(displayed("«Time Entry Name»: «Time Entry Status»"), "Budget: Open");
+}
+
+TEST_F(ItemTextTest, CustomFieldUnderALabelOfTheFirmComesFromTheDatabase)
+{
+    addRow("CustomFields", {{"ApptCustomName1", "Room"}});
+    fill(appointment);
+    item.Custom1("not asked for");
+    item.itemID(addRow("Appointments", {{"Custom1", "12 B"}}));
+    EXPECT_EQ(displayed("in «Room»"), "in 12 B");
+}
+
+TEST_F(ItemTextTest, RichDelimitersInCapitalsAreLeft)
+{
+    fill(appointment);
+    EXPECT_EQ(displayed("\\'ABCity\\'BB"), "\\'ABCity\\'BB");
+    EXPECT_EQ(displayed("\\'ABAppointment Name\\'BB"), "Budget") << "what the item has is merged all the same";
+}
+
+TEST_F(ItemTextTest, WithoutAConnectionTheRestIsBlanked)
+{
+    fillSaved(appointment, "Appointments");
+    item.companyIDNum(4);
+    const auto recorded = std::make_shared<RecordingDatabase>(database);
+    recorded->connected = false;
+    serviceRegistry().database = recorded;
+    EXPECT_EQ(displayed("«Appointment Name» for «Company Name» in «City»"), "Budget for Maple Leaf in ");
+}
+
+// --- The title ---
+
+TEST_F(ItemTextTest, UnsavedItemHasTheTitleFalseForAFieldBeyondTheFastMerge)
+{
+    fill(appointment);
+    item.TitleBarTextTemplate("«City»");
+    EXPECT_EQ(item.createTitleBarTextByID(), "False");
+    EXPECT_EQ(item.TitleText(), "False");
+}
+
+TEST_F(ItemTextTest, FaultyTitleGivesWayToTheFirms)
+{
+    addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", "«Appointment Name»!"}});
+    fillSaved(appointment, "Appointments");
+    item.TitleBarTextTemplate("«Nobody»");
+    EXPECT_EQ(item.createTitleBarTextByID(), "Budget!");
+}
+
+TEST_F(ItemTextTest, TitleNamesTheClientThatThereIs)
+{
+    fill(appointment);
+    item.companyIDNum(4);
+    item.TitleBarTextTemplate("«Contact Display Name»");
+    EXPECT_EQ(item.createTitleBarTextByID(), "Maple Leaf");
+    item.contactIDNum(6);
+    item.TitleBarTextTemplate("«Company Name»");
+    EXPECT_EQ(item.createTitleBarTextByID(), "Ann Reed");
+}
+
 // --- Company and contact ---
 
 TEST_F(ItemTextTest, CompanyTakesThePlaceOfTheFirstContactAlone)
@@ -192,111 +225,6 @@ TEST_F(ItemTextTest, TextWithoutADelimiterAsksTheDatabaseNothing)
     displayed("Busy");
     EXPECT_TRUE(recorded->opened.empty());
 }
-
-// --- The fields of the fast merge ---
-
-struct FieldRow {
-    const char* name;
-    const char* category;
-    const char* displayName;
-    const char* value;
-};
-
-class ItemFieldTest : public ItemTextTest, public testing::WithParamInterface<FieldRow> {};
-
-TEST_P(ItemFieldTest, IsServed)
-{
-    clientDropDown->companies[4] = {
-        {"CompanyName", "company name"}, {"CorporateName", "corporate"}, {"ClientID", "company client"},
-        {"BusinessNumber", "business"},  {"PartnerName", "partner"},     {"AccountantName", "accountant"},
-        {"OfficeNumber", "office"},      {"FaxNumber", "fax"},           {"Email", "a\r\nb"}};
-    clientDropDown->contacts[-1] = {{"DisplayName", "display"},
-                                    {"ClientID", "contact client"},
-                                    {"FirstName", "first"},
-                                    {"MiddleName", "middle"},
-                                    {"LastName", "last"},
-                                    {"SocialInsuranceNumber", "sin"},
-                                    {"BusinessPhone_Main", "phone"},
-                                    {"BusinessPhone_Fax", "contact fax"},
-                                    {"BusinessEmail", "email"},
-                                    {"SpouseFirstName", "spouse first"},
-                                    {"SpouseLastName", "spouse last"},
-                                    {"PartnerName", "contact partner"},
-                                    {"AccountantName", "contact accountant"}};
-    fill(appointment);
-    item.companyIDNum(4);
-    item.appointmentText("the text");
-    item.Custom1("one");
-    item.Custom2("two");
-    item.Custom3("three");
-    item.Custom4("four");
-    item.Custom5("five");
-    EXPECT_EQ(item.getApptDataFieldInfo(GetParam().displayName, GetParam().category, ""), GetParam().value);
-}
-
-INSTANTIATE_TEST_SUITE_P(Contact, ItemFieldTest,
-                         testing::Values(FieldRow{"FullName", "ContactInfo", "Contact Full Name", "display"},
-                                         FieldRow{"DisplayName", "ContactInfo", "Contact Display Name", "display"},
-                                         FieldRow{"ClientID", "ContactInfo", "Client ID", "contact client"},
-                                         FieldRow{"FirstName", "ContactInfo", "Contact First Name", "first"},
-                                         FieldRow{"MiddleName", "ContactInfo", "Contact Middle Name", "middle"},
-                                         FieldRow{"LastName", "ContactInfo", "Contact Last Name", "last"},
-                                         FieldRow{"SIN", "ContactInfo", "Contact SIN", "sin"},
-                                         FieldRow{"SSN", "ContactInfo", "Contact SSN", "sin"},
-                                         FieldRow{"Phone", "ContactInfo", "Contact Business Phone", "phone"},
-                                         FieldRow{"Fax", "ContactInfo", "Contact Business Fax", "contact fax"},
-                                         FieldRow{"Email", "ContactInfo", "Contact Business Email", "email"},
-                                         FieldRow{"SpouseFirst", "ContactInfo", "Spouse First Name", "spouse first"},
-                                         FieldRow{"SpouseLast", "ContactInfo", "Spouse Last Name", "spouse last"},
-                                         FieldRow{"Partner", "ContactInfo", "Supervising Partner", "contact partner"},
-                                         FieldRow{"Accountant", "ContactInfo", "Managing Accountant",
-                                                  "contact accountant"},
-                                         FieldRow{"NotServed", "ContactInfo", "Contact Gender", ""}),
-                         rowName);
-
-INSTANTIATE_TEST_SUITE_P(Company, ItemFieldTest,
-                         testing::Values(FieldRow{"Name", "CompanyInfo", "Company Name", "company name"},
-                                         FieldRow{"CorporateName", "CompanyInfo", "Corporate Name", "corporate"},
-                                         FieldRow{"ClientID", "CompanyInfo", "Client ID", "company client"},
-                                         FieldRow{"BusinessNumber", "CompanyInfo", "Business Number", "business"},
-                                         FieldRow{"Partner", "CompanyInfo", "Supervising Partner", "partner"},
-                                         FieldRow{"Accountant", "CompanyInfo", "Managing Accountant", "accountant"},
-                                         FieldRow{"Office", "CompanyInfo", "Office Number", "office"},
-                                         FieldRow{"Fax", "CompanyInfo", "Fax Number", "fax"},
-                                         FieldRow{"LineBreaksBecomeParagraphs", "CompanyInfo", "Email", "a\\par \r\nb"},
-                                         FieldRow{"NotServed", "CompanyInfo", "City", ""},
-                                         FieldRow{"OtherCategory", "FirmInfo", "Your Company Name", ""}),
-                         rowName);
-
-INSTANTIATE_TEST_SUITE_P(Item, ItemFieldTest,
-                         testing::Values(FieldRow{"AppointmentName", "AppointInfo", "Appointment Name", "Budget"},
-                                         FieldRow{"AppointmentDate", "AppointInfo", "Appointment Date", "Mar 7, 2026"},
-                                         FieldRow{"AppointmentStart", "AppointInfo", "Appointment Start Time",
-                                                  "9:30 am"},
-                                         FieldRow{"AppointmentEnd", "AppointInfo", "Appointment End Time", "11:00 am"},
-                                         FieldRow{"AppointmentDuration", "AppointInfo", "Time Duration", "1 hr 30 min"},
-                                         FieldRow{"AppointmentText", "AppointInfo", "Appointment Text", "the text"},
-                                         FieldRow{"AppointmentCustom", "AppointInfo", "Custom Appt Field 2", "two"},
-                                         FieldRow{"LiteralCustom", "AppointInfo", "Custom 5", "five"},
-                                         FieldRow{"TaskSubject", "TaskInfo", "Task Subject", "Budget"},
-                                         FieldRow{"TaskName", "TaskInfo", "Task Name", ""},
-                                         FieldRow{"TaskDate", "TaskInfo", "Task Calendar Date", "Mar 7, 2026"},
-                                         FieldRow{"TaskStart", "TaskInfo", "Task Start Time", "9:30 am"},
-                                         FieldRow{"TaskEnd", "TaskInfo", "Task End Time", "11:00 am"},
-                                         FieldRow{"TaskDuration", "TaskInfo", "Time Duration", "1 hr 30 min"},
-                                         FieldRow{"TaskText", "TaskInfo", "Task Text", "the text"},
-                                         FieldRow{"TaskCustom", "TaskInfo", "Custom Task Calendar Field 4", "four"},
-                                         FieldRow{"TaskScheduleCustom", "TaskInfo", "Custom Task Field 4", ""},
-                                         FieldRow{"TaskLiteralCustom", "TaskInfo", "Custom 1", "one"},
-                                         FieldRow{"EntryName", "DocketInfo", "Time Entry Name", "Budget"},
-                                         FieldRow{"EntryDate", "DocketInfo", "Time Entry Date", "Mar 7, 2026"},
-                                         FieldRow{"EntryStart", "DocketInfo", "Time Entry Start Time", "9:30 am"},
-                                         FieldRow{"EntryEnd", "DocketInfo", "Time Entry End Time", "11:00 am"},
-                                         FieldRow{"EntryDuration", "DocketInfo", "Time Duration", "1 hr 30 min"},
-                                         FieldRow{"EntryText", "DocketInfo", "Time Entry Text", "the text"},
-                                         FieldRow{"EntryCustom", "DocketInfo", "Custom Time Entry Field 3", "three"},
-                                         FieldRow{"EntryLiteralCustom", "DocketInfo", "Custom 3", "three"}),
-                         rowName);
 
 TEST_F(ItemTextTest, DateOfTheItemTakesTheFormatOfTheTemplate)
 {

@@ -50,6 +50,25 @@ TEST_F(clsCalendarItemTimesTest, TheEndFollowsTheDuration)
     EXPECT_EQ(item.TimeTo(), Date::timeOf(11, 30));
 }
 
+TEST_F(clsCalendarItemTimesTest, TheEndThatFollowsDoesNotMarkDirty)
+{
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    for (const float hours : {2.5F, -2.0F}) {
+        item.timeduration(hours);
+        ASSERT_TRUE(item.saveCalendarItem());
+        item.determineEndTimeFromTimeDuration();
+        EXPECT_FALSE(item.IsDirty());
+    }
+}
+
+TEST_F(clsCalendarItemTimesTest, AMinuteBeforeMidnightEndsAtATimeOfDay)
+{
+    item.TimeFrom(Date::timeOf(23, 59));
+    item.timeduration(-1);
+    item.determineEndTimeFromTimeDuration();
+    EXPECT_EQ(item.TimeTo(), Date::timeOf(0));
+}
+
 TEST_F(clsCalendarItemTimesTest, ANegativeDurationBecomesAMinute)
 {
     item.timeduration(-2);

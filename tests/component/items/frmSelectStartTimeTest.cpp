@@ -27,8 +27,9 @@ TEST_P(SelectStartTimeTextTest, ShowsTheQuarterHour)
 
 INSTANTIATE_TEST_SUITE_P(Times, SelectStartTimeTextTest,
                          testing::Values(FieldRow{"FullHour", 9, 0, "9:00 AM"}, FieldRow{"Quarter", 9, 15, "9:15 AM"},
-                                         FieldRow{"CutToTheQuarter", 9, 44, "9:30 AM"}, FieldRow{"Noon", 12, 5, "12:00 PM"},
-                                         FieldRow{"Afternoon", 17, 45, "5:45 PM"}, FieldRow{"Midnight", 0, 10, "0:00 AM"}),
+                                         FieldRow{"CutToTheQuarter", 9, 44, "9:30 AM"},
+                                         FieldRow{"Noon", 12, 5, "12:00 PM"}, FieldRow{"Afternoon", 17, 45, "5:45 PM"},
+                                         FieldRow{"Midnight", 0, 10, "0:00 AM"}),
                          test::rowName);
 
 class SelectStartTimeTest : public test::ComponentTest {
@@ -43,7 +44,8 @@ protected:
 
 TEST_F(SelectStartTimeTest, TitlesFollowTheTimeType)
 {
-    for (const auto& [type, title] : {std::pair<int, std::string>{1, "Select Start Time"}, {2, "Select End Time"}, {0, "Select End Time"}}) {
+    for (const auto& [type, title] :
+         {std::pair<int, std::string>{1, "Select Start Time"}, {2, "Select End Time"}, {0, "Select End Time"}}) {
         form.TimeType(static_cast<std::int16_t>(type));
         show([&title = title](host::Hand& hand) {
             EXPECT_EQ(hand.form().caption(), title);

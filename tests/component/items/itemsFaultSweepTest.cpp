@@ -84,6 +84,40 @@ std::int32_t colourScheme(TestWorld& world)
     return world.addRow("ColourSchemes", {{"SchemeName", "Sea"}, {"BackColour", "3"}, {"ForeColour", "4"}});
 }
 
+/// The first hour of a working day of user 1, taken.
+std::int32_t takenMorning(TestWorld& world)
+{
+    return world.addRow(
+        "Appointments",
+        {{"UserIDNum", "1"}, {"DateFrom", "2026-04-02"}, {"TimeFrom", "09:00:00"}, {"TimeTo", "10:00:00"}});
+}
+
+/// What a routine that places the item of user 1 on that day makes of its start; 9:00 where it fails.
+SweptRoutine onPlacement(const char* name, std::function<void(clsCalendarItem&)> place, bool needsDatabase = true)
+{
+    SweptRoutine routine =
+        onItem(name, "09:00:00", enumLocalCalendarAppointmentItem, takenMorning, [place](clsCalendarItem& item) {
+            item.userIDNum(1);
+            item.DateFrom(Date::of(2026, 4, 2));
+            place(item);
+            return defaultDateText(item.TimeFrom());
+        });
+    routine.needsDatabase = needsDatabase;
+    return routine;
+}
+
+/// A text of a saved item with fields of both stages.
+SweptRoutine onText(const char* name, std::function<std::string(clsCalendarItem&, const std::string&)> call)
+{
+    SweptRoutine routine =
+        onItem(name, "", enumLocalCalendarAppointmentItem, appointmentWithDependents, [call](clsCalendarItem& item) {
+            item.contactIDNum(6);
+            return call(item, "«Appointment Start Time» «Contact Job Title» «Your City»");
+        });
+    routine.needsDatabase = false;
+    return routine;
+}
+
 constexpr auto appointment = enumLocalCalendarAppointmentItem;
 constexpr auto task = enumLocalCalendarTaskItem;
 
@@ -120,6 +154,29 @@ std::vector<SweptRoutine> routines()
                [](clsCalendarItem& item) { return asText(item.getTaskIDFromScheduleID(41)); }),
         onItem("ItemScheduleFromTask", "-1", task, archivedTask,
                [](clsCalendarItem& item) { return asText(item.getScheduleIDFromTaskID()); }),
+        onPlacement("BestStartTime",
+                    [](clsCalendarItem& item) { item.getBestStartTime(Date::timeOf(8), Date::timeOf(12)); }),
+        onPlacement("BestTimeOfTheDay",
+                    [](clsCalendarItem& item) { item.getBestTimeInCalendarForSpecificDayAndUser(); }),
+        onPlacement(
+            "MoveToTheBestTime",
+            [](clsCalendarItem& item) { item.moveCalendarItemToNewDateAndBestTimeInCalendar(Date::of(2026, 4, 2)); }),
+        onPlacement(
+            "MoveToAnHourSlot",
+            [](clsCalendarItem& item) {
+                item.moveCalendarItemToNewDateAndHourSlot(Date::of(2026, 4, 3), Date::timeOf(14));
+            },
+            false),
+        onText("DisplayText",
+               [](clsCalendarItem& item, const std::string& text) {
+                   item.DisplayTextTemplate(text);
+                   return item.createDisplayTextByID();
+               }),
+        onText("Title",
+               [](clsCalendarItem& item, const std::string& text) {
+                   item.TitleBarTextTemplate(text);
+                   return item.createTitleBarTextByID();
+               }),
         onRows<bool>("DeleteAppointmentKeepingTheDone", false, appointmentWithDependents,
                      [](std::int32_t id) { return mod::deleteAppointment(id, true); }),
         onRows<bool>("DeleteAppointment", false, appointmentWithDependents,

@@ -1,8 +1,8 @@
 #include "items/modHolidayCtrl.h"
 
 #include "support/ComponentTest.h"
-#include "support/rowName.h"
 #include "support/RoutineSweep.h"
+#include "support/rowName.h"
 
 #include <gtest/gtest.h>
 
@@ -39,9 +39,9 @@ TEST_P(HolidayTypeTest, DecidesWhetherTheRowCounts)
 }
 
 INSTANTIATE_TEST_SUITE_P(Types, HolidayTypeTest,
-                         testing::Values(TypeRow{"None", "", true}, TypeRow{"One", "1", true}, TypeRow{"Two", "2", false},
-                                         TypeRow{"Three", "3", true}, TypeRow{"Zero", "0", false},
-                                         TypeRow{"Four", "4", false}),
+                         testing::Values(TypeRow{"None", "", true}, TypeRow{"One", "1", true},
+                                         TypeRow{"Two", "2", false}, TypeRow{"Three", "3", true},
+                                         TypeRow{"Zero", "0", false}, TypeRow{"Four", "4", false}),
                          test::rowName);
 
 TEST_F(HolidayTest, OneStatutoryRowAmongOthersOfTheDayIsEnough)
@@ -112,6 +112,14 @@ INSTANTIATE_TEST_SUITE_P(
                     AddRow{"OverTheLeapDay", 1, Date::of(2028, 2, 28), Date::of(2028, 2, 29)},
                     AddRow{"BeforeDayNought", -1, Date::of(1899, 12, 25), Date::of(1899, 12, 22)}),
     test::rowName);
+
+TEST_F(HolidayTest, NoDaysAreSettledInNineRoundsAtMost)
+{
+    // A Saturday and nine more days off: the tenth of them is as far as it gets.
+    for (const int day : {6, 7, 8, 9, 10, 13, 14})
+        addHoliday(Date::of(2026, 4, day), "1");
+    EXPECT_EQ(dateAddBusinessDaysWithoutWeekendsAndHolidays(0, Date::of(2026, 4, 4)), Date::of(2026, 4, 13));
+}
 
 TEST_F(HolidayTest, WithoutAConnectionOnlyWeekendsCount)
 {

@@ -60,9 +60,8 @@ TEST_F(ItemNotificationTest, OnlyTheUserWithTheWindowMovesTheDate)
     item.notifyType(1);
     item.ShowNotificationWindow(true);
     item.scheduleAutoNotifications();
-    EXPECT_EQ(autoNotify->calls,
-              (Calls{"createEmailNotification 0 17 2026-03-30", "setEmailNotificationDate 0 1 1 2026-03-30",
-                     "refreshNotification 0"}));
+    EXPECT_EQ(autoNotify->calls, (Calls{"createEmailNotification 0 17 2026-03-30",
+                                        "setEmailNotificationDate 0 1 1 2026-03-30", "refreshNotification 0"}));
 }
 
 TEST_F(ItemNotificationTest, ATaskMovesWithItsOwnCodeAndATimeEntryNotAtAll)
@@ -71,9 +70,8 @@ TEST_F(ItemNotificationTest, ATaskMovesWithItsOwnCodeAndATimeEntryNotAtAll)
     item.notifyType(8);
     item.ShowNotificationWindow(true);
     item.scheduleAutoNotifications();
-    EXPECT_EQ(autoNotify->calls,
-              (Calls{"createLetterNotification 1 17 2026-03-30", "setLetterNotificationDate 1 2 1 2026-03-30",
-                     "refreshNotification 1"}));
+    EXPECT_EQ(autoNotify->calls, (Calls{"createLetterNotification 1 17 2026-03-30",
+                                        "setLetterNotificationDate 1 2 1 2026-03-30", "refreshNotification 1"}));
     autoNotify->calls.clear();
     item.calendarItemType(enumLocalCalendarDocketItem);
     item.scheduleAutoNotifications();

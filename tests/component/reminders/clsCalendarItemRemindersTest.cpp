@@ -137,7 +137,8 @@ TEST_F(ItemReminderTest, AnItemPutsItsOwnReminderIntoWords)
               "Appointment: Year end\r\nYou have an appointment in 15 minutes at 9:30 am.");
     item.contactIDNum(5);
     item.reminderPeriod("5 Days");
-    EXPECT_EQ(item.getPopUpReminderPopupText(), "Appointment: Year end\r\nYou have an appointment with Ann Reed at 9:30 am.")
+    EXPECT_EQ(item.getPopUpReminderPopupText(),
+              "Appointment: Year end\r\nYou have an appointment with Ann Reed at 9:30 am.")
         << "this period has no words here";
 
     clsCalendarItem task;

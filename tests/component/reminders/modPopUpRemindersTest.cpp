@@ -1,8 +1,8 @@
 #include "reminders/modPopUpReminders.h"
 
 #include "support/ComponentTest.h"
-#include "support/rowName.h"
 #include "support/RoutineSweep.h"
+#include "support/rowName.h"
 
 #include <gtest/gtest.h>
 
@@ -27,7 +27,7 @@ struct TypeRow {
     const char* name;
     std::int32_t type;
     const char* column;
-    std::int32_t ReminderIDs::* id;
+    std::int32_t ReminderIDs::*id;
 };
 
 class PopUpReminderTypeTest : public test::ComponentTestWith<TypeRow> {};
@@ -147,7 +147,8 @@ INSTANTIATE_TEST_SUITE_P(
         MomentRow{"OnASunday", "1 Day", Date::of(2026, 3, 30, 9, 0), Date::of(2026, 3, 27), Date::timeOf(9)},
         MomentRow{"SameWeekendDayStays", "15 Min", Date::of(2026, 3, 29, 9, 0), Date::of(2026, 3, 29),
                   Date::timeOf(8, 45)},
-        MomentRow{"OutsideOfTheTable", "4 Min", Date::of(2026, 3, 31, 9, 30), Date::of(2026, 3, 31), Date::timeOf(9, 30)},
+        MomentRow{"OutsideOfTheTable", "4 Min", Date::of(2026, 3, 31, 9, 30), Date::of(2026, 3, 31),
+                  Date::timeOf(9, 30)},
         MomentRow{"SecondsAreCut", "5 Min", Date::of(2026, 3, 31, 9, 30, 59), Date::of(2026, 3, 31),
                   Date::timeOf(9, 25)}),
     test::rowName);
@@ -155,10 +156,9 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(PopUpReminderTest, AnAppointmentIsToldWithItsClientAndTime)
 {
     clientDropDown->companies[8] = {{"CompanyName", "Maple Leaf Bakery"}};
-    const auto appointment = addRow("Appointments", {{"Subject", "Year end"},
-                                                     {"CompanyIDNum", "8"},
-                                                     {"ReminderPeriod", "5 Days"},
-                                                     {"TimeFrom", "14:05"}});
+    const auto appointment =
+        addRow("Appointments",
+               {{"Subject", "Year end"}, {"CompanyIDNum", "8"}, {"ReminderPeriod", "5 Days"}, {"TimeFrom", "14:05"}});
     EXPECT_EQ(getPopUpReminderText(reminderType::appointment, appointment),
               "Appointment: Year end\r\nYou have an appointment with Maple Leaf Bakery in 5 days at 2:05 pm.");
     setCell("Appointments", appointment, "CompanyIDNum", "");

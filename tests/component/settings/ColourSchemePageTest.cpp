@@ -135,7 +135,8 @@ TEST_F(ColourSchemePageTest, WhenTheFormerSchemeIsGoneTheSelectionReturns)
     addScheme("Blue");
     page.setup(enumLocalCalendarAppointmentItem);
     {
-        RecordSet gone = RecordSet::openUpdatable("SELECT ColourSchemes.* FROM ColourSchemes WHERE SchemeName='Amber';");
+        RecordSet gone =
+            RecordSet::openUpdatable("SELECT ColourSchemes.* FROM ColourSchemes WHERE SchemeName='Amber';");
         gone.deleteRecord();
         gone.close();
     }

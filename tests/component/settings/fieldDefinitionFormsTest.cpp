@@ -24,7 +24,8 @@ struct KindRow {
 
 const KindRow kinds[] = {
     {"Appointment", enumLocalCalendarAppointmentItem, "Appt", "Appointment Status Fields",
-     "You can define status information for your appointments by entering the names below:", "Appointment Custom Fields",
+     "You can define status information for your appointments by entering the names below:",
+     "Appointment Custom Fields",
      "You can define custom fields for your appointments by entering the field names below:",
      "Appointment Status Options", "Appointment Check Box 2"},
     {"Task", enumLocalCalendarTaskItem, "Task", "Task Status Fields",

@@ -11,6 +11,7 @@ namespace {
 constexpr std::int32_t canada = LocaleService::canada;
 constexpr std::int32_t unitedStates = LocaleService::unitedStates;
 constexpr std::int32_t ontario = 3;
+constexpr std::int32_t quebec = 8;
 
 std::string goldenFile(std::string_view name)
 {
@@ -31,13 +32,13 @@ struct ListCase {
 };
 
 /// Every list, row by row as the pick lists show it: for the normal use in Canada in full, for the other uses and the
-/// United States by what differs from that. A row is display name, database field, category, type, sample and maximum
-/// length; a line of the list that is not the display name comes after it; # begins a header line.
+/// United States and Quebec by what differs from that. A row is display name, database field, category, type, sample
+/// and maximum length; a line of the list that is not the display name comes after it; # begins a header line.
 class CatalogueGoldenTest : public MergeEngineTestWith<ListCase> {
 protected:
-    std::string listText(std::int32_t country, std::int32_t use)
+    std::string listText(std::int32_t country, std::int32_t use, std::int32_t province = ontario)
     {
-        region(country, ontario);
+        region(country, province);
         listBox->lines.clear();
         listBox2->lines.clear();
         engine.ShowListCategoryHeaders(true);
@@ -75,6 +76,7 @@ TEST_P(CatalogueGoldenTest, IsAsWrittenDown)
     std::string text = "== Canada, use 1\n" + normal;
     text += "== Canada, use 3\n" + lineDifference(normal, listText(canada, 3));
     text += "== Canada, use 5\n" + lineDifference(normal, listText(canada, 5));
+    text += "== Quebec, use 1\n" + lineDifference(normal, listText(canada, 1, quebec));
     const std::string american = listText(unitedStates, 1);
     text += "== United States, use 1\n" + lineDifference(normal, american);
     text += "== United States, use 3, from use 1\n" + lineDifference(american, listText(unitedStates, 3));

@@ -86,6 +86,47 @@ TEST_F(CatalogueTest, TheCountryIsReadOnceForEachStretchOfRows)
     EXPECT_FALSE(hasField("Company Alternate Province"));
 }
 
+/// A firm that moves to Quebec once its province has been asked for a number of times.
+class MovingProvince : public ForwardingLocaleService {
+public:
+    MovingProvince(std::shared_ptr<LocaleService> target, int reads)
+        : ForwardingLocaleService(std::move(target)), reads_(reads)
+    {
+    }
+    std::int32_t getProvinceCode() override { return reads_-- > 0 ? 3 : 8; }
+
+private:
+    int reads_;
+};
+
+TEST_F(CatalogueTest, TheProvinceIsReadForEachRowThatDependsOnIt)
+{
+    serviceRegistry().locale = std::make_shared<MovingProvince>(locale, 2);
+    build(2);
+    EXPECT_EQ(fieldOf("HST Number"), "GSTNumber");
+    EXPECT_EQ(fieldOf("HST Filing Method"), "GSTFilingMethod");
+    EXPECT_EQ(fieldOf("QST Number"), "PSTNumber");
+    EXPECT_EQ(fieldOf("Que. Corp. Tax Number"), "ONCorpNumber");
+    EXPECT_FALSE(hasField("ON Corp. MCBS Number"));
+    EXPECT_EQ(fieldOf("NEQ Number"), "WSIBNumber");
+}
+
+TEST_F(CatalogueTest, TheSampleCountryIsTheFirmsOwn)
+{
+    for (const auto& [country, sample] : {std::pair{canada, "Canada"}, std::pair{unitedStates, "United States"}}) {
+        region(country, 3);
+        build(1);
+        int found = 0;
+        for (const FieldListRow& row : engine.FieldList()->rows()) {
+            if (!row.displayName.view().ends_with("Country"))
+                continue;
+            ++found;
+            EXPECT_EQ(row.sampleText.view(), sample) << row.displayName.view();
+        }
+        EXPECT_EQ(found, 7);
+    }
+}
+
 TEST_F(CatalogueTest, DateSamplesAreOfTheCurrentYear)
 {
     moveClockTo(Date::of(2031, 2, 1));

@@ -87,6 +87,14 @@ TEST_P(DamagedTemplateTest, GivesWayToTheDefault)
     EXPECT_TRUE(engine.createDisplayTextByID2().starts_with("Budget for "));
 }
 
+TEST_P(DamagedTemplateTest, LeavesNoTitle)
+{
+    addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTitleBarText", GetParam().stored}});
+    engine.appointmentID(addRow("Appointments", {{"Subject", "Budget"}}));
+    build(5);
+    EXPECT_EQ(engine.createTitleBarTextByID2(), "");
+}
+
 INSTANTIATE_TEST_SUITE_P(Rows, DamagedTemplateTest,
                          testing::Values(DamagedRow{"Empty", ""}, DamagedRow{"Zero", "0"},
                                          DamagedRow{"TextConstant", "Text Constant"}),
@@ -132,6 +140,39 @@ TEST_F(MergeDataTest, TextOfNoItemIsTheTemplate)
     addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTemplate", "«Docket Name»"}});
     build(5);
     EXPECT_EQ(engine.createDisplayTextByID2(), "«Time Entry Name»");
+}
+
+TEST_F(MergeDataTest, ContactAloneTakesThePlaceOfTheCompany)
+{
+    addContact({{"DisplayName", "Ann Reed"}});
+    addRow("UserCalendarSettings",
+           {{"UserIDNum", "-1"}, {"ApptTemplate", "for «Company Name»"}, {"ApptTitleBarText", "«Company Name»"}});
+    engine.appointmentID(addRow("Appointments", {}));
+    build(5);
+    EXPECT_EQ(engine.createDisplayTextByID2(), "for Ann Reed");
+    EXPECT_EQ(engine.createTitleBarTextByID2(), "Ann Reed");
+}
+
+TEST_F(MergeDataTest, WithoutAConnectionTheDefaultIsMergedToNothing)
+{
+    addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTemplate", "text"}, {"ApptTitleBarText", "title"}});
+    engine.appointmentID(addRow("Appointments", {{"Subject", "Budget"}}));
+    build(5);
+    recorded->connected = false;
+    EXPECT_EQ(engine.createDisplayTextByID2(), " for \r\n  to ");
+    EXPECT_EQ(engine.createTitleBarTextByID2(), "");
+}
+
+TEST_F(MergeDataTest, ListThatIsForNoItemHasNoTexts)
+{
+    addRow("UserCalendarSettings", {{"UserIDNum", "-1"}, {"ApptTemplate", "text"}, {"ApptTitleBarText", "title"}});
+    engine.appointmentID(addRow("Appointments", {{"BeforeAppointmentText", "before"}}));
+    engine.initializeDataRecordsetsForSingleDocMerge();
+    for (const std::int32_t listType : {0, 1, 2, 3, 4, 7}) {
+        build(listType);
+        EXPECT_EQ(engine.createDisplayTextByID2(), "") << listType;
+        EXPECT_EQ(engine.createTitleBarTextByID2(), "") << listType;
+    }
 }
 
 TEST_F(ComponentTest, TestMergeIsShownUntilOk)

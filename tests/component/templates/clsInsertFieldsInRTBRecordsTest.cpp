@@ -1,5 +1,7 @@
 #include "component/templates/MergeDataTest.h"
+#include "core/forwarding/ForwardingDatabaseService.h"
 #include "support/rowName.h"
+#include "utilities/text.h"
 
 namespace qncal::test {
 
@@ -205,6 +207,31 @@ INSTANTIATE_TEST_SUITE_P(
                 "Provincial Corporation"}),
     rowName);
 
+namespace {
+
+/// A database whose main record has the column with the misspelt name.
+class MisspeltCompanyType : public ForwardingDatabaseService {
+public:
+    using ForwardingDatabaseService::ForwardingDatabaseService;
+    Variant getField(std::int32_t handle, std::string_view field) override
+    {
+        return equalsNoCase(field, "CompanType") ? Variant(2) : ForwardingDatabaseService::getField(handle, field);
+    }
+};
+
+} // namespace
+
+TEST_F(MergeDataTest, OnlyTheMisspeltCompanyTypeBecomesAWord)
+{
+    serviceRegistry().database = std::make_shared<MisspeltCompanyType>(recorded);
+    addCompany({{"CompanyType", "2"}});
+    build(1);
+    engine.initializeDataRecordsetsForSingleDocMerge();
+    ASSERT_EQ(field("Company Type"), "2");
+    std::string column = "CompanType";
+    EXPECT_EQ(engine.getDataFieldFromRecordset(column), "Sole Proprietorship");
+}
+
 // --- What a contact takes over from its company ---
 
 struct InheritRow {
@@ -313,119 +340,6 @@ INSTANTIATE_TEST_SUITE_P(Rows, AbbreviatedProvinceTest,
                                                      "AltAbbreviatedProvince", "Contacts", "AltProvince"}),
                          rowName);
 
-// --- The life of the record sets ---
-
-TEST_F(MergeDataTest, InitialisationOpensTheRecordOfEveryIDInOrder)
-{
-    engine.contactID(7);
-    engine.companyID(7);
-    engine.TaskID(7);
-    engine.docketId(7);
-    engine.appointmentID(7);
-    engine.userID(7);
-    engine.firmID(7);
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    const auto sql = recorded->openedSql();
-    ASSERT_EQ(sql.size(), 10u);
-    EXPECT_NE(sql[0].find("WHERE ClientData.CompanyIDNum=7;"), std::string::npos);
-    EXPECT_EQ(sql[1], "SELECT Companies.*, Companies.Custom1 AS CompanyCustom1, Companies.Custom2 AS CompanyCustom2, "
-                      "Companies.Custom3 AS CompanyCustom3, Companies.Custom4 AS CompanyCustom4, Companies.Custom5 AS "
-                      "CompanyCustom5 From Companies WHERE Companies.CompanyID=7;");
-    EXPECT_EQ(sql[2], "SELECT SoftwareInfo.* From SoftwareInfo WHERE SoftwareInfo.DefaultSoftware=True AND "
-                      "SoftwareInfo.CompanyIDNum=7;");
-    EXPECT_TRUE(sql[3].starts_with("SELECT Contacts.*, Contacts.Custom1 AS ContactCustom1, "));
-    EXPECT_TRUE(sql[3].ends_with(" From Contacts WHERE Contacts.ContactID=7;"));
-    EXPECT_TRUE(sql[4].ends_with(" From AccountantFirmInfo WHERE CompanyID=7;"));
-    EXPECT_EQ(sql[5], "SELECT AccountantEmployeeInfo.* From AccountantEmployeeInfo WHERE ContactID=7;");
-    EXPECT_TRUE(sql[6].ends_with(" WHERE Appointments.AppointmentID=7;"));
-    EXPECT_TRUE(sql[7].ends_with(" WHERE Dockets.DocketID=7;"));
-    EXPECT_TRUE(sql[8].starts_with("SELECT Schedule.*, Tasks.*, Schedule.Custom1 AS ScheduleCustom1, "));
-    EXPECT_TRUE(sql[8].ends_with("Schedule.ScheduleID = Tasks.ScheduleIDNum WHERE Tasks.TaskID=7;"));
-    EXPECT_TRUE(sql[9].starts_with("SELECT Tasks.*, Tasks.Custom1 AS TaskCustom1, "));
-}
-
-TEST_F(MergeDataTest, SoftwareIsOpenedByContactWhereThereIsNoCompany)
-{
-    engine.contactID(7);
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    ASSERT_EQ(recorded->opened.size(), 2u);
-    EXPECT_EQ(recorded->openedSql()[1],
-              "SELECT SoftwareInfo.* From SoftwareInfo WHERE SoftwareInfo.DefaultSoftware=True "
-              "AND SoftwareInfo.ContactIDNum=7;");
-}
-
-TEST_F(MergeDataTest, InitialisationWithoutAConnectionOnlyCloses)
-{
-    addContact({});
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    EXPECT_FALSE(recorded->open.empty());
-    recorded->connected = false;
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    EXPECT_TRUE(recorded->open.empty());
-}
-
-TEST_F(MergeDataTest, EndClosesTheRecordSets)
-{
-    addCompany({});
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    engine.Terminate();
-    EXPECT_TRUE(recorded->open.empty());
-}
-
-TEST_F(MergeDataTest, RecordSetOfAnEarlierIDFindsNothing)
-{
-    addCompany({{"CompanyName", "Maple Leaf"}});
-    build(1);
-    EXPECT_EQ(field("Company Name"), "Maple Leaf");
-    addCompany({{"CompanyName", "Oak"}});
-    EXPECT_EQ(field("Company Name"), "");
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    EXPECT_EQ(field("Company Name"), "Oak");
-}
-
-TEST_F(MergeDataTest, RecordIsOpenedOnceForAllItsFields)
-{
-    addCompany({{"CompanyName", "Maple Leaf"}, {"City", "Guelph"}});
-    build(1);
-    recorded->opened.clear();
-    field("Company Name");
-    field("City");
-    EXPECT_EQ(recorded->opened.size(), 2u) << "the company, and its software beside it";
-}
-
-TEST_F(MergeDataTest, BatchReadsTheWholeTableAndFindsEachRow)
-{
-    const std::int32_t first = addCompany({{"CompanyName", "Maple Leaf"}});
-    const std::int32_t second = addCompany({{"CompanyName", "Oak"}});
-    build(1, 2);
-    engine.companyID(first);
-    EXPECT_EQ(field("Company Name"), "Maple Leaf");
-    engine.companyID(second);
-    EXPECT_EQ(field("Company Name"), "Oak");
-    EXPECT_EQ(field("Business Number"), "123 RC");
-}
-
-TEST_F(MergeDataTest, OnlyAMergeThatWritesBackOpensForWriting)
-{
-    addContact({});
-    build(2, 5);
-    recorded->opened.clear();
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    EXPECT_EQ(recorded->opened[0].second, DatabaseService::updatable);
-    engine.MergeFieldListUse(1);
-    engine.initializeDataRecordsetsForSingleDocMerge();
-    EXPECT_EQ(recorded->opened.back().second, DatabaseService::readOnly);
-}
-
-TEST_F(MergeDataTest, ScheduleIDChoosesItsTask)
-{
-    const std::int32_t task = addRow("Tasks", {{"ScheduleIDNum", "12"}});
-    engine.scheduleID(12);
-    EXPECT_EQ(engine.TaskID(), task);
-    engine.scheduleID(13);
-    EXPECT_EQ(engine.TaskID(), -1);
-}
-
 // --- By name ---
 
 TEST_F(MergeDataTest, FieldsAreReadByEitherName)
@@ -455,12 +369,14 @@ TEST_F(MergeDataTest, CompanyNameOfAContactIsTheRowsValueWhereTheListHasTheRow)
     engine.FieldList()->addRow({});
     EXPECT_EQ(engine.getMergeDataFromFieldName("companyname"), "DisplayName");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "");
-    FieldListRow row;
-    row.displayName = FieldText::fixed("Contact Full Name");
-    engine.FieldList()->addRow(row);
+    const auto addRowNamed = [&](std::string_view name) {
+        FieldListRow row;
+        row.displayName = FieldText::fixed(name);
+        engine.FieldList()->addRow(std::move(row));
+    };
+    addRowNamed("Contact Full Name");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "Contact Full Name");
-    row.displayName = FieldText::fixed("Contact Display Name");
-    engine.FieldList()->addRow(row);
+    addRowNamed("Contact Display Name");
     EXPECT_EQ(engine.getMergeDataFromDisplayName("company name"), "Contact Display Name");
 }
 

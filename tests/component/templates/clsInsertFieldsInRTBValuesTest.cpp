@@ -126,6 +126,9 @@ INSTANTIATE_TEST_SUITE_P(
                     WriteRow{"DateBefore1900", "DateFrom", Variant(Date::of(1899, 12, 31)), "nothing"},
                     WriteRow{"Time", "TimeFrom", Variant(Date::of(2026, 3, 7, 9, 30)), "09:30:00"},
                     WriteRow{"Currency", "TotalAmountReal", Variant("12.1"), "12.1"},
+                    WriteRow{"CurrencyOfManyDigits", "TotalAmountReal", Variant(100000.0), "100000"},
+                    WriteRow{"CurrencyOfAMillion", "TotalAmountReal", Variant(1000000.0), "1000000"},
+                    WriteRow{"CurrencyOfAFraction", "TotalAmountReal", Variant(0.00001), "0.00001"},
                     WriteRow{"Hours", "TotalTimeReal", Variant(2.5), "2.5"},
                     WriteRow{"Yes", "Invoiced", Variant(true), "True"},
                     WriteRow{"No", "Invoiced", Variant(0.0), "False"},
@@ -150,6 +153,16 @@ TEST_F(MergeDataTest, AbbreviatedProvinceIsWrittenToTheWholeOne)
     engine.initializeDataRecordsetsForSingleDocMerge();
     engine.writeDataToField("HomeAbbreviatedProvince", "MB");
     EXPECT_EQ(cell("Contacts", engine.contactID(), "HomeProvince"), "MB");
+}
+
+TEST_F(MergeDataTest, AbbreviatedProvinceOfACompanyIsWrittenToTheWholeOne)
+{
+    const std::int32_t company = addCompany({{"Province", "Ontario"}, {"AltProvince", "Ontario"}});
+    build(1, 5);
+    engine.initializeDataRecordsetsForSingleDocMerge();
+    engine.writeDataToField("AbbreviatedProvince", "MB");
+    EXPECT_EQ(cell("Companies", company, "Province"), "MB");
+    EXPECT_EQ(cell("Companies", company, "AltProvince"), "Ontario");
 }
 
 TEST_F(MergeDataTest, NotesAreOpenedToBeWritten)

@@ -21,6 +21,15 @@ TEST_F(CustomFieldRowsTest, LabelsNameTheCustomFields)
     EXPECT_EQ(fieldOf("Custom Appt Field 5"), "ApptCustom5");
 }
 
+TEST_F(CustomFieldRowsTest, ALabelThatIsEmptyOnceItsColonIsCutIsNone)
+{
+    addRow("CustomFields", {{"ApptCustomName1", ":"}, {"ApptCustomName2", ""}, {"ApptCustomName3", "Room:"}});
+    build(5);
+    EXPECT_EQ(fieldOf("Custom Appt Field 1"), "ApptCustom1");
+    EXPECT_EQ(fieldOf("Custom Appt Field 2"), "ApptCustom2");
+    EXPECT_EQ(fieldOf("Room"), "ApptCustom3");
+}
+
 TEST_F(CustomFieldRowsTest, TheFirmsLabelsGetAPrefixAndItsFallbackNamesHaveOne)
 {
     addRow("CustomAddressFields", {{"CompanyLabel1", "Fax 2"}, {"CompanyLabel2", "Custom 2"}});

@@ -125,19 +125,20 @@ void plainTodaysDate(std::string& text, const DelimiterPair& pair, bool richText
     }
 }
 
-void plainMerge(std::string& text, const std::vector<PlainField>& fields, bool richText, Date today,
+bool plainMerge(std::string& text, const std::vector<PlainField>& fields, bool richText, Date today,
                 const PlainValue& valueOf)
 {
     plainTodaysDate(text, plainDelimiters, richText, today);
     if (plainPass(text, plainDelimiters, fields, richText, valueOf))
-        return;
+        return true;
     plainTodaysDate(text, richDelimiters, richText, today);
     plainPass(text, richDelimiters, fields, richText, valueOf);
+    return false;
 }
 
-void plainBlanking(std::string& text)
+void plainBlanking(std::string& text, bool plainOnesMerged)
 {
-    if (!removeSpans(text, plainDelimiters))
+    if (!removeSpans(text, plainDelimiters) && !plainOnesMerged)
         removeSpans(text, richDelimiters);
 }
 

@@ -25,10 +25,10 @@ using PlainValue = std::function<std::optional<std::string>(std::size_t field, c
 bool plainPass(std::string& text, const DelimiterPair& pair, const std::vector<PlainField>& fields, bool richText,
                const PlainValue& valueOf);
 void plainTodaysDate(std::string& text, const DelimiterPair& pair, bool richText, Date today);
-/// Both passes.
-void plainMerge(std::string& text, const std::vector<PlainField>& fields, bool richText, Date today,
+/// Both passes. True when expressions between « and » were replaced.
+bool plainMerge(std::string& text, const std::vector<PlainField>& fields, bool richText, Date today,
                 const PlainValue& valueOf);
-/// Takes out the expressions that are left.
-void plainBlanking(std::string& text);
+/// Takes out the expressions that are left; those of rich text stay beside plain ones that were merged.
+void plainBlanking(std::string& text, bool plainOnesMerged = false);
 
 } // namespace qncal::test

@@ -12,6 +12,8 @@
 
 namespace qncal::host {
 
+inline const std::string allAppointments = "SELECT Appointments.* FROM Appointments;";
+
 /// A folder of its own for a test, removed at the end.
 class TemporaryFolder {
 public:

@@ -20,7 +20,8 @@ std::vector<Record> smallFirm()
                             {"BackColour", "255"},
                             {"TextBody", "notes"},
                             {"SchemeID", "2"},
-                            {"ScheduleIDNum", "1"}}});
+                            {"ScheduleIDNum", "1"},
+                            {"Custom1", "fourth"}}});
         records.push_back({table,
                            key,
                            {{"Subject", "Beta"},
@@ -72,7 +73,13 @@ std::vector<Record> smallFirm()
             {"MissingInfo", "MissingInfoID", {{"ContactIDNum", "1"}}},
             {"OutlookSync", "OutlookSyncID", {{"AppointmentNum", "2"}}},
             {"Companies", "CompanyID", {{"CompanyName", "North Ltd"}, {"ClientID", "N1"}, {"Custom1", "first"}}},
-            {"Contacts", "ContactID", {{"DisplayName", "Ann North"}, {"BusinessEmail", "ann@example.test"}}},
+            {"Contacts",
+             "ContactID",
+             {{"DisplayName", "Ann North"},
+              {"BusinessEmail", "ann@example.test"},
+              {"BusinessPhone_Main", "555-0101"},
+              {"BusinessPhone_Fax", "555-0102"},
+              {"Custom1", "second"}}},
             {"ContactLinks",
              "ContactLinkID",
              {{"ContactIDNum", "1"}, {"CompanyNum", "1"}, {"ContactNum", "1"}, {"DefaultContact", "True"}}},
@@ -82,9 +89,18 @@ std::vector<Record> smallFirm()
             {"SoftwareInfo", "SoftwareInfoID", {{"CompanyIDNum", "1"}, {"DefaultSoftware", "True"}}},
             {"Clients", "ClientID", {{"CompanyIDNum", "1"}}},
             {"ClientData", "ClientDataID", {{"CompanyIDNum", "1"}, {"ActiveStatus", "1"}, {"ShowThisClient", "True"}}},
-            {"PersonalTaxDataImportInfo", "PersonalTaxDataImportInfoID", {{"TaxYear", "2025"}}},
+            {"AccountantEmployeeInfo", "ContactID", {{"DisplayName", "Eve Ledger"}}},
+            {"AccountantFirmInfo", "CompanyID", {{"CompanyName", "Ledger & Co"}, {"Custom1", "third"}}},
+            {"CustomAddressFields", "CustomAddressFieldsID", {{"CompanyLabel1", "Fax 2:"}}},
+            {"PersonalTaxProfileInfo", "PersonalTaxProfileInfoID", {{"ContactNum", "1"}}},
+            {"PersonalTaxDataImportInfo",
+             "PersonalTaxDataImportInfoID",
+             {{"TaxYear", "2025"}, {"ShowProfileT1InfoInSummary", "True"}}},
             {"PersonalTaxClientSummary", "PersonalTaxClientSummaryID", {{"ContactNum", "1"}, {"TaxYear", "2025"}}},
         });
+    for (const char* table :
+         {"AccountingServices", "ClientOptions", "ClientUSInfo", "CorpTaxInfo", "LawInfo", "OtherInfo", "WSIB_EHTInfo"})
+        records.push_back({table, std::string(table) + "ID", {{"ClientDataIDNum", "1"}}});
     return records;
 }
 

@@ -1,53 +1,18 @@
-#include "host/store/StoreFactory.h"
+#include "host/store/SqliteDatabaseTest.h"
+#include "host/store/OtherProgram.h"
 
 #include "store/storeError.h"
 #include "utilities/RunTimeError.h"
 
-#include <gtest/gtest.h>
-#include <sqlite3.h>
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
-#include <set>
+#include <functional>
 #include <string>
 
 namespace qncal::host {
 namespace {
-
-const std::string allAppointments = "SELECT Appointments.* FROM Appointments;";
-
-std::int32_t openUpdatable(SqliteDatabase& store, std::string_view sql)
-{
-    return store.openRecordset(sql, 1, DatabaseService::updatable, true, {}, true);
-}
-
-void addAppointment(SqliteDatabase& store, const std::string& subject)
-{
-    const auto handle = openUpdatable(store, allAppointments);
-    store.addNew(handle);
-    store.setNewField(handle, "Subject", subject);
-    store.update(handle);
-    store.closeRecordset(handle);
-}
-
-std::int32_t appointmentCount(SqliteDatabase& store)
-{
-    const auto handle = openUpdatable(store, allAppointments);
-    const auto count = store.getRecordCount(handle);
-    store.closeRecordset(handle);
-    return count;
-}
-
-/// Runs SQL on a file as another program would.
-void runElsewhere(const std::string& path, const char* sql)
-{
-    sqlite3* connection = nullptr;
-    ASSERT_EQ(sqlite3_open(path.c_str(), &connection), SQLITE_OK);
-    EXPECT_EQ(sqlite3_exec(connection, sql, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(connection);
-    sqlite3_close(connection);
-}
 
 std::int32_t errorOf(const std::function<void()>& operation, const std::string& words)
 {
@@ -60,12 +25,6 @@ std::int32_t errorOf(const std::function<void()>& operation, const std::string& 
     ADD_FAILURE() << "no error";
     return 0;
 }
-
-class SqliteDatabaseTest : public ::testing::Test {
-protected:
-    TemporaryFolder folder_;
-    std::string path_ = folder_.file("store.db");
-};
 
 TEST_F(SqliteDatabaseTest, OpensOnlyWhatIsThere)
 {
@@ -151,44 +110,17 @@ TEST_F(SqliteDatabaseTest, TheFileHoldsPlainTextThatAnyToolReads)
     sqlite3_close(connection);
 }
 
-TEST_F(SqliteDatabaseTest, ALockedDatabaseIsAClearErrorAndTheCallWorksWhenItIsFreeAgain)
+TEST_F(SqliteDatabaseTest, ALockedDatabaseIsAClearError)
 {
     auto store = SqliteDatabase::create(path_, {.busyTimeout = 1});
     addAppointment(*store, "Before");
     const auto handle = openUpdatable(*store, allAppointments);
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(path_.c_str(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-
-    store->setFieldValue(handle, "Subject", "After", false, false, false);
-    EXPECT_EQ(errorOf([&] { store->flush(); }, "locked by another process"), storeError::locked);
-    EXPECT_EQ(errorOf([&] { store->closeRecordset(handle); }, "locked by another process"), storeError::locked);
-
-    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
-    EXPECT_FALSE(store->isRecordsetOpen(handle)) << "what cannot be written twice is given up with its handle";
-    const auto again = openUpdatable(*store, allAppointments);
-    store->setFieldValue(again, "Subject", "After", false, false, false);
-    store->closeRecordset(again);
-    EXPECT_EQ(appointmentCount(*store), 1);
-}
-
-TEST_F(SqliteDatabaseTest, AWriteThatFailedOnceIsStoredByTheNextAttempt)
-{
-    auto store = SqliteDatabase::create(path_, {.busyTimeout = 1});
-    addAppointment(*store, "Before");
-    const auto handle = openUpdatable(*store, allAppointments);
-    store->setFieldValue(handle, "Subject", "After", false, false, false);
-    sqlite3* other = nullptr;
-    ASSERT_EQ(sqlite3_open(path_.c_str(), &other), SQLITE_OK);
-    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
-    EXPECT_EQ(errorOf([&] { store->closeRecordset(handle); }, "locked by another process"), storeError::locked);
-    EXPECT_TRUE(store->isRecordsetOpen(handle));
-    sqlite3_exec(other, "ROLLBACK", nullptr, nullptr, nullptr);
-    sqlite3_close(other);
-    store->closeRecordset(handle);
-    const auto reader = openUpdatable(*store, allAppointments);
-    EXPECT_EQ(store->getField(reader, "Subject"), Variant("After"));
+    OtherProgram other(path_);
+    other.lock();
+    EXPECT_EQ(errorOf([&] { store->setFieldValue(handle, "Subject", "After", false, false, false); },
+                      "locked by another process"),
+              storeError::locked);
+    EXPECT_EQ(errorOf([&] { addAppointment(*store, "New"); }, "locked by another process"), storeError::locked);
 }
 
 TEST_F(SqliteDatabaseTest, AFullDiskIsAClearErrorAndReadingGoesOn)
@@ -204,13 +136,59 @@ TEST_F(SqliteDatabaseTest, AFullDiskIsAClearErrorAndReadingGoesOn)
     EXPECT_EQ(appointmentCount(*store), 2);
 }
 
-TEST_F(SqliteDatabaseTest, AReadOnlyFileIsRefused)
+TEST_F(SqliteDatabaseTest, ALogThatNoQuietMomentWritesBackStaysWithinItsBound)
 {
+    constexpr std::int64_t bound = 256 * 1024;
+    const auto logOf = [&](std::int64_t longestLog) {
+        const std::string path = folder_.file(std::to_string(longestLog));
+        const auto store = SqliteDatabase::create(path, {.longestLog = longestLog});
+        for (int i = 0; i < 300; ++i)
+            addAppointment(*store, std::string(10000, 'x'));
+        EXPECT_EQ(appointmentCount(*store), 300);
+        return static_cast<std::int64_t>(std::filesystem::file_size(path + "-wal"));
+    };
+    EXPECT_LT(logOf(bound), 2 * bound);
+    EXPECT_GT(logOf(64 * bound), 8 * bound) << "the rows alone are longer than that";
+}
+
+/// An administrator may write everything; permissions hold for everybody else.
+class OrdinaryUser {
+public:
+    OrdinaryUser()
+    {
+        if (geteuid() == 0) {
+            EXPECT_EQ(seteuid(nobody), 0);
+        }
+    }
+    ~OrdinaryUser() { EXPECT_EQ(seteuid(getuid()), 0); }
+    OrdinaryUser(const OrdinaryUser&) = delete;
+    OrdinaryUser& operator=(const OrdinaryUser&) = delete;
+
+private:
+    static constexpr uid_t nobody = 65534;
+};
+
+TEST_F(SqliteDatabaseTest, AReadOnlyFileOrFolderIsRefused)
+{
+    namespace fs = std::filesystem;
+    const auto readable = fs::perms::owner_read | fs::perms::group_read | fs::perms::others_read;
+    const auto enterable = fs::perms::owner_exec | fs::perms::group_exec | fs::perms::others_exec;
     SqliteDatabase::create(path_)->close();
-    std::filesystem::permissions(path_, std::filesystem::perms::owner_read);
-    if (access(path_.c_str(), W_OK) == 0)
-        GTEST_SKIP() << "this user may write everything";
-    EXPECT_EQ(errorOf([&] { SqliteDatabase::open(path_); }, "read-only"), storeError::readOnly);
+    fs::permissions(path_, readable);
+    fs::permissions(folder_.path(), readable | enterable);
+    {
+        const OrdinaryUser user;
+        EXPECT_EQ(errorOf([&] { SqliteDatabase::open(path_); }, "read-only"), storeError::readOnly);
+        EXPECT_EQ(errorOf([&] { SqliteDatabase::create(folder_.file("new.db")); }, "cannot be opened"),
+                  storeError::cannotOpen);
+    }
+    fs::permissions(path_, readable | fs::perms::owner_write | fs::perms::others_write);
+    {
+        const OrdinaryUser user;
+        EXPECT_THROW(SqliteDatabase::open(path_), RunTimeError) << "the log cannot be made beside the file";
+    }
+    fs::permissions(folder_.path(), fs::perms::owner_all);
+    EXPECT_TRUE(SqliteDatabase::open(path_)->isConnected());
 }
 
 TEST_F(SqliteDatabaseTest, ManyHandlesThatErrorsLeftOpenDoNotDisturb)
@@ -222,164 +200,6 @@ TEST_F(SqliteDatabaseTest, ManyHandlesThatErrorsLeftOpenDoNotDisturb)
     }
     addAppointment(*store, "One");
     EXPECT_EQ(appointmentCount(*store), 1);
-}
-
-// Nothing is read before it is asked for, proven by what the store counts.
-
-class LazinessTest : public SqliteDatabaseTest {
-protected:
-    LazinessTest()
-    {
-        for (int i = 0; i < 1000; ++i)
-            addAppointment(*store_, "Row");
-    }
-    std::uint64_t read() const { return store_->statistics().recordsRead + store_->statistics().keysRead; }
-
-    std::unique_ptr<SqliteDatabase> store_ = SqliteDatabase::openInMemory();
-};
-
-TEST_F(LazinessTest, OpeningForAddingReadsNothing)
-{
-    const auto before = read();
-    addAppointment(*store_, "New");
-    EXPECT_EQ(read(), before);
-}
-
-TEST_F(LazinessTest, AskingForRecordsReadsOne)
-{
-    const auto before = read();
-    const auto handle = openUpdatable(*store_, allAppointments);
-    EXPECT_TRUE(store_->hasRecords(handle));
-    EXPECT_FALSE(store_->isEOF(handle));
-    EXPECT_EQ(store_->getField(handle, "Subject"), Variant("Row"));
-    EXPECT_EQ(read(), before + 1);
-}
-
-TEST_F(LazinessTest, CountingReadsNone)
-{
-    const auto before = read();
-    EXPECT_EQ(appointmentCount(*store_), 1000);
-    EXPECT_EQ(read(), before);
-}
-
-TEST_F(LazinessTest, WalkingReadsABlockOfKeysAtATime)
-{
-    const auto handle = openUpdatable(*store_, allAppointments);
-    const auto before = store_->statistics().keysRead;
-    store_->moveNext(handle);
-    EXPECT_LE(store_->statistics().keysRead - before, 256U);
-    EXPECT_GT(store_->statistics().keysRead - before, 1U);
-}
-
-TEST_F(LazinessTest, ASavedRecordIsOneUpdateOfWhatChanged)
-{
-    const auto handle = openUpdatable(*store_, "SELECT Appointments.* FROM Appointments WHERE AppointmentID=5;");
-    const auto before = store_->statistics().updates;
-    store_->setFieldValue(handle, "Subject", "Row", false, false, false);
-    store_->flush();
-    EXPECT_EQ(store_->statistics().updates, before) << "an equal value is no change";
-    store_->setFieldValue(handle, "Subject", "Changed", false, false, false);
-    store_->setFieldValue(handle, "TitleText", "Too", false, false, false);
-    EXPECT_EQ(store_->statistics().updates, before);
-    store_->closeRecordset(handle);
-    EXPECT_EQ(store_->statistics().updates, before + 1);
-}
-
-TEST_F(LazinessTest, AStatementOfAKnownShapeIsNotParsedAgain)
-{
-    const auto open = [&](int id) {
-        store_->closeRecordset(openUpdatable(
-            *store_, "SELECT Appointments.* FROM Appointments WHERE AppointmentID=" + std::to_string(id) + ";"));
-    };
-    open(1);
-    const auto before = store_->statistics().plans;
-    for (int id = 2; id < 50; ++id)
-        open(id);
-    EXPECT_EQ(store_->statistics().plans, before);
-}
-
-// Several processes on one file.
-
-TEST_F(SqliteDatabaseTest, TwoProcessesThatAddAtOnceLoseNothingAndShareNoKey)
-{
-    constexpr int processes = 2;
-    constexpr int records = 300;
-    SqliteDatabase::create(path_)->close();
-    pid_t children[processes] = {};
-    for (pid_t& child : children) {
-        child = fork();
-        if (child != 0)
-            continue;
-        // The child must not run the parent's tests or exit handlers.
-        try {
-            auto store = SqliteDatabase::open(path_);
-            for (int i = 0; i < records; ++i)
-                addAppointment(*store, std::to_string(getpid()));
-            store->close();
-            _exit(0);
-        } catch (const std::exception&) {
-            _exit(1);
-        }
-    }
-    for (const pid_t child : children) {
-        int status = -1;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_EQ(status, 0);
-    }
-    auto store = SqliteDatabase::open(path_);
-    std::set<std::int32_t> keys;
-    const auto handle = openUpdatable(*store, allAppointments);
-    for (; !store->isEOF(handle); store->moveNext(handle))
-        keys.insert(store->getField(handle, "AppointmentID").toInteger());
-    EXPECT_EQ(keys.size(), static_cast<std::size_t>(processes * records));
-}
-
-TEST_F(SqliteDatabaseTest, TheNextProgramGoesOnWithTheNextKey)
-{
-    addAppointment(*SqliteDatabase::create(path_), "One");
-    auto store = SqliteDatabase::open(path_);
-    const auto handle = openUpdatable(*store, allAppointments);
-    store->addNew(handle);
-    EXPECT_EQ(store->getField(handle, "AppointmentID"), Variant(2));
-}
-
-TEST_F(SqliteDatabaseTest, ARecordThatAnSqlToolAddsTakesNoKeyThatWasGiven)
-{
-    auto store = SqliteDatabase::create(path_);
-    const auto handle = openUpdatable(*store, allAppointments);
-    store->addNew(handle);
-    runElsewhere(path_, "INSERT INTO Appointments (Subject) VALUES ('theirs')");
-    store->update(handle);
-    addAppointment(*store, "Mine");
-    EXPECT_EQ(appointmentCount(*store), 3);
-}
-
-TEST_F(SqliteDatabaseTest, AKeyThatTheCallerChoseIsNotGivenAgain)
-{
-    auto store = SqliteDatabase::create(path_);
-    const auto handle = openUpdatable(*store, "SELECT archiveTasks.* FROM archiveTasks;");
-    store->addNew(handle);
-    store->setNewField(handle, "oldTaskID", "3");
-    store->update(handle);
-    for (int i = 0; i < 5; ++i) {
-        store->addNew(handle);
-        store->update(handle);
-    }
-    EXPECT_EQ(store->getRecordCount(handle), 6);
-}
-
-TEST_F(SqliteDatabaseTest, AMoveSeesWhatAnotherProcessWrote)
-{
-    auto mine = SqliteDatabase::create(path_);
-    for (const char* subject : {"A", "B", "C"})
-        addAppointment(*mine, subject);
-    const auto handle = openUpdatable(*mine, "SELECT Appointments.* FROM Appointments ORDER BY Appointments.Subject;");
-    EXPECT_EQ(mine->getField(handle, "Subject"), Variant("A"));
-    runElsewhere(path_, "UPDATE Appointments SET TitleText = 'new' WHERE Subject = 'C'; DELETE FROM Appointments WHERE "
-                        "Subject = 'B'");
-    mine->moveNext(handle);
-    EXPECT_EQ(mine->getField(handle, "TitleText"), Variant("new"));
-    EXPECT_EQ(mine->getField(handle, "Subject"), Variant("C"));
 }
 
 } // namespace

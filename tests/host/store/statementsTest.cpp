@@ -1,7 +1,9 @@
-#include "host/store/composedStatements.h"
 #include "host/store/smallFirm.h"
+#include "host/store/statementRows.h"
 
+#include "lookups/mainBusinessQuery.h"
 #include "store/SqliteDatabase.h"
+#include "support/ComponentTest.h"
 #include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
@@ -14,20 +16,25 @@
 namespace qncal::host {
 namespace {
 
+using Texts = std::vector<std::string>;
+
+std::unique_ptr<SqliteDatabase> storeOfSmallFirm()
+{
+    auto store = SqliteDatabase::openInMemory();
+    for (const Record& record : smallFirm()) {
+        const auto handle = store->openRecordset("SELECT * FROM " + record.table, 1, 3, true, {}, true);
+        store->addNew(handle);
+        for (const auto& [field, value] : record.fields)
+            store->setNewField(handle, field, value);
+        store->update(handle);
+        store->closeRecordset(handle);
+    }
+    return store;
+}
+
 class StatementTest : public ::testing::TestWithParam<Statement> {
 protected:
-    static void SetUpTestSuite()
-    {
-        store_ = SqliteDatabase::openInMemory();
-        for (const Record& record : smallFirm()) {
-            const auto handle = store_->openRecordset("SELECT * FROM " + record.table, 1, 3, true, {}, true);
-            store_->addNew(handle);
-            for (const auto& [field, value] : record.fields)
-                store_->setNewField(handle, field, value);
-            store_->update(handle);
-            store_->closeRecordset(handle);
-        }
-    }
+    static void SetUpTestSuite() { store_ = storeOfSmallFirm(); }
     static void TearDownTestSuite() { store_.reset(); }
 
     static std::unique_ptr<SqliteDatabase> store_;
@@ -53,8 +60,71 @@ TEST_P(StatementTest, FindsItsRecords)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(Composed, StatementTest, ::testing::ValuesIn(composedStatements()),
-                         [](const auto& row) { return row.param.name; });
+std::string statementName(const testing::TestParamInfo<Statement>& row) { return row.param.name; }
+
+INSTANTIATE_TEST_SUITE_P(Dialect, StatementTest, testing::ValuesIn(dialectStatements()), statementName);
+INSTANTIATE_TEST_SUITE_P(Items, StatementTest, testing::ValuesIn(itemStatements()), statementName);
+INSTANTIATE_TEST_SUITE_P(Clients, StatementTest, testing::ValuesIn(clientStatements()), statementName);
+
+// The whole record of a business client depends on the country, so the component composes the statement here.
+
+class BusinessStatementTest : public test::ComponentTestWith<std::int32_t> {
+protected:
+    BusinessStatementTest() { locale->country = GetParam(); }
+
+    Texts companies(const std::string& sql)
+    {
+        Texts names;
+        const auto handle = store_->openRecordset(sql, 1, DatabaseService::readOnly, true, {}, true);
+        for (; !store_->isEOF(handle); store_->moveNext(handle))
+            names.push_back(store_->getField(handle, "CompanyName").toText());
+        store_->closeRecordset(handle);
+        return names;
+    }
+
+    const Texts found_{"North Ltd"};
+    const Texts none_;
+    std::unique_ptr<SqliteDatabase> store_ = storeOfSmallFirm();
+};
+
+INSTANTIATE_TEST_SUITE_P(Countries, BusinessStatementTest,
+                         testing::Values(LocaleService::canada, LocaleService::unitedStates), [](const auto& country) {
+                             return country.param == LocaleService::canada ? "canada" : "unitedStates";
+                         });
+
+TEST_P(BusinessStatementTest, FindsItsClients)
+{
+    struct Row {
+        const char* name;
+        bool onlyShown;
+        std::int16_t active;
+        std::int32_t order;
+        std::int32_t clientDataID;
+        const Texts& companies;
+    };
+    const Row rows[] = {
+        {"all", false, 3, 1, -1, found_},
+        {"shown", true, 3, 2, -1, found_},
+        {"active", false, 1, 3, -1, found_},
+        {"inactive", false, 2, 1, -1, none_},
+        {"shown and active", true, 1, 3, -1, found_},
+        {"shown and inactive", true, 2, 2, -1, none_},
+        {"one", false, 3, 1, 1, found_},
+        {"one of the active", true, 1, 3, 1, found_},
+        {"one that is not there", false, 3, 1, 2, none_},
+    };
+    for (const Row& row : rows)
+        EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLString(row.onlyShown, row.active, row.order,
+                                                                         row.clientDataID)),
+                  row.companies)
+            << row.name;
+}
+
+TEST_P(BusinessStatementTest, FindsTheClientOfACompany)
+{
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(1)), found_);
+    EXPECT_EQ(companies(modFormatAddresses::getMainBusinessSQLStringForCompany(2)), none_);
+}
 
 TEST(BadStatements, AreRefusedWhenTheyAreOpenedAndTheNextOneWorks)
 {

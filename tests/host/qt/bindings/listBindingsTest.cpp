@@ -123,6 +123,8 @@ TEST(ListBoxBindingTest, GoesBothWays)
     box.listIndex(0);
     QCoreApplication::processEvents();
     EXPECT_EQ(list.currentRow(), 0);
+    QTest::mouseDClick(list.viewport(), Qt::LeftButton, {}, list.visualItemRect(list.item(0)).center());
+    EXPECT_EQ(t.events, (Events{"Click", "Click", "Click", "DblClick"}));
     box.clear();
     QCoreApplication::processEvents();
     EXPECT_EQ(list.count(), 0);

@@ -92,6 +92,18 @@ TEST_F(DateTimePickerBindingTest, ShowsATimeByItsPattern)
     EXPECT_EQ(picker.value(), Date::timeOf(22, 5));
 }
 
+TEST_F(DateTimePickerBindingTest, ATimeThatTheClockSkipsInSpringStays)
+{
+    const QByteArray zone = qgetenv("TZ");
+    qputenv("TZ", "America/Toronto");
+    picker.customFormat("yyyy-mm-dd hh:nn");
+    picker.value(Date::of(2026, 3, 8, 2, 30));
+    const auto& widget = t.show<host::DateTimeEdit>(picker);
+    EXPECT_EQ(widget.edit().text(), "2026-03-08 02:30");
+    EXPECT_EQ(picker.value(), Date::of(2026, 3, 8, 2, 30));
+    zone.isNull() ? qunsetenv("TZ") : qputenv("TZ", zone);
+}
+
 TEST_F(DateTimePickerBindingTest, TheCheckBoxTakesTheValueAway)
 {
     picker.checkBox(true);
@@ -114,7 +126,8 @@ TEST_F(DateTimePickerBindingTest, ClosingTheCalendarIsTold)
     auto& widget = t.show<host::DateTimeEdit>(picker);
     t.open();
     widget.edit().setFocus();
-    QTest::mouseClick(&widget.edit(), Qt::LeftButton, {}, QPoint(widget.edit().width() - 8, widget.edit().height() / 2));
+    QTest::mouseClick(&widget.edit(), Qt::LeftButton, {},
+                      QPoint(widget.edit().width() - 8, widget.edit().height() / 2));
     QWidget* calendar = QApplication::activePopupWidget();
     ASSERT_TRUE(calendar);
     EXPECT_TRUE(t.events.empty());

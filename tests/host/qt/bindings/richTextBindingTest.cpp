@@ -107,6 +107,8 @@ TEST_F(RichTextBindingTest, TheToolBarFormats)
     sizes.setCurrentIndex(sizes.findData(14));
     emit sizes.activated(sizes.currentIndex());
     EXPECT_TRUE(streamHas("\\fs28 "));
+    edit.bold()->trigger();
+    EXPECT_EQ(bar.findChild<QToolButton*>("format:" + edit.bold()->text())->text(), "B");
     const auto dialogs = std::make_shared<host::HeadlessDialogHost>();
     dialogs->colourToPick(0x0000FF);
     setDialogHost(dialogs);

@@ -144,11 +144,25 @@ TEST_F(TextBindingTest, FocusGoesBothWays)
 
 TEST_F(TextBindingTest, ADoubleClickReachesTheModel)
 {
+    TextBox other{t.form, "txtLines"};
     auto& edit = t.show<QLineEdit>(box);
     box.DblClick = t.note("DblClick");
     t.open();
     QTest::mouseDClick(&edit, Qt::LeftButton);
-    EXPECT_EQ(t.events, Events{"DblClick"});
+    auto& lines = t.show<QPlainTextEdit>(other);
+    other.DblClick = t.note("DblClick of lines");
+    QTest::mouseDClick(lines.viewport(), Qt::LeftButton);
+    EXPECT_EQ(t.events, (Events{"DblClick", "DblClick of lines"}));
+}
+
+TEST_F(TextBindingTest, TheTabKeyIsNoKeyPress)
+{
+    auto& edit = t.show<QLineEdit>(box);
+    box.KeyPress = [this](std::int32_t&) { t.events.push_back("KeyPress"); };
+    t.open();
+    edit.setFocus();
+    QTest::keyClick(&edit, Qt::Key_Tab);
+    EXPECT_TRUE(t.events.empty());
 }
 
 TEST_F(TextBindingTest, ColoursComeAndGo)

@@ -12,6 +12,7 @@
 #include "qt/widgets/DateTimeEdit.h"
 #include "qt/widgets/RichTextEdit.h"
 #include "settings/ColourSchemePage.h"
+#include "templates/frmTestComment.h"
 
 #include <QComboBox>
 #include <QDateTimeEdit>
@@ -142,38 +143,34 @@ TEST_F(ColourSchemesWindowTest, SchemesAreAddedAndDeletedByTheMouse)
     EXPECT_EQ(rowCount("ColourSchemes"), 2);
 }
 
-struct TestCommentForm : Form {
-    TestCommentForm() : Form("frmTestComment")
-    {
-        caption("Test Notification Comment");
-        heading.caption("Test Notification Comments");
-        rtbClientNotes.readOnly(true);
-        cmdOk.caption("Ok");
-        cmdOk.isDefault(true);
-        cmdOk.Click = [this] { unload(); };
-    }
-    Label heading{*this, "Label1"};
-    RichTextBox rtbClientNotes{*this, "rtbClientNotes"};
-    CommandButton cmdOk{*this, "cmdOk"};
-};
-
 struct TestCommentWindowTest : QtDialogTest {
-    TestCommentForm form;
+    frmTestComment form;
+    const std::string text = streamAround("Dear {\\b Ann Example},\\par\\par Your meeting is on {\\ul March 31} at "
+                                          "{\\i 9:30 am}.\\par Caf\\'e9");
 };
 
-TEST_F(TestCommentWindowTest, ShowsTheTextAndIsClosedByEnter)
+TEST_F(TestCommentWindowTest, ShowsTheTextAndIsClosedByTheMouse)
 {
-    form.rtbClientNotes.textRTF(streamAround("Dear {\\b Ann Example},\\par\\par Your meeting is on "
-                                             "{\\ul March 31} at {\\i 9:30 am}.\\par Caf\\'e9"));
     whenShown("frmTestComment", [&](host::FormWindow& window) {
         picture(window, "frmTestComment");
-        auto& text = widget<host::RichTextEdit>(window, "rtbClientNotes");
-        QTest::keyClicks(&text, "typed");
+        auto& shown = widget<host::RichTextEdit>(window, "rtbClientNotes");
+        QTest::keyClicks(&shown, "typed");
         EXPECT_EQ(form.rtbClientNotes.text(), "Dear Ann Example,\n\nYour meeting is on March 31 at 9:30 am.\nCafé");
         click(window, "cmdOk");
         EXPECT_FALSE(window.isVisible());
     });
-    form.showModal();
+    form.Initialize(text);
+}
+
+TEST_F(TestCommentWindowTest, EnterAndEscapeCloseIt)
+{
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Escape}) {
+        whenShown("frmTestComment", [&](host::FormWindow& window) {
+            QTest::keyClick(window.focusWidget(), key);
+            EXPECT_FALSE(window.isVisible());
+        });
+        form.Initialize(text);
+    }
 }
 
 /// A form of every kind of control and no window class.
@@ -229,6 +226,7 @@ TEST_F(PlainWindowTest, ShowsEveryControlOfAFormWithoutAWindowClass)
     EverythingForm form;
     form.date.value(today());
     whenShown("frmEverything", [&](host::FormWindow& window) {
+        window.resize(window.width(), 960);
         picture(window, "plain");
         for (const Control* control : form.controls())
             EXPECT_TRUE(window.findChild<QObject*>(QString::fromStdString(control->path()))) << control->path();

@@ -1,4 +1,6 @@
-#include "host/store/composedStatements.h"
+#include "host/store/statementRows.h"
+
+#include <utility>
 
 namespace qncal::host {
 
@@ -12,7 +14,7 @@ std::string replaced(std::string text, const std::string& from, const std::strin
 }
 
 /// Statements of every kind of item; {T} is the table and {id} its key.
-std::vector<Statement> itemStatements()
+std::vector<Statement> statementsOfKinds()
 {
     const std::string overlap =
         "SELECT {T}.{id}, {T}.UserIDNum, {T}.DateFrom, {T}.TimeFrom, {T}.TimeTo From {T} WHERE (({T}.UserIDNum=7) AND "
@@ -226,17 +228,6 @@ std::vector<Statement> otherStatements()
          "UserIDNum",
          {},
          "a user without settings"},
-        {"customFields",
-         "SELECT CustomFields.ApptCustomName1, CustomFields.CustomName1 FROM CustomFields;",
-         "ApptCustomName1",
-         {"Room:"},
-         "labels of custom fields"},
-        {"statusNames",
-         "SELECT CustomFields.ApptStatusName1, CustomFields.ApptStatusName2, CustomFields.ApptStatusName3, "
-         "CustomFields.ApptStatusName4, CustomFields.ApptStatusName5 FROM CustomFields;",
-         "ApptStatusName1",
-         {""},
-         "labels of the status boxes"},
         {"general", "SELECT GlobalGeneralSettings.* FROM GlobalGeneralSettings;", "", {}, "settings of the firm"},
         {"outlook", "SELECT OutlookSync.* From OutlookSync;", "AppointmentNum", {"2"}, "links to another calendar"},
         {"searchAll",
@@ -278,105 +269,99 @@ std::vector<Statement> otherStatements()
          "Subject",
          {"Beta"},
          "start and end time"},
-        {"companyAliases",
-         "SELECT Companies.*, Companies.Custom1 AS CompanyCustom1, Companies.Custom2 AS CompanyCustom2, "
-         "Companies.Custom3 AS CompanyCustom3, Companies.Custom4 AS CompanyCustom4, Companies.Custom5 AS "
-         "CompanyCustom5 From Companies WHERE Companies.CompanyID=1;",
-         "CompanyCustom1",
-         {"first"},
-         "a column under a second name"},
-        {"companyNotes",
-         "SELECT CompaniesNotes.* From CompaniesNotes WHERE CompaniesNotes.CompanyNum=1;",
-         "ContactNotes",
-         {"cn"},
-         "notes of a company"},
-        {"contactNotes",
-         "SELECT ContactsNotes.ContactNum, ContactsNotes.Notes FROM ContactsNotes WHERE ContactNum=1;",
-         "Notes",
-         {"n"},
-         "notes of a contact"},
-        {"software",
-         "SELECT SoftwareInfo.* From SoftwareInfo WHERE SoftwareInfo.DefaultSoftware=True AND "
-         "SoftwareInfo.CompanyIDNum=1;",
-         "CompanyIDNum",
+        {"archiveScheduleOfTask",
+         "SELECT archiveTasks.oldTaskID, archiveTasks.ScheduleIDNum FROM archiveTasks WHERE oldTaskID=90;",
+         "ScheduleIDNum",
+         {"9"},
+         "the schedule entry of an archived task"},
+        {"appointmentContact",
+         "SELECT Appointments.AppointmentID, Appointments.ContactIDNum FROM Appointments WHERE AppointmentID=2;",
+         "ContactIDNum",
          {"1"},
-         "the bare word True"},
-        {"scheduleAndTask",
-         "SELECT Schedule.*, Tasks.*, Schedule.Custom1 AS ScheduleCustom1, Tasks.Custom1 AS TaskCustom1 FROM Schedule "
-         "INNER JOIN Tasks ON Schedule.ScheduleID = Tasks.ScheduleIDNum WHERE Tasks.TaskID=1;",
-         "Subject",
-         {"Alpha"},
-         "a task with its schedule entry"},
-        {"linkedContacts",
-         "SELECT Contacts.ContactID, Contacts.BusinessEmail, Contacts.PersonalEmail, ContactLinks.ContactIDNum, "
-         "ContactLinks.CompanyNum, ContactLinks.DefaultContact FROM Contacts INNER JOIN ContactLinks ON "
-         "Contacts.ContactID = ContactLinks.ContactIDNum WHERE ContactLinks.CompanyNum = 1;",
-         "BusinessEmail",
-         {"ann@example.test"},
-         "the contacts of a company"},
-        {"linkedCompanies",
-         "SELECT ContactLinks.CompanyNum, Companies.CompanyName FROM ContactLinks INNER JOIN Companies ON "
-         "ContactLinks.CompanyNum = Companies.CompanyID WHERE ContactLinks.ContactNum = 1;",
-         "CompanyName",
-         {"North Ltd"},
-         "the companies of a contact"},
-        {"links",
-         "SELECT ContactLinks.ContactIDNum, ContactLinks.CompanyNum, ContactLinks.DefaultContact FROM ContactLinks "
-         "WHERE CompanyNum=1 AND ContactLinks.ContactIDNum = 1;",
-         "DefaultContact",
+         "the client of an appointment"},
+        {"logContact",
+         "SELECT CommunicationLog.CommunicationLogID, CommunicationLog.ContactIDNum FROM CommunicationLog WHERE "
+         "CommunicationLogID=1;",
+         "CommunicationLogID",
+         {"1"},
+         "the client of a log entry"},
+        {"missingCompany",
+         "SELECT MissingInfo.MissingInfoID, MissingInfo.CompanyIDNum FROM MissingInfo WHERE MissingInfoID=1;",
+         "MissingInfoID",
+         {"1"},
+         "the client of missing information"},
+        {"cancelPopupsOfAppointment",
+         "SELECT Reminders.AppointmentIDNum, Reminders.Completed FROM Reminders WHERE AppointmentIDNum = 1;",
+         "Completed",
+         {"False"},
+         "cancelling reminders"},
+        {"reminderOfTask",
+         "SELECT Reminders.ReminderID, Reminders.UserIDNum, Reminders.TaskIDNum, Reminders.ReminderType FROM "
+         "Reminders WHERE UserIDNum = 7 AND TaskIDNum = 1 AND ReminderType = 5;",
+         "ReminderID",
+         {"2"},
+         "an existing reminder"},
+        {"reminderToDelete",
+         "SELECT Reminders.* FROM Reminders WHERE UserIDNum = 7 AND AppointmentIDNum = 1 AND ReminderType = 3;",
+         "ReminderID",
+         {"1"},
+         "deleting a reminder"},
+        {"reminderStatusOfTask",
+         "SELECT Reminders.TaskIDNum, Reminders.UserIDNum, Reminders.Completed, Reminders.ReminderDate, "
+         "Reminders.ReminderTime From Reminders WHERE Reminders.UserIDNum = 7 AND Reminders.TaskIDNum = 1",
+         "Completed",
          {"True"},
-         "one link"},
-        {"category",
-         "SELECT Categories.CategoryID, Categories.CategoryNum FROM Categories WHERE CategoryID = 1;",
-         "CategoryNum",
-         {"3"},
-         "a category"},
-        {"taxYear",
-         "SELECT PersonalTaxDataImportInfo.* FROM PersonalTaxDataImportInfo WHERE TaxYear = 2025",
-         "TaxYear",
-         {"2025"},
-         "a tax year"},
-        {"taxSummary",
-         "SELECT PersonalTaxClientSummary.ContactNum, PersonalTaxClientSummary.TaxYear, "
-         "PersonalTaxClientSummary.PersonalTaxNotes FROM PersonalTaxClientSummary WHERE ContactNum = 1 AND TaxYear = "
-         "2025;",
-         "TaxYear",
-         {"2025"},
-         "a tax summary"},
-        {"business",
-         "SELECT Clients.ClientID, ClientData.*, Companies.*, CompaniesNotes.BusinessNotes, "
-         "CompaniesNotes.ContactNotes FROM ((Clients INNER JOIN ClientData ON Clients.CompanyIDNum = "
-         "ClientData.CompanyIDNum) INNER JOIN Companies ON ClientData.CompanyIDNum = Companies.CompanyID) INNER JOIN "
-         "CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum WHERE ClientData.ShowThisClient = True AND "
-         "ClientData.ActiveStatus=1 AND ClientData.ClientDataID=1 ORDER BY Companies.ClientID, Companies.CompanyName;",
-         "CompanyName",
-         {"North Ltd"},
-         "joins in nested parentheses"},
-        {"businessInner",
-         "SELECT Companies.CompanyName FROM Clients INNER JOIN (ClientData INNER JOIN (Companies LEFT JOIN "
-         "CompaniesNotes ON Companies.CompanyID = CompaniesNotes.CompanyNum) ON ClientData.CompanyIDNum = "
-         "Companies.CompanyID) ON Clients.CompanyIDNum = Companies.CompanyID WHERE NOT ClientData.ActiveStatus=1 ORDER "
-         "BY Companies.CompanyName;",
-         "CompanyName",
+         "the reminder of a task"},
+        {"notificationOfTask",
+         "SELECT ClientNotification.TaskNum, ClientNotification.NotificationSent FROM ClientNotification WHERE TaskNum "
+         "= 1;",
+         "TaskNum",
          {},
-         "parentheses on the right, and NOT before a comparison"},
-        {"linkedToNothing",
-         "SELECT Companies.CompanyName, SoftwareInfo.ContactIDNum FROM Companies LEFT JOIN SoftwareInfo ON "
-         "Companies.CompanyID = SoftwareInfo.ContactIDNum;",
-         "CompanyName",
-         {"North Ltd"},
-         "a left join keeps what has no match"},
+         "cancelling notifications"},
+        {"notificationOfTimeEntry",
+         "SELECT ClientNotification.DocketNum, ClientNotification.NotificationSent FROM ClientNotification WHERE "
+         "DocketNum = 1;",
+         "DocketNum",
+         {},
+         "cancelling notifications"},
+        {"allSchemes", "SELECT ColourSchemes.* FROM ColourSchemes;", "SchemeName", {"zebra", "Amber"}, "in key order"},
+        {"schemeColours",
+         "SELECT ColourSchemes.* FROM ColourSchemes WHERE ColourSchemeID=1;",
+         "SchemeName",
+         {"zebra"},
+         "the colours of a scheme"},
+        {"schemesToChoose",
+         "SELECT ColourSchemes.ColourSchemeID, ColourSchemes.SchemeName, ColourSchemes.SchemeType FROM ColourSchemes "
+         "WHERE ColourSchemes.SchemeType = 0 ORDER BY ColourSchemes.SchemeName;",
+         "ColourSchemeID",
+         {"2", "1"},
+         "a pick list of schemes"},
+        {"firmTemplates",
+         "SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum=-1;",
+         "UserIDNum",
+         {"-1"},
+         "a negative number without blanks"},
+        {"userSettings",
+         "SELECT UserCalendarSettings.* FROM UserCalendarSettings WHERE UserIDNum = 7;",
+         "UserIDNum",
+         {},
+         "a user without settings"},
+        {"conflict",
+         "SELECT Appointments.* FROM Appointments WHERE AppointmentID=2",
+         "Subject",
+         {"Beta"},
+         "a row of the list of conflicts"},
     };
 }
 
 } // namespace
 
-std::vector<Statement> composedStatements()
+std::vector<Statement> itemStatements()
 {
     std::vector<Statement> all = otherStatements();
     for (const auto& [table, key] :
          {std::pair{"Appointments", "AppointmentID"}, {"Tasks", "TaskID"}, {"Dockets", "DocketID"}})
-        for (Statement row : itemStatements()) {
+        for (Statement row : statementsOfKinds()) {
             row.name = table + row.name;
             for (std::string* text : {&row.sql, &row.field})
                 *text = replaced(replaced(*text, "{T}", table), "{id}", key);
