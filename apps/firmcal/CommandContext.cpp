@@ -69,6 +69,12 @@ host::SqliteDatabase& CommandContext::database()
     return *database_;
 }
 
+std::shared_ptr<host::SqliteDatabase> CommandContext::sharedDatabase()
+{
+    host();
+    return database_;
+}
+
 host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase> database)
 {
     database_ = std::move(database);

@@ -46,6 +46,8 @@ public:
     /// The host over the database of `--database`. Throws `Failure` without that option.
     host::HostEnvironment& host();
     host::SqliteDatabase& database();
+    /// For what keeps the database along with the host.
+    std::shared_ptr<host::SqliteDatabase> sharedDatabase();
     /// The host over a database that the command itself has created or opened.
     host::HostEnvironment& host(std::shared_ptr<host::SqliteDatabase> database);
 

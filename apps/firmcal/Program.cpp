@@ -18,9 +18,10 @@ constexpr int wrongUsage = 2;
 
 using AddCommands = void (*)(CLI::App&, CommandContext&);
 constexpr AddCommands commandGroups[] = {
-    addInitCommand,      addDemoCommand,     addItemCommands, addAgendaCommand,
-    addTemplateCommands, addHolidayCommands, addDayCommands,  addCalendarFileCommands,
-    addClientCommands,   addUserCommands,    addSqlCommand,   addDoctorCommand,
+    addInitCommand,     addDemoCommand,   addItemCommands,         addAgendaCommand,  addTemplateCommands,
+    addHolidayCommands, addDayCommands,   addCalendarFileCommands, addClientCommands, addUserCommands,
+    addSqlCommand,      addDoctorCommand, addRemindCommand,        addNotifyCommand,  addSchemeCommands,
+    addFieldsCommands,  addDialogCommand,
 };
 
 void addGlobalOptions(CLI::App& program, GlobalOptions& options)

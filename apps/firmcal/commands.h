@@ -20,5 +20,10 @@ void addUserCommands(CLI::App& program, CommandContext& context);
 void addCalendarFileCommands(CLI::App& program, CommandContext& context);
 void addSqlCommand(CLI::App& program, CommandContext& context);
 void addDoctorCommand(CLI::App& program, CommandContext& context);
+void addRemindCommand(CLI::App& program, CommandContext& context);
+void addNotifyCommand(CLI::App& program, CommandContext& context);
+void addSchemeCommands(CLI::App& program, CommandContext& context);
+void addFieldsCommands(CLI::App& program, CommandContext& context);
+void addDialogCommand(CLI::App& program, CommandContext& context);
 
 } // namespace qncal::firmcal

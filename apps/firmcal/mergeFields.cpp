@@ -109,7 +109,7 @@ std::vector<MergeFieldGroup> mergeFieldGroups(const MergeFieldList& list)
     std::span<const FieldListRow> rows = engine->FieldList()->rows();
     for (MergeFieldGroup& group : groups) {
         for (MergeField& field : group.fields) {
-            const FieldListRow row = rows.front();
+            const FieldListRow& row = rows.front();
             rows = rows.subspan(1);
             field = {.name = row.displayName.str(),
                      .expression = engine->parseListItem(row.key, true),

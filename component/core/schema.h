@@ -31,10 +31,11 @@ struct Column {
     std::string_view defaultValue = {};
 };
 
-/// A secondary index over one column, or over two in their order.
+/// A secondary index over one column, or over two or three in their order.
 struct Index {
     std::string_view first;
     std::string_view second = {};
+    std::string_view third = {};
 };
 
 struct Table {
@@ -46,7 +47,7 @@ struct Table {
 };
 
 /// Raised by one whenever a table, a column or an index is added.
-inline constexpr std::int32_t version = 1;
+inline constexpr std::int32_t version = 2;
 
 /// In the order of their documentation; each table has exactly one key column, its first.
 std::span<const Table> tables();

@@ -1,7 +1,7 @@
 #include "services/HostEnvironment.h"
 
 #include "core/HostReferences.h"
-#include "services/NotificationRows.h"
+#include "services/NotificationLedger.h"
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 #include "utilities/RunTimeError.h"
@@ -29,7 +29,7 @@ HostServices completed(HostServices services)
     if (!services.clients)
         services.clients = std::make_shared<ClientDropDown>(services.database);
     if (!services.notifications)
-        services.notifications = std::make_shared<NotificationRows>(services.database);
+        services.notifications = std::make_shared<NotificationLedger>(services.database);
     return services;
 }
 

@@ -48,9 +48,11 @@ std::string createIndexText(const schema::Table& table, const schema::Index& ind
 {
     std::string name = std::string(table.name) + "_" + std::string(index.first);
     std::string columns = quotedName(index.first);
-    if (!index.second.empty()) {
-        name += "_" + std::string(index.second);
-        columns += ", " + quotedName(index.second);
+    for (const std::string_view next : {index.second, index.third}) {
+        if (next.empty())
+            continue;
+        name += "_" + std::string(next);
+        columns += ", " + quotedName(next);
     }
     return "CREATE INDEX IF NOT EXISTS " + quotedName(name) + " ON " + quotedName(table.name) + " (" + columns + ")";
 }

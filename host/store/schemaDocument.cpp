@@ -40,7 +40,10 @@ std::string quoted(std::string_view name) { return '`' + std::string(name) + '`'
 
 std::string indexText(const schema::Index& index)
 {
-    return index.second.empty() ? quoted(index.first) : quoted(index.first) + " with " + quoted(index.second);
+    std::string text = quoted(index.first);
+    for (const std::string_view next : {index.second, index.third})
+        text += next.empty() ? std::string() : " with " + quoted(next);
+    return text;
 }
 
 std::string tableText(const schema::Table& table)

@@ -119,8 +119,12 @@ inline constexpr auto remindersColumns = columns({
     {"ReminderTime", time},
     {"TextBody", memo},
     {"Completed", boolean},
+    // The day and time for which the reminder was shown: when the row has moved since, it is shown again.
+    {"ShownFor", date},
 });
-inline constexpr Index remindersIndexes[] = {{"AppointmentIDNum"}, {"TaskIDNum"}, {"ReminderDate"}};
+/// A record's reminders; those that are due.
+inline constexpr Index remindersIndexes[] = {
+    {"AppointmentIDNum"}, {"TaskIDNum"}, {"Completed", "ReminderDate", "ReminderTime"}};
 
 inline constexpr auto clientNotificationColumns = columns({
     {"ClientNotificationID", key},
@@ -131,8 +135,25 @@ inline constexpr auto clientNotificationColumns = columns({
     {"NotificationType", integer},
     {"NotificationDate", date},
     {"NotificationSent", boolean},
+    // From here on what delivery keeps: the client that the row is for,
+    {"CompanyIDNum", id},
+    {"ContactIDNum", id},
+    // 0 waiting, 1 being sent, 2 sent, 3 too late, 4 of unknown outcome, 5 cancelled,
+    {"DeliveryState", integer, "0"},
+    // the address or number that was used last,
+    {"Recipient", text},
+    {"Attempts", integer, "0"},
+    {"AttemptDate", date},
+    // not before this moment is it tried again,
+    {"NextAttemptDate", date},
+    {"LastError", memo},
+    {"SentDate", date},
+    // the same at every attempt, so that a message that does come twice is known for one.
+    {"MessageID", text},
 });
-inline constexpr Index clientNotificationIndexes[] = {{"AppointmentNum"}, {"TaskNum"}, {"DocketNum"}};
+/// An item's notifications; those of a state by their day.
+inline constexpr Index clientNotificationIndexes[] = {
+    {"AppointmentNum"}, {"TaskNum"}, {"DocketNum"}, {"DeliveryState", "NotificationDate"}};
 
 inline constexpr auto communicationLogColumns = columns({
     {"CommunicationLogID", key},

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <set>
 #include <sstream>
@@ -70,16 +71,17 @@ TEST_P(SchemaTableTest, HasDefaultsOfTheColumnsType)
 
 TEST_P(SchemaTableTest, IndexesItsOwnColumnsOnce)
 {
-    std::set<std::pair<std::string_view, std::string_view>> seen;
+    std::set<std::array<std::string_view, 3>> seen;
     for (const Index& index : GetParam().indexes) {
         const Column* first = findColumn(GetParam(), index.first);
         ASSERT_NE(first, nullptr) << index.first;
         EXPECT_NE(first->type, key) << index.first;
         EXPECT_NE(first->type, memo) << index.first;
-        if (!index.second.empty()) {
-            EXPECT_NE(findColumn(GetParam(), index.second), nullptr) << index.second;
+        for (const std::string_view next : {index.second, index.third}) {
+            if (!next.empty())
+                EXPECT_NE(findColumn(GetParam(), next), nullptr) << next;
         }
-        EXPECT_TRUE(seen.emplace(index.first, index.second).second) << index.first;
+        EXPECT_TRUE(seen.insert({index.first, index.second, index.third}).second) << index.first;
     }
 }
 

@@ -3,7 +3,7 @@
 #include "headless/HeadlessDialogHost.h"
 #include "host/store/OtherProgram.h"
 #include "services/HostEnvironment.h"
-#include "services/NotificationRows.h"
+#include "services/NotificationLedger.h"
 #include "services/Rows.h"
 
 #include <gtest/gtest.h>
@@ -70,7 +70,7 @@ TEST_F(TurnActionTest, ARowThatCannotBeWrittenIsToldByItsClose)
 
 TEST_F(TurnActionTest, ANotificationThatCannotBeWrittenIsAnError)
 {
-    NotificationRows notifications(database_);
+    NotificationLedger notifications(database_);
     const auto id = notifications.createEmailNotification(0, 12, Date::of(2026, 3, 2), -1, -1, -1);
     other_.lock();
     EXPECT_THROW(notifications.setEmailNotificationDate(0, 0, id, Date::of(2026, 3, 3), -1), RunTimeError);

@@ -1,4 +1,4 @@
-#include "services/NotificationRows.h"
+#include "services/NotificationLedger.h"
 
 #include "host/services/HostTest.h"
 #include "utilities/RunTimeError.h"
@@ -11,7 +11,7 @@ constexpr std::int16_t task = 1;
 constexpr std::int16_t docket = 2;
 const Date monday = Date::of(2026, 3, 2);
 
-class NotificationRowsTest : public test::HostTest {
+class NotificationLedgerTest : public test::HostTest {
 protected:
     Rows row(std::int32_t id)
     {
@@ -19,11 +19,11 @@ protected:
                                          + std::to_string(id) + ";");
     }
 
-    NotificationRows rows{database};
+    NotificationLedger rows{database};
     AutoNotifyService& service = rows;
 };
 
-TEST_F(NotificationRowsTest, CreatesARowForTheItemAndTheChannel)
+TEST_F(NotificationLedgerTest, CreatesARowForTheItemAndTheChannel)
 {
     const std::int32_t id = service.createPhoneNotification(task, 12, monday, -1, -1, -1);
     const Rows created = row(id);
@@ -34,7 +34,7 @@ TEST_F(NotificationRowsTest, CreatesARowForTheItemAndTheChannel)
     EXPECT_FALSE(created.boolean("NotificationSent"));
 }
 
-TEST_F(NotificationRowsTest, FindsByKindItemAndChannel)
+TEST_F(NotificationLedgerTest, FindsByKindItemAndChannel)
 {
     const std::int32_t email = service.createEmailNotification(appointment, 12, monday, -1, -1, -1);
     const std::int32_t fax = service.createFaxNotification(appointment, 12, monday, -1, -1, -1);
@@ -48,7 +48,7 @@ TEST_F(NotificationRowsTest, FindsByKindItemAndChannel)
     EXPECT_LT(service.getNotificationID(task, 12, AutoNotifyService::email), 0);
 }
 
-TEST_F(NotificationRowsTest, MovesTheDateOfEachChannel)
+TEST_F(NotificationLedgerTest, MovesTheDateOfEachChannel)
 {
     const std::int32_t id = service.createLetterNotification(docket, 3, monday, -1, -1, -1);
     const Date other = Date::of(2026, 4, 1);
@@ -62,21 +62,73 @@ TEST_F(NotificationRowsTest, MovesTheDateOfEachChannel)
     EXPECT_EQ(row(id).field("NotificationDate"), Variant(monday));
 }
 
-TEST_F(NotificationRowsTest, LinksARowToAnotherItem)
+TEST_F(NotificationLedgerTest, LinksARowToAnotherItem)
 {
     const std::int32_t id = service.createEmailNotification(appointment, 12, monday, -1, -1, -1);
     service.linkNotification(appointment, id, 40);
     EXPECT_EQ(row(id).integer("AppointmentNum"), 40);
 }
 
-TEST_F(NotificationRowsTest, DeletesARow)
+TEST_F(NotificationLedgerTest, DeletesARow)
 {
     const std::int32_t id = service.createEmailNotification(appointment, 12, monday, -1, -1, -1);
     service.deleteNotification(id);
     EXPECT_TRUE(row(id).isEmpty());
 }
 
-TEST_F(NotificationRowsTest, AnIdWithoutARowChangesNothing)
+TEST_F(NotificationLedgerTest, KeepsWhatWasSent)
+{
+    const std::int32_t id = service.createEmailNotification(appointment, 12, monday, -1, -1, -1);
+    Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification;").set("NotificationSent", "True");
+    service.deleteNotification(id);
+    EXPECT_FALSE(row(id).isEmpty());
+}
+
+class LedgerClientTest : public NotificationLedgerTest {
+protected:
+    void SetUp() override
+    {
+        item = addRow(*database, "Appointments", {{"ContactIDNum", "5"}});
+        id = service.createEmailNotification(appointment, item, monday, -1, -1, -1);
+    }
+    void giveItemTo(std::int32_t contact)
+    {
+        Rows::change(*database, "SELECT Appointments.* FROM Appointments;")
+            .set("ContactIDNum", std::to_string(contact));
+    }
+    std::int32_t found() { return service.getNotificationID(appointment, item, AutoNotifyService::email); }
+
+    std::int32_t item = -1;
+    std::int32_t id = -1;
+};
+
+TEST_F(LedgerClientTest, NotesTheItemsClient)
+{
+    EXPECT_EQ(row(id).integer("ContactIDNum"), 5);
+    EXPECT_LT(row(id).integer("CompanyIDNum"), 0);
+}
+
+TEST_F(LedgerClientTest, ARowThatIsNotSentFollowsTheItemToItsNewClient)
+{
+    giveItemTo(6);
+    EXPECT_EQ(found(), id);
+    service.linkNotification(appointment, id, item);
+    EXPECT_EQ(row(id).integer("ContactIDNum"), 6);
+}
+
+TEST_F(LedgerClientTest, AfterItWasSentANewClientGetsARowOfHisOwn)
+{
+    Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification;").set("NotificationSent", "True");
+    EXPECT_EQ(found(), id);
+    giveItemTo(6);
+    EXPECT_LT(found(), 0);
+    const std::int32_t second = service.createEmailNotification(appointment, item, monday, -1, -1, -1);
+    EXPECT_EQ(found(), second);
+    service.linkNotification(appointment, id, item);
+    EXPECT_EQ(row(id).integer("ContactIDNum"), 5) << "who got it stays on record";
+}
+
+TEST_F(NotificationLedgerTest, AnIdWithoutARowChangesNothing)
 {
     service.deleteNotification(99);
     service.linkNotification(appointment, 99, 1);
@@ -84,12 +136,12 @@ TEST_F(NotificationRowsTest, AnIdWithoutARowChangesNothing)
     EXPECT_TRUE(Rows::read(*database, "SELECT ClientNotification.* FROM ClientNotification;").isEmpty());
 }
 
-TEST_F(NotificationRowsTest, AnUnknownKindIsAnError)
+TEST_F(NotificationLedgerTest, AnUnknownKindIsAnError)
 {
     EXPECT_THROW(service.createEmailNotification(3, 12, monday, -1, -1, -1), RunTimeError);
 }
 
-TEST_F(NotificationRowsTest, TellsThatAKindIsToBeShownAnew)
+TEST_F(NotificationLedgerTest, TellsThatAKindIsToBeShownAnew)
 {
     std::vector<std::int16_t> refreshed;
     rows.refreshed.subscribe([&](std::int16_t kind) { refreshed.push_back(kind); });

@@ -9,12 +9,14 @@
 
 namespace qncal::host {
 
-/// Keeps the clients' notifications as rows of `ClientNotification`: the item by kind, the channel, the date and
-/// whether it was sent. Delivery is the business of whoever reads the rows and sets `NotificationSent`.
-/// An id without a row changes nothing.
-class NotificationRows : public AutoNotifyService {
+/// Keeps the clients' notifications as rows of `ClientNotification`: one for each item, channel and client, with
+/// its date and what delivery made of it (see `NotificationDelivery`). An id without a row changes nothing.
+///
+/// A row that was sent, or may have been, is the proof of it and stays: `deleteNotification` leaves it, moving its
+/// date does not send it again, and an item that passes to another client gets a new row. Rows leave with their item.
+class NotificationLedger : public AutoNotifyService {
 public:
-    explicit NotificationRows(std::shared_ptr<DatabaseService> database) : database_(std::move(database)) {}
+    explicit NotificationLedger(std::shared_ptr<DatabaseService> database) : database_(std::move(database)) {}
 
     /// Raised with the item's kind when the notifications of that kind are to be shown anew.
     Event<std::int16_t> refreshed;
@@ -43,7 +45,7 @@ public:
 
 private:
     std::int32_t create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date);
-    void set(std::int32_t notificationID, std::string_view field, const std::string& value);
+    void setDate(std::int32_t notificationID, Date date);
 
     std::shared_ptr<DatabaseService> database_;
 };

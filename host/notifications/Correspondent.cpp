@@ -1,0 +1,124 @@
+#include "notifications/Correspondent.h"
+
+#include "services/Rows.h"
+#include "utilities/text.h"
+
+#include <initializer_list>
+
+namespace qncal::host {
+
+namespace {
+
+/// The first of the columns that holds something.
+std::string firstText(const Rows& row, std::initializer_list<std::string_view> columns)
+{
+    for (const std::string_view column : columns) {
+        std::string text(trimmed(row.text(column)));
+        if (!text.empty())
+            return text;
+    }
+    return {};
+}
+
+void appendLine(std::vector<std::string>& lines, const std::string& line)
+{
+    if (!line.empty())
+        lines.push_back(line);
+}
+
+/// `prefix` is that of the address columns: "Business", "Home", or nothing for a company.
+std::vector<std::string> addressOf(const Rows& row, const std::string& prefix)
+{
+    std::vector<std::string> lines;
+    for (const char* line : {"Address1", "Address2", "Address3"})
+        appendLine(lines, firstText(row, {prefix + line}));
+    if (lines.empty())
+        appendLine(lines, firstText(row, {prefix + "Address"}));
+    std::string town = firstText(row, {prefix + "City"});
+    for (const char* part : {"Province", "PostalCode"}) {
+        const std::string text = firstText(row, {prefix + part});
+        town += (town.empty() || text.empty() ? "" : " ") + text;
+    }
+    appendLine(lines, town);
+    appendLine(lines, firstText(row, {prefix + "Country"}));
+    return lines;
+}
+
+Correspondent contactIn(const Rows& row)
+{
+    Correspondent contact;
+    contact.name = firstText(row, {"DisplayName"});
+    contact.person = contact.name;
+    contact.email = firstText(row, {"BusinessEmail", "PersonalEmail"});
+    contact.fax = firstText(row, {"BusinessPhone_Fax", "HomePhone_Fax"});
+    contact.phone = firstText(row, {"BusinessPhone_Main", "HomePhone_Main"});
+    contact.address = addressOf(row, "Business");
+    if (contact.address.empty())
+        contact.address = addressOf(row, "Home");
+    return contact;
+}
+
+Correspondent companyIn(const Rows& row)
+{
+    Correspondent company;
+    company.name = firstText(row, {"CompanyName"});
+    company.email = firstText(row, {"Email"});
+    company.fax = firstText(row, {"FaxNumber"});
+    company.phone = firstText(row, {"OfficeNumber"});
+    company.address = addressOf(row, {});
+    return company;
+}
+
+Correspondent readContact(DatabaseService& database, std::int32_t id)
+{
+    const Rows row =
+        Rows::read(database, "SELECT Contacts.* FROM Contacts WHERE ContactID=" + std::to_string(id) + ";");
+    return row.isEmpty() ? Correspondent() : contactIn(row);
+}
+
+/// -1 for none.
+std::int32_t defaultContactOf(DatabaseService& database, std::int32_t companyID)
+{
+    const Rows row = Rows::read(database, "SELECT ContactLinks.ContactIDNum FROM ContactLinks WHERE CompanyNum="
+                                              + std::to_string(companyID) + " AND DefaultContact = True;");
+    return row.isEmpty() ? -1 : row.integer("ContactIDNum");
+}
+
+void prefer(const std::string& better, std::string& text)
+{
+    if (!better.empty())
+        text = better;
+}
+
+} // namespace
+
+Correspondent readClient(DatabaseService& database, const ItemClient& client)
+{
+    if (client.companyID < 0)
+        return client.contactID < 0 ? Correspondent() : readContact(database, client.contactID);
+    Correspondent company;
+    {
+        const Rows row = Rows::read(
+            database, "SELECT Companies.* FROM Companies WHERE CompanyID=" + std::to_string(client.companyID) + ";");
+        if (row.isEmpty())
+            return company;
+        company = companyIn(row);
+    }
+    const std::int32_t contactID = defaultContactOf(database, client.companyID);
+    if (contactID < 0)
+        return company;
+    const Correspondent contact = readContact(database, contactID);
+    company.person = contact.name;
+    prefer(contact.email, company.email);
+    prefer(contact.fax, company.fax);
+    prefer(contact.phone, company.phone);
+    return company;
+}
+
+Correspondent readFirm(DatabaseService& database)
+{
+    const Rows row = Rows::read(database, "SELECT AccountantFirmInfo.* FROM AccountantFirmInfo;");
+    return row.isEmpty() ? Correspondent() : companyIn(row);
+}
+
+} // namespace qncal::host

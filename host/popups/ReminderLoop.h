@@ -1,0 +1,59 @@
+#pragma once
+
+#include "core/DatabaseService.h"
+#include "popups/ReminderDisplay.h"
+
+#include <map>
+#include <memory>
+#include <optional>
+
+namespace qncal::host {
+
+/// Brings popup reminders to the user: each sweep shows the rows of `Reminders` that have come due since the last
+/// and marks them completed. A host sweeps at each tick of a timer, once a minute or more often.
+///
+/// A sweep reads the due rows alone, however many there are besides. A reminder that was moved to a later moment
+/// after it was shown comes again. Failures of the database are thrown as `RunTimeError`; what was not marked
+/// comes again. Without a connection nothing happens.
+class ReminderLoop {
+public:
+    /// A reminder that is shown later than this belongs to the digest of the missed ones.
+    static constexpr int missedAfterMinutes = 5;
+
+    /// The display must outlive the loop. Without a user the reminders of all users are shown.
+    ReminderLoop(std::shared_ptr<DatabaseService> database, ReminderDisplay& display,
+                 std::optional<std::int32_t> userID = std::nullopt);
+
+    /// How many reminders were shown.
+    std::size_t sweep();
+
+    /// What became of an answer to a reminder.
+    enum class Outcome : std::uint8_t {
+        done,
+        deleted, ///< there is no such reminder any more: its item was deleted while it was on the screen
+    };
+    /// Shows the reminder again so many minutes from now. Throws `RunTimeError` 5 below one minute.
+    Outcome snooze(std::int32_t reminderID, int minutes);
+    /// Done with it. A reminder that is not due yet will not come.
+    Outcome dismiss(std::int32_t reminderID);
+
+private:
+    std::vector<Reminder> dueAt(Date moment) const;
+    void readDue(const std::string& condition, std::vector<Reminder>& due) const;
+    std::string ofUser() const;
+    bool isStillDue(const Reminder& reminder) const;
+    /// Marks what was shown; a reminder that has been moved or deleted meanwhile is left alone.
+    void complete(const Reminder& reminder);
+    void rearmMoved(Date moment);
+    void withdrawDeleted();
+    template <class Show>
+    void present(const std::vector<Reminder>& reminders, Show show);
+
+    std::shared_ptr<DatabaseService> database_;
+    ReminderDisplay& display_;
+    std::optional<std::int32_t> userID_;
+    /// The moments for which the reminders on the screen came.
+    std::map<std::int32_t, Date> onScreen_;
+};
+
+} // namespace qncal::host

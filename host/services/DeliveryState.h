@@ -1,0 +1,34 @@
+#pragma once
+
+#include <cstdint>
+
+namespace qncal::host {
+
+/// What became of a notification: the numbers of the column `DeliveryState`.
+enum class DeliveryState : std::int32_t {
+    waiting = 0,
+    sending = 1,   ///< an attempt has begun; when nobody ends it, its outcome is unknown
+    sent = 2,      ///< or written, or called, as the channel has it
+    tooLate = 3,   ///< the item had begun before the client could be told
+    unknown = 4,   ///< the message may have been sent: somebody has to look
+    cancelled = 5, ///< the item is gone
+};
+
+/// A channel of `AutoNotifyService`: "email", "fax", "phone", "letter"; empty for any other number.
+constexpr const char* channelName(std::int32_t channel)
+{
+    switch (channel) {
+    case 1:
+        return "email";
+    case 2:
+        return "fax";
+    case 4:
+        return "phone";
+    case 8:
+        return "letter";
+    default:
+        return "";
+    }
+}
+
+} // namespace qncal::host

@@ -1,0 +1,402 @@
+#include "notifications/NotificationDelivery.h"
+
+#include "core/AutoNotifyService.h"
+#include "host/services/HostTest.h"
+#include "host/store/StoreFactory.h"
+#include "items/clsCalendarItem.h"
+#include "utilities/Clock.h"
+
+#include <gmock/gmock.h>
+
+#include <deque>
+#include <fstream>
+#include <iterator>
+
+namespace qncal::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+using Outcome = MailResult::Outcome;
+
+/// Answers as it is told, and looks at the database while a message is on its way.
+class ScriptedTransport : public MailTransport {
+public:
+    std::deque<MailResult> answers;
+    std::vector<MailMessage> messages;
+    std::function<void()> whileSending;
+
+    MailResult send(const MailMessage& message) override
+    {
+        messages.push_back(message);
+        if (whileSending)
+            whileSending();
+        if (answers.empty())
+            return {Outcome::sent, {}};
+        MailResult answer = answers.front();
+        answers.pop_front();
+        return answer;
+    }
+};
+
+class NotificationDeliveryTest : public test::HostTest {
+protected:
+    static Date at(int hour, int minute = 0) { return Date::of(2026, 3, 2, hour, minute); }
+
+    void SetUp() override
+    {
+        addRow(*database, "AccountantFirmInfo", {{"CompanyName", "Reed & Partners"}, {"OfficeNumber", "555-0100"}});
+        contact = addRow(*database, "Contacts",
+                         {{"DisplayName", "Ann Stone"},
+                          {"BusinessEmail", "ann@client.example"},
+                          {"BusinessPhone_Fax", "555-0102"},
+                          {"HomePhone_Main", "555-0103"},
+                          {"HomeAddress1", "1 Hill St"},
+                          {"HomeCity", "Elora"}});
+    }
+    /// An appointment on March 4 at 9:30 of which the client is told on March 2.
+    std::int32_t addAppointment(std::uint8_t channels, std::int32_t contactID, Date start = Date::of(2026, 3, 4, 9, 30))
+    {
+        clsCalendarItem item;
+        item.calendarItemType(enumLocalCalendarAppointmentItem);
+        item.addNewItem();
+        item.Subject("Year end");
+        item.contactIDNum(contactID);
+        item.DateFrom(start.dateOnly());
+        item.TimeFrom(start.timeOnly());
+        item.TimeTo(Date::timeOf(17));
+        item.notifiedDate(Date::of(2026, 3, 2));
+        item.notifyType(channels);
+        EXPECT_TRUE(item.saveCalendarItem());
+        return item.itemID();
+    }
+    std::int32_t addAppointment(std::uint8_t channels) { return addAppointment(channels, contact); }
+    void deleteAppointment(std::int32_t id)
+    {
+        clsCalendarItem item;
+        item.calendarItemType(enumLocalCalendarAppointmentItem);
+        item.itemID(id);
+        EXPECT_TRUE(item.deleteCalendarItem());
+    }
+    Rows rows(const std::string& condition = "ClientNotificationID > 0")
+    {
+        return Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
+    }
+    DeliveryState state() { return static_cast<DeliveryState>(rows().integer("DeliveryState")); }
+    NotificationDelivery delivery() { return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters}}; }
+    std::vector<DeliveryStep> run()
+    {
+        std::vector<DeliveryStep> steps;
+        for (const Delivery& done : delivery().run())
+            steps.push_back(done.step);
+        return steps;
+    }
+
+    TemporaryFolder folder;
+    std::filesystem::path letters = folder.path() / "letters";
+    Date present = at(8);
+    ClockOverride clock{[this] { return present; }};
+    ScriptedTransport mail;
+    std::int32_t contact = -1;
+};
+
+constexpr auto email = AutoNotifyService::email;
+
+TEST_F(NotificationDeliveryTest, SendsAnEmailOnceAndRecordsIt)
+{
+    addAppointment(email);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+    ASSERT_THAT(mail.messages, SizeIs(1));
+    const MailMessage& message = mail.messages[0];
+    EXPECT_EQ(message.to.address, "ann@client.example");
+    EXPECT_EQ(message.to.name, "Ann Stone");
+    EXPECT_EQ(message.from.address, "office@firm.example");
+    EXPECT_EQ(message.subject, "Appointment on Wednesday, March 4, 2026");
+    EXPECT_EQ(message.body, "Dear Ann Stone,\n\n"
+                            "This is to remind you of your appointment with us on Wednesday, March 4, 2026 at 9:30 am:"
+                            "\n\nYear end\n\n"
+                            "Please let us know in good time if the date does not suit you.\n\n"
+                            "Yours sincerely,\nReed & Partners\n555-0100\n");
+    const Rows row = rows();
+    EXPECT_TRUE(row.boolean("NotificationSent"));
+    EXPECT_EQ(row.field("SentDate"), Variant(at(8)));
+    EXPECT_EQ(row.text("Recipient"), "ann@client.example");
+    EXPECT_EQ(row.integer("Attempts"), 1);
+    EXPECT_EQ(row.text("MessageID"), message.messageID);
+    EXPECT_EQ(row.integer("ContactIDNum"), contact);
+    EXPECT_EQ(state(), DeliveryState::sent);
+
+    EXPECT_THAT(run(), IsEmpty());
+    EXPECT_THAT(mail.messages, SizeIs(1));
+}
+
+TEST_F(NotificationDeliveryTest, WaitsForTheDay)
+{
+    addAppointment(email);
+    present = Date::of(2026, 3, 1, 23, 59);
+    EXPECT_THAT(run(), IsEmpty());
+    present = at(0, 1);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+}
+
+TEST_F(NotificationDeliveryTest, APlanChangesNothing)
+{
+    addAppointment(email);
+    addAppointment(email, contact, at(7));
+    const std::vector<Delivery> plan = delivery().plan();
+    ASSERT_THAT(plan, SizeIs(2));
+    EXPECT_EQ(plan[0].step, DeliveryStep::attempt);
+    EXPECT_EQ(plan[0].recipient, "ann@client.example");
+    EXPECT_EQ(plan[1].step, DeliveryStep::tooLate);
+    EXPECT_THAT(mail.messages, IsEmpty());
+    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, NobodyIsToldOfThePast)
+{
+    addAppointment(email, contact, at(8));
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
+    EXPECT_THAT(mail.messages, IsEmpty());
+    EXPECT_EQ(state(), DeliveryState::tooLate);
+    EXPECT_FALSE(rows().boolean("NotificationSent"));
+    EXPECT_EQ(rows().text("LastError"), "the item began on Mar 2, 2026 at 8:00 am");
+    EXPECT_THAT(run(), IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, AnItemThatIsMovedAheadGetsItsChanceAnew)
+{
+    const std::int32_t id = addAppointment(email, contact, at(8));
+    run();
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.itemID(id);
+    ASSERT_TRUE(item.loadCalendarItem());
+    item.DateFrom(Date::of(2026, 3, 9));
+    ASSERT_TRUE(item.saveCalendarItem());
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+}
+
+TEST_F(NotificationDeliveryTest, TriesAgainLaterAndLaterAndKeepsTheReason)
+{
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "no route"}, {Outcome::failed, "451 busy"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_EQ(rows().text("LastError"), "no route");
+    EXPECT_EQ(rows().integer("Attempts"), 1);
+    EXPECT_EQ(rows().field("NextAttemptDate"), Variant(at(8, 5)));
+
+    present = at(8, 4);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later));
+    present = at(8, 5);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_EQ(rows().text("LastError"), "451 busy");
+    EXPECT_EQ(rows().integer("Attempts"), 2);
+    EXPECT_EQ(rows().field("NextAttemptDate"), Variant(at(8, 25)));
+
+    present = at(8, 25);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+    EXPECT_EQ(rows().text("LastError"), "");
+    ASSERT_THAT(mail.messages, SizeIs(3));
+    EXPECT_EQ(mail.messages[0].messageID, mail.messages[2].messageID) << "so that two copies are known for one";
+}
+
+TEST_F(NotificationDeliveryTest, FailuresEndWhenTheItemBegins)
+{
+    addAppointment(email, contact, at(8, 30));
+    mail.answers = {{Outcome::failed, "no route"}};
+    run();
+    present = at(8, 30);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
+    EXPECT_THAT(mail.messages, SizeIs(1));
+}
+
+TEST_F(NotificationDeliveryTest, WaitsFourTimesAsLongEachTimeAndADayAtMost)
+{
+    const Date from = at(0);
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1), at(0, 5));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 2), at(0, 20));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 3), at(1, 20));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 4), at(5, 20));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 5), at(21, 20));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 6), from.addDays(1));
+    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1000000), from.addDays(1));
+}
+
+TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
+{
+    const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
+    addAppointment(email, nobody);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_EQ(rows().text("LastError"), "the client has no e-mail address");
+    EXPECT_THAT(mail.messages, IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
+{
+    const auto odd =
+        addRow(*database, "Contacts",
+               {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
+    addAppointment(email, odd);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_EQ(rows().text("LastError"), "the client's e-mail address is none");
+    EXPECT_THAT(mail.messages, IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, TheAttemptIsOnRecordBeforeItBegins)
+{
+    addAppointment(email);
+    mail.whileSending = [&] {
+        EXPECT_EQ(state(), DeliveryState::sending);
+        EXPECT_EQ(rows().text("MessageID"), mail.messages.back().messageID);
+        EXPECT_EQ(rows().integer("Attempts"), 1);
+    };
+    run();
+}
+
+TEST_F(NotificationDeliveryTest, AnAttemptThatNobodyEndedIsLookedAtAndNeverRepeated)
+{
+    addAppointment(email);
+    mail.whileSending = [] { throw std::runtime_error("the process dies here"); };
+    EXPECT_THROW(delivery().run(), std::runtime_error);
+    mail.whileSending = nullptr;
+
+    present = at(8, 14);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later)) << "another process may be at it";
+    present = at(8, 15);
+    for (int repeat = 0; repeat < 2; ++repeat)
+        EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
+    EXPECT_THAT(mail.messages, SizeIs(1));
+    EXPECT_EQ(state(), DeliveryState::unknown);
+    EXPECT_EQ(rows().text("LastError"), "an attempt was begun and not ended");
+}
+
+TEST_F(NotificationDeliveryTest, AnUnknownOutcomeIsForAPersonToSettle)
+{
+    addAppointment(email);
+    mail.answers = {{Outcome::unknown, "the connection broke"}};
+    const std::vector<Delivery> first = delivery().run();
+    ASSERT_THAT(first, SizeIs(1));
+    EXPECT_EQ(first[0].step, DeliveryStep::unknown);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
+    EXPECT_THAT(mail.messages, SizeIs(1));
+
+    EXPECT_TRUE(delivery().tryAgain(first[0].id));
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+    EXPECT_THAT(mail.messages, SizeIs(2));
+    EXPECT_FALSE(delivery().tryAgain(first[0].id)) << "it was sent";
+    EXPECT_FALSE(delivery().markSent(99));
+}
+
+TEST_F(NotificationDeliveryTest, AnUnknownOneThatArrivedIsMarked)
+{
+    addAppointment(email);
+    mail.answers = {{Outcome::unknown, "the connection broke"}};
+    const std::int32_t id = delivery().run().front().id;
+    EXPECT_TRUE(delivery().markSent(id));
+    EXPECT_FALSE(delivery().markSent(id));
+    EXPECT_THAT(run(), IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, ADeletedItemTellsNobody)
+{
+    const std::int32_t id = addAppointment(email);
+    deleteAppointment(id);
+    EXPECT_THAT(run(), IsEmpty());
+    EXPECT_THAT(mail.messages, IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, AnItemDeletedWhileItsMessageIsOnItsWayLeavesNothing)
+{
+    const std::int32_t id = addAppointment(email);
+    mail.whileSending = [&] { deleteAppointment(id); };
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+    EXPECT_TRUE(rows().isEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, ARowWhoseItemIsGoneIsCancelled)
+{
+    addAppointment(email);
+    Rows::change(*database, "SELECT Appointments.* FROM Appointments;").deleteCurrent();
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::cancelled));
+    EXPECT_EQ(state(), DeliveryState::cancelled);
+    EXPECT_THAT(run(), IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotSendTwice)
+{
+    const std::int32_t id = addAppointment(email);
+    run();
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.itemID(id);
+    ASSERT_TRUE(item.loadCalendarItem());
+    for (const std::uint8_t channels : {AutoNotifyService::phone, email}) {
+        item.notifyType(channels);
+        item.notifiedDate(Date::of(2026, 3, 2));
+        ASSERT_TRUE(item.saveCalendarItem());
+    }
+    EXPECT_THAT(run(), IsEmpty());
+    EXPECT_THAT(mail.messages, SizeIs(1));
+}
+
+TEST_F(NotificationDeliveryTest, FaxesAndCallsAreListedUntilSomebodyMadeThem)
+{
+    addAppointment(AutoNotifyService::fax | AutoNotifyService::phone);
+    const std::vector<Delivery> list = delivery().run();
+    ASSERT_THAT(list, SizeIs(2));
+    EXPECT_EQ(list[0].step, DeliveryStep::byHand);
+    EXPECT_EQ(list[0].recipient, "555-0102");
+    EXPECT_EQ(list[0].person, "Ann Stone");
+    EXPECT_EQ(list[1].step, DeliveryStep::byHand);
+    EXPECT_EQ(list[1].recipient, "555-0103");
+    EXPECT_TRUE(delivery().markSent(list[0].id));
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::byHand));
+}
+
+TEST_F(NotificationDeliveryTest, WritesALetterOnce)
+{
+    addAppointment(AutoNotifyService::letter);
+    const std::vector<Delivery> list = delivery().run();
+    ASSERT_THAT(list, SizeIs(1));
+    EXPECT_EQ(list[0].step, DeliveryStep::sent);
+    std::ifstream file(list[0].recipient);
+    const std::string letter{std::istreambuf_iterator<char>(file), {}};
+    EXPECT_THAT(letter, HasSubstr("<p class=\"client\">Ann Stone<br>\n1 Hill St<br>\nElora</p>"));
+    EXPECT_THAT(letter, HasSubstr("Reed &amp; Partners"));
+    EXPECT_THAT(run(), IsEmpty());
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(letters), {}), 1);
+}
+
+TEST_F(NotificationDeliveryTest, ALetterThatCannotBeWrittenIsTriedAgain)
+{
+    std::ofstream(letters) << "a file where the folder should be";
+    addAppointment(AutoNotifyService::letter);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    std::filesystem::remove(letters);
+    present = at(8, 5);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+}
+
+TEST_F(NotificationDeliveryTest, WithoutMeansEverythingWaits)
+{
+    addAppointment(email | AutoNotifyService::letter);
+    NotificationDelivery bare(database, {});
+    const std::vector<Delivery> list = bare.run();
+    ASSERT_THAT(list, SizeIs(2));
+    EXPECT_EQ(list[0].step, DeliveryStep::later);
+    EXPECT_EQ(list[0].reason, "no mail server is set");
+    EXPECT_EQ(list[1].step, DeliveryStep::byHand);
+    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, DoesNothingWithoutAConnection)
+{
+    addAppointment(email);
+    database->close();
+    EXPECT_THAT(run(), IsEmpty());
+}
+
+} // namespace
+} // namespace qncal::host

@@ -1,0 +1,163 @@
+#include "notifications/SmtpTransport.h"
+
+#include "host/store/StoreFactory.h"
+#include "support/SmtpServer.h"
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+
+namespace qncal::host {
+namespace {
+
+using test::SmtpServer;
+using testing::HasSubstr;
+using testing::SizeIs;
+using Outcome = MailResult::Outcome;
+using Security = SmtpSettings::Security;
+
+class SmtpTransportTest : public testing::Test {
+protected:
+    static SmtpSettings settingsFor(const SmtpServer& server)
+    {
+        SmtpSettings settings;
+        settings.server = "127.0.0.1";
+        settings.port = server.port();
+        settings.security = Security::none;
+        settings.from = {"Firm", "office@firm.example"};
+        return settings;
+    }
+    static MailMessage message()
+    {
+        return {{"Firm", "office@firm.example"}, {"Zoë", "zoe@client.example"},   "Grüße",
+                ".\n.dots stay\nText\n",         "notification-1.x@firm.example", Date::of(2026, 3, 2, 9)};
+    }
+    MailResult sendTo(const std::string& mode, std::chrono::milliseconds timeout)
+    {
+        const SmtpServer server(mode, folder.path());
+        SmtpSettings settings = settingsFor(server);
+        settings.timeout = timeout;
+        return SmtpTransport(settings).send(message());
+    }
+
+    TemporaryFolder folder;
+};
+
+TEST_F(SmtpTransportTest, DeliversTheMessage)
+{
+    const SmtpServer server("good", folder.path());
+    const MailResult result = SmtpTransport(settingsFor(server)).send(message());
+    EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
+    EXPECT_EQ(result.reason, "");
+    ASSERT_THAT(server.messages(), SizeIs(1));
+    EXPECT_THAT(server.messages()[0], HasSubstr("X-Envelope: office@firm.example ['zoe@client.example']\r\n"));
+    EXPECT_THAT(server.messages()[0], HasSubstr(mailText(message())));
+}
+
+TEST_F(SmtpTransportTest, SignsIn)
+{
+    const SmtpServer server("auth", folder.path());
+    SmtpSettings settings = settingsFor(server);
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+    settings.user = "firm";
+    settings.password = "wrong";
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+    settings.password = "secret";
+    const MailResult result = SmtpTransport(settings).send(message());
+    EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
+    EXPECT_THAT(server.messages(), SizeIs(1));
+}
+
+TEST_F(SmtpTransportTest, EncryptsWithStartTlsAndTrustsOnlyTheCertificatesItIsGiven)
+{
+    const std::string certificate = folder.file("certificate.pem");
+    const std::string key = folder.file("key.pem");
+    const std::string command = "openssl req -x509 -newkey rsa:2048 -nodes -days 36500 -subj /CN=127.0.0.1 "
+                                "-addext subjectAltName=IP:127.0.0.1 -keyout "
+                                + key + " -out " + certificate + " 2>/dev/null";
+    ASSERT_EQ(std::system(command.c_str()), 0);
+    const SmtpServer server("startTls", folder.path(), {certificate, key});
+    SmtpSettings settings = settingsFor(server);
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "without encryption";
+    settings.security = Security::startTls;
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "of an unknown server";
+    settings.certificates = certificate;
+    const MailResult result = SmtpTransport(settings).send(message());
+    EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
+    EXPECT_THAT(server.messages(), SizeIs(1));
+}
+
+TEST_F(SmtpTransportTest, SendsNothingToAServerThatCannotEncrypt)
+{
+    const SmtpServer server("good", folder.path());
+    SmtpSettings settings = settingsFor(server);
+    for (const Security security : {Security::startTls, Security::tls}) {
+        settings.security = security;
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+    }
+    EXPECT_THAT(server.messages(), SizeIs(0));
+}
+
+TEST_F(SmtpTransportTest, SaysThatNobodyListens)
+{
+    SmtpSettings settings;
+    {
+        const SmtpServer server("good", folder.path());
+        settings = settingsFor(server);
+    }
+    const MailResult result = SmtpTransport(settings).send(message());
+    EXPECT_EQ(result.outcome, Outcome::failed);
+    EXPECT_THAT(result.reason, HasSubstr("127.0.0.1"));
+}
+
+TEST_F(SmtpTransportTest, RefusesUnsafeAddressesBeforeItConnects)
+{
+    const SmtpServer server("good", folder.path());
+    MailMessage unsafe = message();
+    unsafe.to.address = "zoe@client.example>\r\nRCPT TO:<all@client.example";
+    const MailResult result = SmtpTransport(settingsFor(server)).send(unsafe);
+    EXPECT_EQ(result.outcome, Outcome::failed);
+    EXPECT_EQ(result.reason.find_first_of("\r\n"), std::string::npos);
+    EXPECT_THAT(server.messages(), SizeIs(0));
+}
+
+struct BadServerRow {
+    const char* mode;
+    Outcome outcome;
+    const char* words;
+    /// A server that never gives an answer is given up after that many milliseconds; the others answer at once.
+    int timeout = 30000;
+};
+
+class BadSmtpServerTest : public SmtpTransportTest, public testing::WithParamInterface<BadServerRow> {};
+
+TEST_P(BadSmtpServerTest, HasTheOutcomeThatIsCertain)
+{
+    const MailResult result = sendTo(GetParam().mode, std::chrono::milliseconds(GetParam().timeout));
+    EXPECT_EQ(result.outcome, GetParam().outcome) << result.reason;
+    EXPECT_THAT(result.reason, HasSubstr(GetParam().words));
+    EXPECT_NE(result.reason, "");
+}
+
+INSTANTIATE_TEST_SUITE_P(Servers, BadSmtpServerTest,
+                         testing::Values(BadServerRow{"refuseRecipient", Outcome::failed, "550"},
+                                         BadServerRow{"busy", Outcome::failed, "451"},
+                                         BadServerRow{"refuseMessage", Outcome::failed, "554"},
+                                         BadServerRow{"hang", Outcome::failed, "", 400},
+                                         BadServerRow{"garbage", Outcome::failed, "", 400},
+                                         BadServerRow{"closeAfterMessage", Outcome::unknown, ""},
+                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000}),
+                         [](const auto& row) { return row.param.mode; });
+
+/// Larger than what the system takes over at once, so that the message is certainly not out.
+TEST_F(SmtpTransportTest, AConnectionThatClosesInALongMessageHasFailed)
+{
+    const SmtpServer server("closeInMessage", folder.path());
+    MailMessage large = message();
+    large.body.assign(20'000'000, 'x');
+    const MailResult result = SmtpTransport(settingsFor(server)).send(large);
+    EXPECT_EQ(result.outcome, Outcome::failed) << result.reason;
+}
+
+} // namespace
+} // namespace qncal::host

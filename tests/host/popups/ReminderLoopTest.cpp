@@ -1,0 +1,379 @@
+#include "popups/ReminderLoop.h"
+
+#include "host/services/HostTest.h"
+#include "host/store/StoreFactory.h"
+#include "items/clsCalendarItem.h"
+#include "utilities/Clock.h"
+#include "utilities/RunTimeError.h"
+#include "utilities/dateText.h"
+
+#include <gmock/gmock.h>
+#include <sqlite3.h>
+
+#include <algorithm>
+
+namespace qncal::host {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Outcome = ReminderLoop::Outcome;
+
+class RecordingDisplay : public ReminderDisplay {
+public:
+    Stay stay = Stay::gone;
+    /// "show 1", "missed 1 2", "withdraw 1"
+    std::vector<std::string> calls;
+    std::vector<Reminder> shown;
+    /// Runs inside of each showing.
+    std::function<void(const Reminder&)> whileShown;
+
+    Stay show(const Reminder& reminder) override
+    {
+        calls.push_back("show " + std::to_string(reminder.id));
+        shown.push_back(reminder);
+        if (whileShown)
+            whileShown(reminder);
+        return stay;
+    }
+    Stay showMissed(const std::vector<Reminder>& reminders) override
+    {
+        std::string call = "missed";
+        for (const Reminder& reminder : reminders)
+            call += " " + std::to_string(reminder.id);
+        calls.push_back(call);
+        return stay;
+    }
+    void withdraw(std::int32_t reminderID) override { calls.push_back("withdraw " + std::to_string(reminderID)); }
+};
+
+class ReminderLoopTest : public test::HostTest {
+protected:
+    /// March 2, 2026 at that time.
+    static Date at(int hour, int minute, int second = 0) { return Date::of(2026, 3, 2, hour, minute, second); }
+
+    std::int32_t addReminder(Date moment, std::int32_t user = 1, bool completed = false)
+    {
+        return addRow(*database, "Reminders",
+                      {{"UserIDNum", std::to_string(user)},
+                       {"ReminderType", "1"},
+                       {"ReminderDate", defaultDateText(moment.dateOnly())},
+                       {"ReminderTime", formatDate(moment, "hh:nn:ss")},
+                       {"TextBody", "Call Ann"},
+                       {"Completed", booleanText(completed)}});
+    }
+    Rows row(std::int32_t id)
+    {
+        return Rows::change(*database,
+                            "SELECT Reminders.* FROM Reminders WHERE ReminderID=" + std::to_string(id) + ";");
+    }
+    void moveTo(std::int32_t id, Date moment)
+    {
+        Rows reminder = row(id);
+        reminder.set("ReminderDate", defaultDateText(moment.dateOnly()));
+        reminder.set("ReminderTime", formatDate(moment, "hh:nn:ss"));
+    }
+    std::vector<std::string> sweepCalls()
+    {
+        display.calls.clear();
+        loop.sweep();
+        return display.calls;
+    }
+
+    Date present = at(9, 0);
+    ClockOverride clock{[this] { return present; }};
+    RecordingDisplay display;
+    ReminderLoop loop{database, display};
+};
+
+TEST_F(ReminderLoopTest, ShowsWhatIsDueOnceAndMarksIt)
+{
+    const auto id = addReminder(at(9, 0), 7);
+    EXPECT_EQ(loop.sweep(), 1u);
+    EXPECT_THAT(display.shown, ElementsAre(Reminder{id, 7, 1, at(9, 0), "Call Ann"}));
+    EXPECT_TRUE(row(id).boolean("Completed"));
+    EXPECT_EQ(row(id).field("ShownFor"), Variant(at(9, 0)));
+    EXPECT_EQ(loop.sweep(), 0u);
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, ShowsInTheOrderOfTheirMoments)
+{
+    const auto later = addReminder(at(8, 59));
+    const auto sooner = addReminder(at(8, 57));
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(sooner), "show " + std::to_string(later)));
+}
+
+TEST_F(ReminderLoopTest, LeavesWhatComesLaterOrIsCompleted)
+{
+    addReminder(at(9, 0, 1));
+    addReminder(at(0, 0).addDays(1));
+    addReminder(at(8, 59), 1, true);
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, ShowsAReminderOfMidnight)
+{
+    const auto id = addReminder(at(0, 0));
+    present = at(0, 1);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, BringsMissedOnesOnceAsOneDigest)
+{
+    const auto yesterday = addReminder(at(8, 0).addDays(-1));
+    const auto lastYear = addReminder(at(8, 0).addDays(-365));
+    const auto justLate = addReminder(at(8, 54, 59));
+    const auto due = addReminder(at(8, 55));
+    const auto number = [](std::int32_t id) { return std::to_string(id); };
+    EXPECT_THAT(sweepCalls(),
+                ElementsAre("missed " + number(lastYear) + " " + number(yesterday) + " " + number(justLate),
+                            "show " + number(due)));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    ReminderLoop next(database, display);
+    EXPECT_EQ(next.sweep(), 0u);
+}
+
+TEST_F(ReminderLoopTest, ShowsTheRemindersOfOneUserAlone)
+{
+    addReminder(at(9, 0), 1);
+    const auto own = addReminder(at(9, 0), 2);
+    addReminder(at(7, 0), 1);
+    ReminderLoop ofUser(database, display, 2);
+    EXPECT_EQ(ofUser.sweep(), 1u);
+    EXPECT_THAT(display.calls, ElementsAre("show " + std::to_string(own)));
+}
+
+TEST_F(ReminderLoopTest, SnoozingMovesTheRow)
+{
+    const auto id = addReminder(at(9, 0));
+    display.stay = ReminderDisplay::Stay::onScreen;
+    loop.sweep();
+    EXPECT_EQ(loop.snooze(id, 15), Outcome::done);
+    EXPECT_EQ(row(id).field("ReminderTime"), Variant(Date::timeOf(9, 15)));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    present = at(9, 15);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, SnoozingPastMidnightMovesTheDay)
+{
+    present = at(23, 50);
+    const auto id = addReminder(at(23, 50));
+    loop.sweep();
+    loop.snooze(id, 20);
+    EXPECT_EQ(row(id).field("ReminderDate"), Variant(Date::of(2026, 3, 3)));
+    EXPECT_EQ(row(id).field("ReminderTime"), Variant(Date::timeOf(0, 10)));
+}
+
+TEST_F(ReminderLoopTest, SnoozingInsideOfTheShowingHolds)
+{
+    const auto id = addReminder(at(9, 0));
+    display.whileShown = [&](const Reminder& reminder) { loop.snooze(reminder.id, 5); };
+    loop.sweep();
+    EXPECT_FALSE(row(id).boolean("Completed"));
+    present = at(9, 5);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, RefusesToSnoozeBackwards)
+{
+    const auto id = addReminder(at(9, 0));
+    EXPECT_THROW(loop.snooze(id, 0), RunTimeError);
+    EXPECT_EQ(row(id).field("ReminderTime"), Variant(Date::timeOf(9)));
+}
+
+TEST_F(ReminderLoopTest, DismissingAheadOfTheMomentKeepsItFromComing)
+{
+    const auto id = addReminder(at(10, 0));
+    EXPECT_EQ(loop.dismiss(id), Outcome::done);
+    loop.sweep();
+    present = at(10, 0);
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, AnItemDeletedWhileItsReminderIsOnTheScreenTakesItAway)
+{
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.addNewItem();
+    item.DateFrom(at(0, 0));
+    item.TimeFrom(Date::timeOf(9, 15));
+    item.TimeTo(Date::timeOf(10));
+    item.Remind(true);
+    item.reminderPeriod("15 Min");
+    ASSERT_TRUE(item.saveCalendarItem());
+    display.stay = ReminderDisplay::Stay::onScreen;
+    loop.sweep();
+    ASSERT_EQ(display.shown.size(), 1u);
+    const std::int32_t id = display.shown.front().id;
+    EXPECT_THAT(sweepCalls(), IsEmpty()) << "it stays while its row does";
+
+    ASSERT_TRUE(item.deleteCalendarItem());
+    EXPECT_EQ(loop.snooze(id, 5), Outcome::deleted);
+    EXPECT_EQ(loop.dismiss(id), Outcome::deleted);
+    EXPECT_TRUE(row(id).isEmpty());
+}
+
+TEST_F(ReminderLoopTest, WithdrawsFromTheScreenWhatIsGone)
+{
+    const auto gone = addReminder(at(9, 0));
+    addReminder(at(9, 0));
+    display.stay = ReminderDisplay::Stay::onScreen;
+    loop.sweep();
+    row(gone).deleteCurrent();
+    EXPECT_THAT(sweepCalls(), ElementsAre("withdraw " + std::to_string(gone)));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, WhatIsDeletedWhileAnotherIsShownIsNotShown)
+{
+    addReminder(at(8, 58));
+    const auto second = addReminder(at(8, 59));
+    display.whileShown = [&](const Reminder&) {
+        if (!row(second).isEmpty())
+            row(second).deleteCurrent();
+    };
+    EXPECT_EQ(loop.sweep(), 1u);
+}
+
+TEST_F(ReminderLoopTest, ATickWhileADisplayWaitsShowsNothingTwice)
+{
+    addReminder(at(9, 0));
+    std::size_t inner = 99;
+    display.whileShown = [&](const Reminder&) { inner = loop.sweep(); };
+    EXPECT_EQ(loop.sweep(), 1u);
+    EXPECT_EQ(inner, 0u);
+}
+
+TEST_F(ReminderLoopTest, AFailedShowingComesAgain)
+{
+    addReminder(at(9, 0));
+    display.whileShown = [](const Reminder&) { throw std::runtime_error("no display"); };
+    EXPECT_THROW(loop.sweep(), std::runtime_error);
+    display.whileShown = nullptr;
+    EXPECT_EQ(loop.sweep(), 1u);
+}
+
+TEST_F(ReminderLoopTest, AReminderThatWasMovedAheadComesAgain)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(id, at(11, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    present = at(11, 0);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, AClockThatIsPutBackBringsNothingTwice)
+{
+    addReminder(at(9, 0));
+    loop.sweep();
+    present = at(8, 30);
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    present = at(9, 30);
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, DoesNothingWithoutAConnection)
+{
+    addReminder(at(9, 0));
+    database->close();
+    EXPECT_EQ(loop.sweep(), 0u);
+}
+
+TEST_F(ReminderLoopTest, ReadsAsMuchAmongManyRemindersAsAmongFew)
+{
+    const auto addOthers = [&](int count) {
+        for (int i = 1; i <= count; ++i) {
+            addReminder(at(9, 0).addDays(i), 1, false);
+            addReminder(at(9, 0).addDays(-i), 1, true);
+        }
+    };
+    const auto readBySweep = [&] {
+        addReminder(at(9, 0));
+        const StoreStatistics before = database->statistics();
+        loop.sweep();
+        const StoreStatistics after = database->statistics();
+        return after.recordsRead + after.keysRead - before.recordsRead - before.keysRead;
+    };
+    addOthers(5);
+    const auto few = readBySweep();
+    addOthers(500);
+    EXPECT_EQ(readBySweep(), few);
+}
+
+/// Keeps the statements that any connection of this process runs while it lives.
+class StatementTrace {
+public:
+    StatementTrace()
+    {
+        statements().clear();
+        sqlite3_auto_extension(reinterpret_cast<void (*)()>(&install));
+    }
+    ~StatementTrace() { sqlite3_reset_auto_extension(); }
+    StatementTrace(const StatementTrace&) = delete;
+    StatementTrace& operator=(const StatementTrace&) = delete;
+
+    static std::vector<std::string>& statements()
+    {
+        static std::vector<std::string> all;
+        return all;
+    }
+
+private:
+    static int install(sqlite3* connection, char**, const void*)
+    {
+        return sqlite3_trace_v2(
+            connection, SQLITE_TRACE_STMT,
+            [](unsigned, void*, void* statement, void*) {
+                statements().emplace_back(sqlite3_sql(static_cast<sqlite3_stmt*>(statement)));
+                return 0;
+            },
+            nullptr);
+    }
+};
+
+std::string planOf(const std::string& file, const std::string& sql)
+{
+    sqlite3* connection = nullptr;
+    sqlite3_open(file.c_str(), &connection);
+    std::string plan;
+    const auto line = [](void* self, int, char** values, char**) {
+        *static_cast<std::string*>(self) += std::string(values[3]) + "\n";
+        return 0;
+    };
+    EXPECT_EQ(sqlite3_exec(connection, ("EXPLAIN QUERY PLAN " + sql).c_str(), line, &plan, nullptr), SQLITE_OK);
+    sqlite3_close(connection);
+    return plan;
+}
+
+TEST(ReminderLoopPlanTest, EveryStatementOfASweepSearchesTheIndexOfTheDueRows)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.file("plan.db");
+    const StatementTrace trace;
+    const std::shared_ptr<SqliteDatabase> database = SqliteDatabase::create(file);
+    addRow(*database, "Reminders", {{"ReminderDate", "2026-03-02"}, {"ReminderTime", "08:59:00"}});
+    database->flush();
+    const ClockOverride clock(Date::of(2026, 3, 2, 9));
+    RecordingDisplay display;
+    ReminderLoop loop(database, display, 1);
+    StatementTrace::statements().clear();
+    loop.sweep();
+
+    std::size_t sweeping = 0;
+    for (const std::string& sql : StatementTrace::statements()) {
+        if (sql.find("FROM \"Reminders\"") == std::string::npos || sql.find("Completed") == std::string::npos)
+            continue;
+        const std::string plan = planOf(file, sql);
+        EXPECT_EQ(plan.find("SCAN"), std::string::npos) << sql << "\n" << plan;
+        EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << sql << "\n" << plan;
+        if (plan.find("Reminders_Completed_ReminderDate_ReminderTime") != std::string::npos)
+            ++sweeping;
+    }
+    EXPECT_GE(sweeping, 4u) << testing::PrintToString(StatementTrace::statements());
+}
+
+} // namespace
+} // namespace qncal::host
