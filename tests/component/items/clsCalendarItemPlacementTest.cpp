@@ -211,6 +211,7 @@ TEST_F(PlacementTest, BestStartRendersTheDisplayTextAndLeavesTheEndAlone)
 TEST_F(PlacementTest, BestStartOfAnUnknownKindIsTheStartOfTheRange)
 {
     clsCalendarItem unknown;
+    unknown.DisplayTextTemplate("Busy"); // there is no kind that could have one
     unknown.getBestStartTime(Date::timeOf(11), Date::timeOf(12));
     EXPECT_EQ(timeText(unknown.TimeFrom()), "11:00:00");
 }

@@ -16,13 +16,13 @@ using Run = std::function<std::string()>;
 std::shared_ptr<clsInsertFieldsInRTB> engineWithAnAppointment(TestWorld& world, std::int32_t listUse)
 {
     world.addRow("UserCalendarSettings", {{"UserIDNum", "-1"},
-                                          {"ApptTemplate", "«Appointment Name» «Industry Type»"},
+                                          {"ApptTemplate", "«Appointment Name» «Contact Business Fax»"},
                                           {"ApptTitleBarText", "«(Appointment Date, d)»"}});
     auto engine = std::make_shared<clsInsertFieldsInRTB>();
     engine->ListType(5);
     engine->MergeFieldListUse(listUse);
     engine->companyID(world.addRow("Companies", {{"OfficeNumber", "555-0100"}, {"IndustryType", "Bakery"}}));
-    engine->contactID(world.addRow("Contacts", {{"InheritCompanyInfo", "True"}}));
+    engine->contactID(world.addRow("Contacts", {{"InheritCompanyInfo", "True"}, {"BusinessPhone_Fax", "555-0111"}}));
     engine->appointmentID(world.addRow(
         "Appointments", {{"Subject", "Budget"}, {"DateFrom", "2026-04-02"}, {"BeforeAppointmentText", "before"}}));
     bool noListBox = true;
@@ -84,9 +84,15 @@ std::vector<SweptRoutine> routines()
             },
             5),
         onEngine("CreateDisplayTextByID2", "",
-                 [](clsInsertFieldsInRTB& engine) { return engine.createDisplayTextByID2(); }),
+                 [](clsInsertFieldsInRTB& engine) {
+                     engine.companyID(-1); // whose query, where it cannot be made, is a second failure
+                     return engine.createDisplayTextByID2();
+                 }),
         onEngine("CreateTitleBarTextByID2", "",
-                 [](clsInsertFieldsInRTB& engine) { return engine.createTitleBarTextByID2(); }),
+                 [](clsInsertFieldsInRTB& engine) {
+                     engine.companyID(-1);
+                     return engine.createTitleBarTextByID2();
+                 }),
         onEngine(
             "TestRTBCommentOfACleanTemplate", "True",
             [](clsInsertFieldsInRTB& engine) {
