@@ -78,8 +78,7 @@ TEST_P(SchemaTableTest, IndexesItsOwnColumnsOnce)
         EXPECT_NE(first->type, key) << index.first;
         EXPECT_NE(first->type, memo) << index.first;
         for (const std::string_view next : {index.second, index.third}) {
-            if (!next.empty())
-                EXPECT_NE(findColumn(GetParam(), next), nullptr) << next;
+            EXPECT_TRUE(next.empty() || findColumn(GetParam(), next)) << next;
         }
         EXPECT_TRUE(seen.insert({index.first, index.second, index.third}).second) << index.first;
     }
