@@ -38,8 +38,8 @@ std::optional<TemplateFault> findExpressionFault(std::string_view expression, co
         const std::size_t comma = inner.find(',');
         if (comma == npos)
             throw RunTimeError(errorNumber::subscriptOutOfRange, "Subscript out of range: a date without a format");
-        const std::string_view format = inner.substr(comma + 1);
-        if (!isDateFormat(withoutBlanksAround(format)))
+        const std::string_view format = withoutBlanksAround(inner.substr(comma + 1));
+        if (!isDateFormat(format))
             return TemplateFault{Kind::dateFormatUnknown, std::string(format)};
         expression = withoutBlanksAround(inner.substr(0, comma));
     } else if (expression.ends_with(')')) {

@@ -21,7 +21,7 @@ struct TemplateFault {
         fieldNameUnknown,
     };
     Kind kind;
-    /// The date format as it was typed, blanks included, or the field name; where the message names one.
+    /// The date format in the case it was typed in, or the field name; where the message names one.
     std::string subject;
 };
 

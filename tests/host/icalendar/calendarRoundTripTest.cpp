@@ -6,6 +6,7 @@
 #include "host/services/HostTest.h"
 #include "icalendar/notesBlock.h"
 #include "items/clsCalendarItem.h"
+#include "services/saveItem.h"
 #include "utilities/Clock.h"
 
 #include <algorithm>
@@ -107,7 +108,7 @@ protected:
         item.Custom5("Five");
         item.Status2(true);
         item.Status5(true);
-        ASSERT_TRUE(item.saveCalendarItem());
+        ASSERT_TRUE(saveItem(item));
     }
 
     ClockOverride clock{Date::of(2026, 3, 4, 10)};
@@ -251,7 +252,7 @@ TEST_F(CalendarRoundTrip, AWordOfOnesOwnStaysWhenTheFileIsImportedAgain)
     notes.below = "Mine";
     item.Notes_RichText(notesRichText(notes));
     item.companyIDNum(5);
-    ASSERT_TRUE(item.saveCalendarItem());
+    ASSERT_TRUE(saveItem(item));
 
     const ImportReport report = imported(host, calendar("Theirs\\, changed"));
     EXPECT_EQ(report.updated, 1);
