@@ -47,8 +47,8 @@ void readItemsOf(enumLocalCalendarItemType kind, DatabaseService& database, cons
                  std::vector<ItemRow>& items)
 {
     const CalendarItemKind& names = calendarItemKind(kind);
-    const std::string table = (filter.archived ? "archive" : "") + std::string(names.tableName);
-    const std::string key = (filter.archived ? "old" : "") + std::string(names.fieldName);
+    const std::string table = filter.archived ? archiveTable(names.tableName) : std::string(names.tableName);
+    const std::string key = filter.archived ? archiveKey(names.fieldName) : std::string(names.fieldName);
     const std::string columns = key + ", DateFrom, TimeFrom, TimeTo, Subject, UserIDNum, CompanyIDNum, ContactIDNum";
     const std::string sql = "SELECT " + columns + " FROM " + table + conditionsOf(database, filter) + ";";
     for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext()) {

@@ -37,7 +37,6 @@ public:
     RecordSet& operator=(RecordSet&& other) noexcept;
 
     std::int32_t handle() const { return handle_; }
-    bool isOwned() const { return owned_; }
     void close();
 
     bool hasRecords() const;

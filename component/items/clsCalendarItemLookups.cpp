@@ -1,4 +1,5 @@
 #include "core/RecordSet.h"
+#include "core/calendarItemKinds.h"
 #include "core/routineScope.h"
 #include "items/clsCalendarItem.h"
 #include "items/itemQueries.h"
@@ -37,7 +38,7 @@ std::int32_t clsCalendarItem::getScheduleIDFromTaskID()
         const std::string& key = kind().fieldName();
         // Only tasks have an archive.
         if (!read(table, key) && calendarItemType() == enumLocalCalendarTaskItem)
-            read("archive" + table, "old" + key);
+            read(archiveTable(table), archiveKey(key));
         return scheduleID;
     });
 }

@@ -1,5 +1,6 @@
 #include "controls/mousePointer.h"
 #include "core/RecordSet.h"
+#include "core/calendarItemKinds.h"
 #include "core/nullText.h"
 #include "core/routineScope.h"
 #include "items/calendarItemColumns.h"
@@ -96,7 +97,7 @@ std::optional<RecordSet> clsCalendarItem::openRowToLoad()
     const std::string& key = kind().fieldName();
     const bool fromArchive =
         calendarItemType() == enumLocalCalendarTaskItem && record_.archiveStatus == CalendarItemArchiveStatus_Archived;
-    auto row = RecordSet::openReadOnly(fromArchive ? selectAll("archive" + table) + " WHERE old" + key + "="
+    auto row = RecordSet::openReadOnly(fromArchive ? selectAll(archiveTable(table)) + " WHERE " + archiveKey(key) + "="
                                                          + std::to_string(itemID_) + ";"
                                                    : selectByKey(table, key, itemID_));
     if (!row.hasRecords()) {
@@ -163,9 +164,8 @@ RecordSet clsCalendarItem::openRowToSave(bool& isNewRow)
     std::string key = kind().fieldName();
     if (calendarItemType() == enumLocalCalendarTaskItem
         && record_.archiveStatus == CalendarItemArchiveStatus_Archived) {
-        // "archived" here and "archive" on load: two tables, and the difference is meant.
-        table = "archived" + table;
-        key = "old" + key;
+        table = archivedTable(table);
+        key = archiveKey(key);
     }
     if (itemID_ > 0) {
         auto row = RecordSet::openUpdatable(selectByKey(table, key, itemID_));

@@ -33,8 +33,7 @@ void deleteClientNotificationsOfItem(enumLocalCalendarItemType kind, std::int32_
 {
     if (!isKnownKind(kind))
         return;
-    constexpr const char* columns[] = {"AppointmentNum", "TaskNum", "DocketNum"};
-    const std::string column = columns[kind];
+    const std::string column(calendarItemKind(kind).notificationColumn);
     deleteRows("SELECT ClientNotification." + column
                    + ", ClientNotification.NotificationSent FROM ClientNotification WHERE " + column + " = "
                    + std::to_string(itemID) + ";",

@@ -17,7 +17,7 @@ std::optional<TaskOfSchedule> findTaskOfSchedule(const std::string& table, const
     TaskOfSchedule found;
     if (find(table, key, found))
         return found;
-    if (find("archive" + table, "old" + key, found)) {
+    if (find(archiveTable(table), archiveKey(key), found)) {
         found.archiveStatus = CalendarItemArchiveStatus_Archived;
         return found;
     }

@@ -8,17 +8,11 @@ namespace qncal::host {
 
 std::string_view itemColumn(std::int32_t kind)
 {
-    switch (kind) {
-    case enumLocalCalendarAppointmentItem:
-        return "AppointmentNum";
-    case enumLocalCalendarTaskItem:
-        return "TaskNum";
-    case enumLocalCalendarDocketItem:
-        return "DocketNum";
-    default:
+    const std::string_view column = calendarItemKind(static_cast<enumLocalCalendarItemType>(kind)).notificationColumn;
+    if (column.empty())
         throw RunTimeError(errorNumber::invalidProcedureCall,
                            "No notifications for items of kind " + std::to_string(kind));
-    }
+    return column;
 }
 
 std::optional<NotifiedItem> readNotifiedItem(DatabaseService& database, enumLocalCalendarItemType kind, std::int32_t id)

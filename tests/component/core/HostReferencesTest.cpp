@@ -175,5 +175,20 @@ static_assert(CalendarItemArchiveStatus_Normal == 1 && CalendarItemArchiveStatus
 static_assert(enumSearchAppointmentNameOnly == 1 && enumSearchAppointmentDisplaySummaryOnly == 2);
 static_assert(enumSearchAppointmentNotesOnly == 3 && enumSearchAppointmentAllText == 4);
 
+/// A class of the component: it may read what the host cannot read back.
+class MessageReader : public clsCalendarSetCtrl {
+public:
+    using clsCalendarSetCtrl::MsgboxClass;
+};
+
+TEST_F(HostReferencesTest, TheMessageDialogsAreReadInsideTheComponentOnly)
+{
+    MessageReader reader;
+    EXPECT_EQ(reader.MsgboxClass(), nullptr);
+    const auto first = std::make_shared<test::ScriptedMessages>();
+    reader.MsgboxClass(first);
+    EXPECT_EQ(reader.MsgboxClass(), first);
+}
+
 } // namespace
 } // namespace qncal
