@@ -27,7 +27,7 @@ target_compile_options(qncalOptions INTERFACE -Wall -Wextra -Wpedantic -Wshadow 
                                               -Wno-missing-field-initializers)
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
     # GCC 12 warns without cause on optimised string concatenation (GCC bugs 105329 and 105651).
-    target_compile_options(qncalOptions INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
+    target_compile_options(qncalOptions INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-stringop-overread -Wno-array-bounds)
 endif()
 if(QNCAL_WERROR)
     target_compile_options(qncalOptions INTERFACE -Werror)
