@@ -34,6 +34,7 @@ HResult guarded(HResult failure, Action action)
 class Factory final : public ClassFactory {
 public:
     explicit Factory(const PublicClass& made) : made_(&made) {}
+    virtual ~Factory() = default;
     const Guid& classId() const { return made_->id; }
 
     HResult createInstance(std::shared_ptr<void>& object) const override

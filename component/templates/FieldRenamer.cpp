@@ -18,8 +18,9 @@ std::size_t pairOf(char first, char second)
 
 FieldRenamer::FieldRenamer(std::vector<FieldRenaming> lines) : lines_(std::move(lines))
 {
-    for (Line line = 0; line < lines_.size(); ++line) {
-        const std::string_view text = lines_[line].oldText.view();
+    for (std::size_t i = 0; i < lines_.size(); ++i) {
+        const auto line = static_cast<Line>(i);
+        const std::string_view text = lines_[i].oldText.view();
         assert(text.size() >= 2);
         for (const char first : {lowerAscii(text[0]), upperAscii(text[0])}) {
             firstBytes_.set(static_cast<std::uint8_t>(first));

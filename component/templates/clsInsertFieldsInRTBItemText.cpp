@@ -55,7 +55,7 @@ std::string clsInsertFieldsInRTB::createDisplayTextByID2()
         const auto list = itemListOf(listType_);
         if (!list)
             return std::string();
-        const std::string text = mergeFirmTemplate("Template", calendarItemKind(list->kind).defaultDisplayTemplate);
+        std::string text = mergeFirmTemplate("Template", calendarItemKind(list->kind).defaultDisplayTemplate);
         if (itemIDs().*list->id < 0 || !recordSets().isOpen(list->record))
             return text;
         RecordSet& item = recordSets().at(list->record);

@@ -8,6 +8,7 @@
 #include <array>
 #include <map>
 #include <span>
+#include <tuple>
 
 namespace qncal {
 
@@ -169,7 +170,10 @@ struct Region {
     std::int32_t country = 0;
     std::int32_t province = 0;
     bool harmonised = false;
-    auto operator<=>(const Region&) const = default;
+    friend bool operator<(const Region& a, const Region& b)
+    {
+        return std::tie(a.country, a.province, a.harmonised) < std::tie(b.country, b.province, b.harmonised);
+    }
 };
 
 FieldRenamer newRenamer(const Region& region)

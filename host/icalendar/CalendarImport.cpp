@@ -54,7 +54,7 @@ public:
     Import(HostEnvironment& host, const ImportOptions& options)
         : options_(options), zones_(options.timeZone), people_(host), known_(host.database(), people_.domain()),
           series_(host.database(), "RepeatNum"), groups_(host.database(), "UserGroupNum"),
-          writer_(host, people_, zones_, options.dryRun)
+          writer_(host, people_, options.dryRun)
     {
     }
 
@@ -157,7 +157,7 @@ private:
 
     std::optional<AlarmReminder> alarmOf(const CalendarComponent& component, const Span& first)
     {
-        const auto alarm = reminderOf(component, first, zones_);
+        auto alarm = reminderOf(component, first, zones_);
         const bool hasAlarm =
             std::ranges::any_of(component.children, [](const auto& child) { return child.is("VALARM"); });
         if (!alarm && hasAlarm)

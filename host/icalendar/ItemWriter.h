@@ -35,10 +35,7 @@ public:
         int unchanged = 0;
     };
 
-    ItemWriter(HostEnvironment& host, People& people, TimeZones& zones, bool dryRun)
-        : host_(host), people_(people), zones_(zones), dryRun_(dryRun)
-    {
-    }
+    ItemWriter(HostEnvironment& host, People& people, bool dryRun) : host_(host), people_(people), dryRun_(dryRun) {}
 
     /// Throws `RunTimeError` when the item was not saved.
     void write(const Row& row);
@@ -55,7 +52,6 @@ private:
 
     HostEnvironment& host_;
     People& people_;
-    TimeZones& zones_;
     bool dryRun_;
     Counts counts_;
     std::vector<std::pair<enumLocalCalendarItemType, std::int32_t>> added_;

@@ -86,7 +86,8 @@ Span lasting(const ContentLine& line, Date start, bool wholeDays)
         refuse(line, "the end is before the start");
     if (!wholeDays)
         return {start, start.addSeconds(seconds), false};
-    return {start, start.addDays(static_cast<double>(std::max<std::int64_t>(seconds - 1, 0) / secondsOfDay)), true};
+    const std::int64_t furtherDays = std::max<std::int64_t>(seconds - 1, 0) / secondsOfDay;
+    return {start, start.addDays(static_cast<double>(furtherDays)), true};
 }
 
 /// Walks a rule from the start of its component. The rule's own times are of the component's zone.

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
 #include <curl/curl.h>
 #include <exception>
 #include <memory>
@@ -31,7 +30,7 @@ struct Outgoing {
     {
         auto& outgoing = *static_cast<Outgoing*>(self);
         const std::size_t part = std::min(size * count, outgoing.text.size() - outgoing.handedOver);
-        std::memcpy(buffer, outgoing.text.data() + outgoing.handedOver, part);
+        outgoing.text.copy(buffer, part, outgoing.handedOver);
         outgoing.handedOver += part;
         return part;
     }

@@ -321,7 +321,8 @@ private:
                 std::ranges::find_if(comparisons, [this](const char* symbol) { return isSymbol(symbol); });
             if (comparison != comparisons.end()) {
                 advance();
-                Expression compared = test(Expression::Kind::comparison, left.offset, false, std::move(left));
+                const std::size_t offset = left.offset;
+                Expression compared = test(Expression::Kind::comparison, offset, false, std::move(left));
                 compared.name = *comparison;
                 add(compared, concatenation());
                 left = std::move(compared);
@@ -482,7 +483,7 @@ private:
         return name;
     }
 
-    Expression call(std::size_t offset, std::string name)
+    Expression call(std::size_t offset, const std::string& name)
     {
         Expression result = make(Expression::Kind::call, offset);
         result.name = upper(name);
