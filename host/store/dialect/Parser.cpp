@@ -453,7 +453,7 @@ private:
         const bool bare = token_.kind == TokenKind::name;
         std::string name = expectName("a name");
         if (bare && isSymbol("("))
-            return call(offset, std::move(name));
+            return call(offset, name);
         return column(offset, std::move(name));
     }
 
