@@ -11,10 +11,12 @@ namespace qncal::host {
 
 namespace {
 
+constexpr int iconSide = 16;
+
 /// Lines of text as they stand under an alignment: one that fills the width, one that does not, in turn.
 QIcon alignmentIcon(Qt::Alignment alignment, const QColor& ink)
 {
-    constexpr int side = 16;
+    constexpr int side = iconSide;
     constexpr int shortLine = 8;
     constexpr qreal density = 3;
     QPixmap pixmap(QSize(side, side) * density);
@@ -46,6 +48,7 @@ RichTextToolBar::RichTextToolBar(RichTextEdit& edit, QWidget* parent)
 {
     using Formats = RichTextActions;
     setAccessibleName(tr("Text format"));
+    setIconSize(QSize(iconSide, iconSide));
     for (const char* name : fontNames)
         fonts_->addItem(name);
     for (const int size : fontSizes)
@@ -93,7 +96,7 @@ void RichTextToolBar::addButton(RichTextActions::Format format, const QIcon& ico
 {
     QAction* action = edit_->formats().action(format);
     action->setIcon(icon);
-    buttonOf(action)->setIconSize(icon.availableSizes().value(0, iconSize()));
+    buttonOf(action);
 }
 
 QToolButton* RichTextToolBar::buttonOf(QAction* action)
@@ -103,6 +106,7 @@ QToolButton* RichTextToolBar::buttonOf(QAction* action)
     button->setObjectName("format:" + action->text());
     button->setAccessibleName(action->text());
     button->setFocusPolicy(Qt::NoFocus);
+    button->setIconSize(iconSize());
     addWidget(button);
     return button;
 }
