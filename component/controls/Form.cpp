@@ -31,8 +31,12 @@ Control* Form::findControl(std::string_view path) const
 
 void Form::focus(Control* control)
 {
-    if (control == focused_ || (control && !(control->isEnabled() && control->isVisible())))
+    if (control == focused_ || (control && !control->isReachable()))
         return;
+    if (!mayLeaveFor(control)) {
+        focusMoved.raise();
+        return;
+    }
     Control* previous = std::exchange(focused_, control);
     if (previous && previous->LostFocus)
         previous->LostFocus();
@@ -40,6 +44,19 @@ void Form::focus(Control* control)
     if (focused_ == control && control && control->GotFocus)
         control->GotFocus();
     focusMoved.raise();
+}
+
+bool Form::mayLeaveFor(const Control* next)
+{
+    // A handler that moves the focus itself is not asked again.
+    if (validating_ || !focused_ || !focused_->Validate || !focused_->isReachable()
+        || (next && !next->causesValidation()))
+        return true;
+    validating_ = true;
+    bool cancel = false;
+    focused_->Validate(cancel);
+    validating_ = false;
+    return !cancel;
 }
 
 void Form::showModal()
@@ -57,8 +74,10 @@ void Form::showModal()
 void Form::show()
 {
     const auto host = dialogHost();
-    if (!host)
+    if (!host) {
+        closeByUser();
         return;
+    }
     visible_ = true;
     host->show(*this);
 }

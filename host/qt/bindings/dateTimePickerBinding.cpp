@@ -54,6 +54,13 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        if (event->type() == QEvent::Show && control() && watched == view().edit().calendarWidget()) {
+            // The calendar shows what the handler put into the picker.
+            if (model().DropDown)
+                model().DropDown();
+            view().edit().calendarWidget()->setSelectedDate(view().edit().date());
+            return false;
+        }
         if (event->type() == QEvent::Hide && control() && watched != &view() && watched != &view().edit()
             && watched != &view().check()) {
             if (model().CloseUp)
