@@ -1,9 +1,11 @@
 #include "firmcal/databaseCheck.h"
 
 #include "core/calendarItemKinds.h"
+#include "core/schema.h"
 #include "firmcal/itemKind.h"
 #include "services/Rows.h"
 #include "store/SqliteConnection.h"
+#include "utilities/readableValue.h"
 
 #include <functional>
 #include <map>
@@ -35,6 +37,28 @@ constexpr Reference linkReferences[]{{"ContactIDNum", "Contacts", "ContactID"},
 constexpr Reference clientReferences[]{{"CompanyIDNum", "Companies", "CompanyID"},
                                        {"ContactIDNum", "Contacts", "ContactID"}};
 constexpr Reference userReferences[]{{"UserIDNum", "AccountantEmployeeInfo", "ContactID"}};
+
+bool isValueOf(schema::ColumnType type, const Variant& value)
+{
+    using schema::ColumnType;
+    if (value.isNull())
+        return true;
+    switch (type) {
+    case ColumnType::text:
+    case ColumnType::memo:
+        return true;
+    case ColumnType::boolean:
+        return booleanIn(value).has_value();
+    case ColumnType::real:
+    case ColumnType::currency:
+        return value.isNumeric();
+    case ColumnType::date:
+    case ColumnType::time:
+        return !value.isText();
+    default:
+        return integerIn(value).has_value();
+    }
+}
 
 std::string allOf(std::string_view table) { return "SELECT * FROM " + std::string(table) + ";"; }
 
@@ -82,6 +106,18 @@ public:
         });
     }
 
+    void spoiltCells(std::string check)
+    {
+        CheckResult result{std::move(check)};
+        for (const schema::Table& table : schema::tables()) {
+            for (Rows rows = Rows::change(database_, allOf(table.name)); !rows.atEnd(); rows.moveNext()) {
+                for (const schema::Column& column : table.columns)
+                    examineCell(rows, table, column, result);
+            }
+        }
+        results_.push_back(std::move(result));
+    }
+
     std::vector<CheckResult> take() { return std::move(results_); }
 
 private:
@@ -90,7 +126,7 @@ private:
 
     void walk(std::string check, std::string_view table, bool canMend, const std::function<Mending(Rows&)>& examine)
     {
-        CheckResult result{std::move(check), 0, 0, canMend};
+        CheckResult result{std::move(check), 0, 0, canMend, {}};
         for (Rows rows = Rows::change(database_, allOf(table)); !rows.atEnd(); rows.moveNext()) {
             const Mending mend = examine(rows);
             if (!mend)
@@ -102,6 +138,20 @@ private:
             }
         }
         results_.push_back(std::move(result));
+    }
+
+    void examineCell(Rows& rows, const schema::Table& table, const schema::Column& column, CheckResult& result) const
+    {
+        const Variant value = rows.field(column.name);
+        if (isValueOf(column.type, value))
+            return;
+        ++result.found;
+        result.places.push_back(std::string(table.name) + "." + std::string(column.name) + " of row "
+                                + rows.text(table.columns.front().name) + ": '" + value.toText() + "'");
+        if (!repair_)
+            return;
+        rows.set(column.name, column.type == schema::ColumnType::boolean ? "False" : "");
+        ++result.mended;
     }
 
     bool leadsNowhere(const Rows& rows, const Reference& reference)
@@ -133,6 +183,8 @@ private:
 std::vector<CheckResult> checkRows(DatabaseService& database, bool repair)
 {
     Checker checker(database, repair);
+    // First: the other checks read numbers from these cells.
+    checker.spoiltCells("cells that hold what their column cannot");
     checker.orphans("reminders of items that are gone", "Reminders", reminderReferences);
     checker.orphans("notifications of items that are gone", "ClientNotification", notificationReferences);
     checker.orphans("links of clients that are gone", "ContactLinks", linkReferences);
