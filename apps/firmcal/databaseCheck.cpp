@@ -9,6 +9,7 @@
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 #include <unordered_set>
 
@@ -62,6 +63,12 @@ bool isValueOf(schema::ColumnType type, const Variant& value)
 
 std::string allOf(std::string_view table) { return "SELECT * FROM " + std::string(table) + ";"; }
 
+/// None also for a cell that is spoilt: that is found by a check of its own.
+std::optional<std::int32_t> numberIn(const Rows& rows, std::string_view column)
+{
+    return integerIn(rows.field(column));
+}
+
 std::string plural(enumLocalCalendarItemType kind)
 {
     return kind == enumLocalCalendarDocketItem ? "time entries" : std::string(kindNoun(kind)) + "s";
@@ -99,9 +106,9 @@ public:
     {
         std::map<std::int32_t, int> sizes;
         for (Rows rows = Rows::read(database_, allOf(table)); !rows.atEnd(); rows.moveNext())
-            ++sizes[rows.integer("RepeatNum", 0)];
+            ++sizes[numberIn(rows, "RepeatNum").value_or(0)];
         walk(std::move(check), table, true, [&](Rows& rows) {
-            const std::int32_t series = rows.integer("RepeatNum", 0);
+            const std::int32_t series = numberIn(rows, "RepeatNum").value_or(0);
             return series > 0 && sizes[series] == 1 ? Mending([&rows] { rows.set("RepeatNum", "0"); }) : Mending();
         });
     }
@@ -156,7 +163,7 @@ private:
 
     bool leadsNowhere(const Rows& rows, const Reference& reference)
     {
-        const std::int32_t id = rows.integer(reference.column);
+        const std::int32_t id = numberIn(rows, reference.column).value_or(-1);
         return id > 0 && !keysOf(reference).contains(id);
     }
 
@@ -183,7 +190,6 @@ private:
 std::vector<CheckResult> checkRows(DatabaseService& database, bool repair)
 {
     Checker checker(database, repair);
-    // First: the other checks read numbers from these cells.
     checker.spoiltCells("cells that hold what their column cannot");
     checker.orphans("reminders of items that are gone", "Reminders", reminderReferences);
     checker.orphans("notifications of items that are gone", "ClientNotification", notificationReferences);

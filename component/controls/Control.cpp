@@ -87,6 +87,6 @@ void Control::updateContained() const
 
 bool Control::hasFocus() const { return form_->focusedControl() == this; }
 
-void Control::setFocus() { form_->focus(this); }
+bool Control::setFocus() { return form_->focus(this); }
 
 } // namespace qncal

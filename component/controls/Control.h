@@ -68,8 +68,8 @@ public:
     Form& form() const { return *form_; }
     bool hasFocus() const;
     /// Moves the focus here, with the events of the control that loses it and of this one. A control that is not
-    /// reachable does not take it, nor does any while the control that has it refuses to be left.
-    void setFocus();
+    /// reachable does not take it. False when the control that has it refuses to be left.
+    bool setFocus();
     /// Whether the control that is left for this one is asked by `Validate`; a Cancel button does without.
     bool causesValidation() const { return causesValidation_; }
     void causesValidation(bool causes) { causesValidation_ = causes; }

@@ -29,13 +29,13 @@ Control* Form::findControl(std::string_view path) const
     return found == controls_.end() ? nullptr : *found;
 }
 
-void Form::focus(Control* control)
+bool Form::focus(Control* control)
 {
     if (control == focused_ || (control && !control->isReachable()))
-        return;
+        return true;
     if (!mayLeaveFor(control)) {
         focusMoved.raise();
-        return;
+        return false;
     }
     Control* previous = std::exchange(focused_, control);
     if (previous && previous->LostFocus)
@@ -44,6 +44,7 @@ void Form::focus(Control* control)
     if (focused_ == control && control && control->GotFocus)
         control->GotFocus();
     focusMoved.raise();
+    return true;
 }
 
 bool Form::mayLeaveFor(const Control* next)

@@ -39,8 +39,8 @@ public:
 
     Control* focusedControl() const { return focused_; }
     /// None takes the focus away. A control that is not reachable leaves the focus where it is, and so does the control
-    /// that has it when its `Validate` refuses.
-    void focus(Control* control);
+    /// that has it when its `Validate` refuses: only then it is False.
+    bool focus(Control* control);
 
     /// Prepares the form ahead of its first showing; a registry of windows calls it once.
     virtual void Form_Load() {}

@@ -53,9 +53,7 @@ Control* Hand::reach(std::string_view path) const
     // A label or a panel is clicked without the focus going there.
     if (dynamic_cast<Label*>(&control) || dynamic_cast<Panel*>(&control) || dynamic_cast<MenuItem*>(&control))
         return &control;
-    control.setFocus();
-    const Control* holder = form_->focusedControl();
-    return control.hasFocus() || !holder || !holder->Validate ? &control : nullptr;
+    return control.setFocus() ? &control : nullptr;
 }
 
 void Hand::click(std::string_view path)

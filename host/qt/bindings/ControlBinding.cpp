@@ -111,8 +111,10 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::FocusIn:
-        control_->setFocus();
-        refused_ = control_ && !control_->hasFocus();
+        refused_ = !control_->setFocus();
+        // The focus has gone back meanwhile: the widget must not look as if it had it.
+        if (refused_)
+            return true;
         break;
     case QEvent::FocusOut:
         refused_ = false;

@@ -55,9 +55,9 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override
     {
         if (event->type() == QEvent::Show && control() && watched == view().edit().calendarWidget()) {
-            // The calendar shows what the handler put into the picker.
             if (model().DropDown)
                 model().DropDown();
+            // The calendar shows what the handler put into the picker.
             view().edit().calendarWidget()->setSelectedDate(view().edit().date());
             return false;
         }

@@ -141,6 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
                                "null"},
                     SpoiltCell{"Icon", "CustomFields", "ApptStatusIcon1", "'x'", "x", "null"},
                     SpoiltCell{"Switch", "CustomFields", "ApptUseStatusColour1", "'maybe'", "maybe", "false"},
+                    SpoiltCell{"Reference", "Reminders", "TaskIDNum", "'x'", "x", "null"},
                     SpoiltCell{"Date", "Tasks", "DateFrom", "'soon'", "soon", "null"}),
     qncal::test::rowName);
 
