@@ -104,6 +104,8 @@ public:
     }
 
     std::function<void()> Change;
+    /// The calendar is about to drop down.
+    std::function<void()> DropDown;
     /// The calendar that dropped down was closed.
     std::function<void()> CloseUp;
 

@@ -1,5 +1,7 @@
 #include "apps/firmcal/CommandLine.h"
 
+#include "store/SqliteConnection.h"
+
 #include <nlohmann/json.hpp>
 
 namespace qncal::firmcal::test {
@@ -27,6 +29,15 @@ TEST_F(SchemeCommandsTest, ListsByKindAndName)
     EXPECT_EQ(json[0]["TitleBackColour"], "#CC0000");
     EXPECT_TRUE(json[0]["BackColour"].is_null());
     EXPECT_EQ(output({"scheme", "list", "--kind", "docket"}), "No colour schemes.\n");
+}
+
+TEST_F(SchemeCommandsTest, AColourThatIsNoneIsBlank)
+{
+    host::SqliteConnection(database(), host::SqliteConnection::Access::readWrite, 0)
+        .execute("UPDATE ColourSchemes SET ForeColour='red', BackColour=5000000000 WHERE ColourSchemeID=1");
+    EXPECT_EQ(output({"scheme", "list", "--kind", "task"}), "ID  Kind  Name    Title    Title text  Body  Body text\n"
+                                                            "--  ----  ------  -------  ----------  ----  ---------\n"
+                                                            " 1  task  Urgent  #CC0000\n");
 }
 
 TEST_F(SchemeCommandsTest, ChangesWhatIsNamedAndNothingElse)
