@@ -23,9 +23,9 @@ struct RemindOptions {
     bool follow = false;
     int interval = 30;
     int sweeps = 0;
-    std::int32_t snooze = -1;
+    std::optional<std::int32_t> snooze;
     int minutes = 10;
-    std::int32_t dismiss = -1;
+    std::optional<std::int32_t> dismiss;
 };
 
 /// Prints reminders. As JSON they are collected for one sweep, or stand on a line each when they are followed.
@@ -107,11 +107,11 @@ void remind(CommandContext& context, const RemindOptions& options)
     context.host();
     host::ReminderLoop loop(context.sharedDatabase(), display,
                             user ? std::optional(user->id) : std::optional<std::int32_t>());
-    if (options.snooze >= 0)
-        return answer(context, options.snooze, loop.snooze(options.snooze, options.minutes),
+    if (options.snooze)
+        return answer(context, *options.snooze, loop.snooze(*options.snooze, options.minutes),
                       "comes again in " + std::to_string(options.minutes) + " minutes");
-    if (options.dismiss >= 0)
-        return answer(context, options.dismiss, loop.dismiss(options.dismiss), "is done");
+    if (options.dismiss)
+        return answer(context, *options.dismiss, loop.dismiss(*options.dismiss), "is done");
     if (options.follow)
         return follow(context, loop, options);
     const std::size_t shown = loop.sweep();

@@ -20,18 +20,16 @@ ItemClient clientOfItem(DatabaseService& database, std::int16_t kind, std::int32
     return item ? item->client : ItemClient{};
 }
 
-bool mayHaveBeenSent(const Rows& row)
-{
-    const auto state = static_cast<DeliveryState>(row.integer("DeliveryState", 0));
-    return row.boolean("NotificationSent") || state == DeliveryState::sending || state == DeliveryState::unknown;
-}
+bool mayHaveBeenSent(const Rows& row) { return row.boolean("NotificationSent"); }
 
 /// A row that came too late, or whose item had gone, gets its chance anew with every save of the item.
 void rearm(Rows& row)
 {
     const auto state = static_cast<DeliveryState>(row.integer("DeliveryState", 0));
-    if (state == DeliveryState::tooLate || state == DeliveryState::cancelled)
-        row.set("DeliveryState", std::to_string(static_cast<std::int32_t>(DeliveryState::waiting)));
+    if (state != DeliveryState::tooLate && state != DeliveryState::cancelled)
+        return;
+    row.set("DeliveryState", std::to_string(static_cast<std::int32_t>(DeliveryState::waiting)));
+    row.set("LastError", {});
 }
 
 void setClient(Rows& row, const ItemClient& client)

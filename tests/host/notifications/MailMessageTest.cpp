@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <sstream>
+
 namespace qncal::host {
 namespace {
 
@@ -62,6 +64,9 @@ TEST(MailMessageTest, WritesTheBodyInBase64WithNetworkLineEnds)
     message.body = "Grüße\nZwei\r\n";
     const std::string text = mailText(message);
     EXPECT_EQ(text.substr(text.find("\r\n\r\n") + 4), "R3LDvMOfZQ0KWndlaQ0K\r\n");
+    message.body = "a\rb\n\rc\r\r\nd";
+    EXPECT_EQ(mailText(message).substr(text.find("\r\n\r\n") + 4), "YQ0KYg0KDQpjDQoNCmQ=\r\n")
+        << "a, b, nothing, c, nothing, d";
     message.body = std::string(200, 'a');
     const std::string folded = mailText(message);
     const std::string body = folded.substr(folded.find("\r\n\r\n") + 4);
@@ -93,6 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
                     HeaderRow{"LineBreak", "a\r\nBcc: all@firm.example", "a  Bcc: all@firm.example"},
                     HeaderRow{"LineBreakAlone", "a\nb\rc", "a b c"}, HeaderRow{"Null", std::string("a\0b", 3), "a b"},
                     HeaderRow{"LooksEncoded", "=?UTF-8?B?eA==?=", "=?UTF-8?B?PT9VVEYtOD9CP2VBPT0/PQ==?="},
+                    HeaderRow{"NoUtf8", "a\xFF", "=?UTF-8?B?Ye+/vQ==?="},
                     HeaderRow{"Long", std::string(61, 'x'),
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4?=\r\n "
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eA==?="},
@@ -100,6 +106,21 @@ INSTANTIATE_TEST_SUITE_P(
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHg=?=\r\n "
                               "=?UTF-8?B?w6k=?="}),
     [](const auto& row) { return row.param.name; });
+
+TEST(MailMessageTest, NoLineIsTooLongOrBeginsWithADot)
+{
+    MailMessage message = plainMessage();
+    message.to.name = std::string(1500, 'n');
+    message.subject = std::string(700, 's');
+    message.to.address = std::string(240, 'a') + "@b.example";
+    message.body = ".\n.dots\n" + std::string(2000, 'x');
+    std::istringstream lines(mailText(message));
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_LE(line.size(), 260u) << line;
+        EXPECT_FALSE(line.starts_with('.')) << line;
+        EXPECT_TRUE(line.ends_with('\r')) << line;
+    }
+}
 
 TEST(MailMessageTest, NamesWithLineBreaksBringNoHeader)
 {

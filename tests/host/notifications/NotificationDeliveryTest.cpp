@@ -5,6 +5,7 @@
 #include "host/store/StoreFactory.h"
 #include "items/clsCalendarItem.h"
 #include "utilities/Clock.h"
+#include "utilities/RunTimeError.h"
 
 #include <gmock/gmock.h>
 
@@ -85,17 +86,35 @@ protected:
         return Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
     }
     DeliveryState state() { return static_cast<DeliveryState>(rows().integer("DeliveryState")); }
-    NotificationDelivery delivery() { return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters}}; }
+    NotificationDelivery delivery()
+    {
+        return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters, secureRecord}};
+    }
+    std::vector<Delivery> deliver() { return delivery().run(lock); }
     std::vector<DeliveryStep> run()
     {
         std::vector<DeliveryStep> steps;
-        for (const Delivery& done : delivery().run())
+        for (const Delivery& done : deliver())
             steps.push_back(done.step);
         return steps;
+    }
+    /// The one notification that is due.
+    Delivery deliverOne()
+    {
+        const std::vector<Delivery> all = deliver();
+        EXPECT_THAT(all, SizeIs(1));
+        return all.empty() ? Delivery{} : all.front();
+    }
+    /// Changes a column of the only row that the condition finds in a table.
+    void change(const std::string& table, const std::string& column, const std::string& value)
+    {
+        Rows::change(*database, "SELECT " + table + ".* FROM " + table + ";").set(column, value);
     }
 
     TemporaryFolder folder;
     std::filesystem::path letters = folder.path() / "letters";
+    DeliveryLock lock{folder.file("lock")};
+    std::function<void()> secureRecord;
     Date present = at(8);
     ClockOverride clock{[this] { return present; }};
     ScriptedTransport mail;
@@ -233,6 +252,123 @@ TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
     EXPECT_THAT(mail.messages, IsEmpty());
 }
 
+TEST_F(NotificationDeliveryTest, AnAddressThatCameOrChangedSinceTheFailureIsTriedAtOnce)
+{
+    const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
+    addAppointment(email, nobody);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later));
+    const auto setAddress = [&](const char* address) {
+        Rows::change(*database, "SELECT Contacts.* FROM Contacts WHERE ContactID=" + std::to_string(nobody) + ";")
+            .set("BusinessEmail", address);
+    };
+    setAddress("bob@wrong.example");
+    mail.answers = {{Outcome::failed, "550 nobody of that name"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later));
+    setAddress("bob@client.example");
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+    EXPECT_EQ(rows().text("Recipient"), "bob@client.example");
+}
+
+TEST_F(NotificationDeliveryTest, ADeletedClientAndNoClientAreToldApart)
+{
+    addAppointment(email);
+    Rows::change(*database, "SELECT Contacts.* FROM Contacts;").deleteCurrent();
+    EXPECT_EQ(deliverOne().reason, "the client is gone");
+    EXPECT_EQ(rows().text("LastError"), "the client is gone");
+    change("Appointments", "ContactIDNum", "-1");
+    present = at(9);
+    EXPECT_EQ(deliverOne().reason, "the item has no client");
+    EXPECT_THAT(mail.messages, IsEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, TheClientWhoGotItIsOnRecord)
+{
+    addAppointment(email);
+    const auto other =
+        addRow(*database, "Companies", {{"CompanyName", "Granite Ltd."}, {"Email", "info@granite.example"}});
+    change("Appointments", "ContactIDNum", "-1");
+    change("Appointments", "CompanyIDNum", std::to_string(other));
+    EXPECT_EQ(deliverOne().recipient, "info@granite.example");
+    EXPECT_EQ(mail.messages.front().to.name, "Granite Ltd.");
+    EXPECT_EQ(rows().integer("CompanyIDNum"), other);
+    EXPECT_EQ(rows().integer("ContactIDNum"), -1);
+}
+
+TEST_F(NotificationDeliveryTest, TwoRowsForOneClientAreSentOnce)
+{
+    const std::int32_t item = addAppointment(email);
+    const std::int32_t second = addRow(*database, "ClientNotification",
+                                       {{"AppointmentNum", std::to_string(item)},
+                                        {"NotificationType", "1"},
+                                        {"NotificationDate", "2026-03-01"},
+                                        {"ContactIDNum", std::to_string(contact)}});
+    const std::vector<Delivery> done = deliver();
+    ASSERT_THAT(done, SizeIs(2));
+    EXPECT_EQ(done[0].id, second);
+    EXPECT_EQ(done[0].step, DeliveryStep::cancelled);
+    EXPECT_EQ(done[0].reason, "notification " + std::to_string(done[1].id) + " tells the same");
+    EXPECT_EQ(done[1].step, DeliveryStep::sent);
+    EXPECT_THAT(mail.messages, SizeIs(1));
+}
+
+TEST_F(NotificationDeliveryTest, WhatAnotherHostHasSentIsLeftAlone)
+{
+    addAppointment(email);
+    change("ClientNotification", "NotificationSent", "True");
+    EXPECT_THAT(run(), IsEmpty());
+    EXPECT_EQ(delivery().markSent(rows().integer("ClientNotificationID")), Settlement::sentAlready);
+}
+
+TEST_F(NotificationDeliveryTest, AServerThatIsNotThereIsTriedOnceInARun)
+{
+    addAppointment(email);
+    addAppointment(email | AutoNotifyService::phone);
+    mail.answers = {{Outcome::unreachable, "no route"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed, DeliveryStep::later, DeliveryStep::byHand));
+    EXPECT_THAT(mail.messages, SizeIs(1));
+    EXPECT_EQ(rows("NotificationType = 1").integer("Attempts"), 1);
+    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
+    present = at(8, 5);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent, DeliveryStep::sent, DeliveryStep::byHand));
+}
+
+TEST_F(NotificationDeliveryTest, AFailureOfOneMessageLeavesTheOthers)
+{
+    addAppointment(email);
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "550 nobody of that name"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed, DeliveryStep::sent));
+}
+
+TEST_F(NotificationDeliveryTest, AClockThatIsPutBackHoldsNothingUp)
+{
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "no route"}};
+    present = Date::of(2026, 3, 3, 12);
+    run();
+    present = at(8);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
+}
+
+TEST_F(NotificationDeliveryTest, AnAttemptOfTheFutureIsLeftBehind)
+{
+    addAppointment(email);
+    mail.whileSending = [] { throw std::runtime_error("the process dies here"); };
+    EXPECT_THROW(deliver(), std::runtime_error);
+    present = at(7);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
+}
+
+TEST_F(NotificationDeliveryTest, DeliversUnderTheLockAlone)
+{
+    addAppointment(email);
+    const DeliveryLock second(folder.file("lock"));
+    EXPECT_THROW(delivery().run(second), RunTimeError);
+    EXPECT_THAT(mail.messages, IsEmpty());
+}
+
 TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
 {
     const auto odd =
@@ -246,20 +382,24 @@ TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
 
 TEST_F(NotificationDeliveryTest, TheAttemptIsOnRecordBeforeItBegins)
 {
+    bool isSecure = false;
     addAppointment(email);
     mail.whileSending = [&] {
         EXPECT_EQ(state(), DeliveryState::sending);
         EXPECT_EQ(rows().text("MessageID"), mail.messages.back().messageID);
         EXPECT_EQ(rows().integer("Attempts"), 1);
+        EXPECT_TRUE(isSecure);
     };
+    secureRecord = [&] { isSecure = state() == DeliveryState::sending; };
     run();
+    EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
 TEST_F(NotificationDeliveryTest, AnAttemptThatNobodyEndedIsLookedAtAndNeverRepeated)
 {
     addAppointment(email);
     mail.whileSending = [] { throw std::runtime_error("the process dies here"); };
-    EXPECT_THROW(delivery().run(), std::runtime_error);
+    EXPECT_THROW(deliver(), std::runtime_error);
     mail.whileSending = nullptr;
 
     present = at(8, 14);
@@ -276,26 +416,45 @@ TEST_F(NotificationDeliveryTest, AnUnknownOutcomeIsForAPersonToSettle)
 {
     addAppointment(email);
     mail.answers = {{Outcome::unknown, "the connection broke"}};
-    const std::vector<Delivery> first = delivery().run();
+    const std::vector<Delivery> first = deliver();
     ASSERT_THAT(first, SizeIs(1));
     EXPECT_EQ(first[0].step, DeliveryStep::unknown);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
     EXPECT_THAT(mail.messages, SizeIs(1));
 
-    EXPECT_TRUE(delivery().tryAgain(first[0].id));
+    EXPECT_EQ(delivery().tryAgain(first[0].id), Settlement::done);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
     EXPECT_THAT(mail.messages, SizeIs(2));
-    EXPECT_FALSE(delivery().tryAgain(first[0].id)) << "it was sent";
-    EXPECT_FALSE(delivery().markSent(99));
+    EXPECT_EQ(mail.messages[0].messageID, mail.messages[1].messageID) << "so that two copies are known for one";
+    EXPECT_EQ(delivery().tryAgain(first[0].id), Settlement::sentAlready);
+    EXPECT_EQ(delivery().markSent(99), Settlement::noSuch);
+}
+
+TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotRepeatAnUnknownOne)
+{
+    const std::int32_t id = addAppointment(email);
+    mail.answers = {{Outcome::unknown, "the connection broke"}};
+    run();
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.itemID(id);
+    ASSERT_TRUE(item.loadCalendarItem());
+    for (const std::uint8_t channels : {std::uint8_t{0}, email}) {
+        item.notifyType(channels);
+        item.notifiedDate(Date::of(2026, 3, 2));
+        ASSERT_TRUE(item.saveCalendarItem());
+    }
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
+    EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
 TEST_F(NotificationDeliveryTest, AnUnknownOneThatArrivedIsMarked)
 {
     addAppointment(email);
     mail.answers = {{Outcome::unknown, "the connection broke"}};
-    const std::int32_t id = delivery().run().front().id;
-    EXPECT_TRUE(delivery().markSent(id));
-    EXPECT_FALSE(delivery().markSent(id));
+    const std::int32_t id = deliverOne().id;
+    EXPECT_EQ(delivery().markSent(id), Settlement::done);
+    EXPECT_EQ(delivery().markSent(id), Settlement::sentAlready);
     EXPECT_THAT(run(), IsEmpty());
 }
 
@@ -313,6 +472,40 @@ TEST_F(NotificationDeliveryTest, AnItemDeletedWhileItsMessageIsOnItsWayLeavesNot
     mail.whileSending = [&] { deleteAppointment(id); };
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
     EXPECT_TRUE(rows().isEmpty());
+}
+
+TEST_F(NotificationDeliveryTest, WhatChangesDuringARunCounts)
+{
+    const std::int32_t first = addAppointment(email);
+    const std::int32_t second = addAppointment(email, contact, at(9));
+    const std::int32_t third = addAppointment(email);
+    addAppointment(email);
+    ASSERT_LT(first, second);
+    mail.whileSending = [&] {
+        if (mail.messages.size() > 1)
+            return;
+        present = at(9);
+        deleteAppointment(third);
+        change("Contacts", "BusinessEmail", "ann@new.example");
+    };
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent, DeliveryStep::tooLate, DeliveryStep::sent));
+    ASSERT_THAT(mail.messages, SizeIs(2));
+    EXPECT_EQ(mail.messages[1].to.address, "ann@new.example");
+}
+
+TEST_F(NotificationDeliveryTest, AMarkOfAPersonDuringTheAttemptHolds)
+{
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "no route"}};
+    mail.whileSending = [&] {
+        const std::int32_t id = rows().integer("ClientNotificationID");
+        EXPECT_EQ(delivery().markSent(id), Settlement::beingSent);
+        EXPECT_EQ(delivery().tryAgain(id), Settlement::beingSent);
+        present = at(9);
+        EXPECT_EQ(delivery().markSent(id), Settlement::done);
+    };
+    run();
+    EXPECT_EQ(state(), DeliveryState::sent);
 }
 
 TEST_F(NotificationDeliveryTest, ARowWhoseItemIsGoneIsCancelled)
@@ -344,21 +537,29 @@ TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotSendTwice)
 TEST_F(NotificationDeliveryTest, FaxesAndCallsAreListedUntilSomebodyMadeThem)
 {
     addAppointment(AutoNotifyService::fax | AutoNotifyService::phone);
-    const std::vector<Delivery> list = delivery().run();
+    const std::vector<Delivery> list = deliver();
     ASSERT_THAT(list, SizeIs(2));
     EXPECT_EQ(list[0].step, DeliveryStep::byHand);
     EXPECT_EQ(list[0].recipient, "555-0102");
     EXPECT_EQ(list[0].person, "Ann Stone");
     EXPECT_EQ(list[1].step, DeliveryStep::byHand);
     EXPECT_EQ(list[1].recipient, "555-0103");
-    EXPECT_TRUE(delivery().markSent(list[0].id));
+    EXPECT_EQ(list[1].reason, "");
+    EXPECT_EQ(delivery().markSent(list[0].id), Settlement::done);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::byHand));
+}
+
+TEST_F(NotificationDeliveryTest, ACallWithoutANumberSaysSo)
+{
+    change("Contacts", "HomePhone_Main", "");
+    addAppointment(AutoNotifyService::phone);
+    EXPECT_EQ(deliverOne().reason, "the client has no telephone number");
 }
 
 TEST_F(NotificationDeliveryTest, WritesALetterOnce)
 {
     addAppointment(AutoNotifyService::letter);
-    const std::vector<Delivery> list = delivery().run();
+    const std::vector<Delivery> list = deliver();
     ASSERT_THAT(list, SizeIs(1));
     EXPECT_EQ(list[0].step, DeliveryStep::sent);
     std::ifstream file(list[0].recipient);
@@ -383,7 +584,7 @@ TEST_F(NotificationDeliveryTest, WithoutMeansEverythingWaits)
 {
     addAppointment(email | AutoNotifyService::letter);
     NotificationDelivery bare(database, {});
-    const std::vector<Delivery> list = bare.run();
+    const std::vector<Delivery> list = bare.run(lock);
     ASSERT_THAT(list, SizeIs(2));
     EXPECT_EQ(list[0].step, DeliveryStep::later);
     EXPECT_EQ(list[0].reason, "no mail server is set");

@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace qncal::host {
@@ -12,6 +13,7 @@ namespace {
 
 using test::SmtpServer;
 using testing::HasSubstr;
+using testing::Not;
 using testing::SizeIs;
 using Outcome = MailResult::Outcome;
 using Security = SmtpSettings::Security;
@@ -61,7 +63,9 @@ TEST_F(SmtpTransportTest, SignsIn)
     EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
     settings.user = "firm";
     settings.password = "wrong";
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+    const MailResult refused = SmtpTransport(settings).send(message());
+    EXPECT_EQ(refused.outcome, Outcome::unreachable);
+    EXPECT_THAT(refused.reason, HasSubstr("refuses the user or the password"));
     settings.password = "secret";
     const MailResult result = SmtpTransport(settings).send(message());
     EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
@@ -80,7 +84,7 @@ TEST_F(SmtpTransportTest, EncryptsWithStartTlsAndTrustsOnlyTheCertificatesItIsGi
     SmtpSettings settings = settingsFor(server);
     EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "without encryption";
     settings.security = Security::startTls;
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "of an unknown server";
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << "of an unknown server";
     settings.certificates = certificate;
     const MailResult result = SmtpTransport(settings).send(message());
     EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
@@ -91,9 +95,11 @@ TEST_F(SmtpTransportTest, SendsNothingToAServerThatCannotEncrypt)
 {
     const SmtpServer server("good", folder.path());
     SmtpSettings settings = settingsFor(server);
+    settings.user = "firm";
+    settings.password = "secret";
     for (const Security security : {Security::startTls, Security::tls}) {
         settings.security = security;
-        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable);
     }
     EXPECT_THAT(server.messages(), SizeIs(0));
 }
@@ -106,8 +112,32 @@ TEST_F(SmtpTransportTest, SaysThatNobodyListens)
         settings = settingsFor(server);
     }
     const MailResult result = SmtpTransport(settings).send(message());
-    EXPECT_EQ(result.outcome, Outcome::failed);
+    EXPECT_EQ(result.outcome, Outcome::unreachable);
     EXPECT_THAT(result.reason, HasSubstr("127.0.0.1"));
+}
+
+TEST_F(SmtpTransportTest, NoReasonRepeatsThePassword)
+{
+    const SmtpServer server("tellPassword", folder.path());
+    SmtpSettings settings = settingsFor(server);
+    settings.user = "firm";
+    settings.password = "secret";
+    const MailResult result = SmtpTransport(settings).send(message());
+    EXPECT_EQ(result.outcome, Outcome::unreachable);
+    EXPECT_THAT(result.reason, HasSubstr("refuses the user or the password"));
+    EXPECT_THAT(result.reason, Not(HasSubstr("secret")));
+    EXPECT_THAT(result.reason, Not(HasSubstr("AGZpcm0Ac2VjcmV0")));
+}
+
+TEST_F(SmtpTransportTest, ARecipientsNameWithLineBreaksBringsNoOtherRecipient)
+{
+    const SmtpServer server("good", folder.path());
+    MailMessage odd = message();
+    odd.to.name = "Zoe\r\nBcc: all@client.example\r\n\r\nbody";
+    EXPECT_EQ(SmtpTransport(settingsFor(server)).send(odd).outcome, Outcome::sent);
+    ASSERT_THAT(server.messages(), SizeIs(1));
+    EXPECT_THAT(server.messages()[0], HasSubstr("X-Envelope: office@firm.example ['zoe@client.example']\r\n"));
+    EXPECT_THAT(server.messages()[0], Not(HasSubstr("\nBcc:")));
 }
 
 TEST_F(SmtpTransportTest, RefusesUnsafeAddressesBeforeItConnects)
@@ -137,17 +167,34 @@ TEST_P(BadSmtpServerTest, HasTheOutcomeThatIsCertain)
     EXPECT_EQ(result.outcome, GetParam().outcome) << result.reason;
     EXPECT_THAT(result.reason, HasSubstr(GetParam().words));
     EXPECT_NE(result.reason, "");
+    EXPECT_TRUE(std::ranges::all_of(result.reason, [](char c) { return c >= ' ' && c < '\x7F'; })) << result.reason;
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, BadSmtpServerTest,
-                         testing::Values(BadServerRow{"refuseRecipient", Outcome::failed, "550"},
-                                         BadServerRow{"busy", Outcome::failed, "451"},
-                                         BadServerRow{"refuseMessage", Outcome::failed, "554"},
-                                         BadServerRow{"hang", Outcome::failed, "", 400},
-                                         BadServerRow{"garbage", Outcome::failed, "", 400},
+                         testing::Values(BadServerRow{"refuse", Outcome::unreachable, "554 5.3.2 no mail here"},
+                                         BadServerRow{"close", Outcome::unreachable, ""},
+                                         BadServerRow{"hang", Outcome::unreachable, "", 400},
+                                         BadServerRow{"garbage", Outcome::unreachable, "", 400},
+                                         BadServerRow{"refuseRecipient", Outcome::failed,
+                                                      "the mail server said: 550 5.1.1 nobody of that name"},
+                                         BadServerRow{"busy", Outcome::failed,
+                                                      "the mail server said: 451 4.7.1 come back later"},
+                                         BadServerRow{"hangAtRecipient", Outcome::unreachable, "", 3000},
+                                         BadServerRow{"garbageAtRecipient", Outcome::unreachable, "", 3000},
+                                         BadServerRow{"closeBeforeMessage", Outcome::failed, ""},
+                                         BadServerRow{"refuseData", Outcome::failed, "452 4.3.1 no room"},
+                                         BadServerRow{"closeInMessage", Outcome::unknown, ""},
+                                         BadServerRow{"refuseMessage", Outcome::failed, "554 5.7.1 not this one"},
+                                         BadServerRow{"postponeMessage", Outcome::failed, "451 4.3.0 try again"},
                                          BadServerRow{"closeAfterMessage", Outcome::unknown, ""},
-                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000}),
+                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000},
+                                         BadServerRow{"garbageAfterMessage", Outcome::unknown, "", 3000}),
                          [](const auto& row) { return row.param.mode; });
+
+TEST_F(SmtpTransportTest, AServerThatHangsAtTheFarewellHasTheMessage)
+{
+    EXPECT_EQ(sendTo("hangAtFarewell", std::chrono::seconds(1)).outcome, Outcome::sent);
+}
 
 /// Larger than what the system takes over at once, so that the message is certainly not out.
 TEST_F(SmtpTransportTest, AConnectionThatClosesInALongMessageHasFailed)

@@ -265,6 +265,124 @@ TEST_F(ReminderLoopTest, AReminderThatWasMovedAheadComesAgain)
     EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
 }
 
+TEST_F(ReminderLoopTest, AReminderThatMovedAheadWhileNobodySweptIsMissedAndComes)
+{
+    const auto moved = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(moved, at(11, 0));
+    present = at(11, 30);
+    const auto other = addReminder(at(11, 30));
+    ReminderLoop next(database, display);
+    display.calls.clear();
+    next.sweep();
+    EXPECT_THAT(display.calls, ElementsAre("missed " + std::to_string(moved), "show " + std::to_string(other)));
+    display.calls.clear();
+    next.sweep();
+    EXPECT_THAT(display.calls, IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, AllThatMovedAheadComeAgainHoweverMany)
+{
+    std::vector<std::int32_t> moved;
+    for (int i = 0; i < 70; ++i)
+        moved.push_back(addReminder(at(8, 59, i % 60)));
+    loop.sweep();
+    for (const std::int32_t id : moved)
+        moveTo(id, at(10, 0, id % 60));
+    present = at(10, 1);
+    display.shown.clear();
+    EXPECT_EQ(loop.sweep(), moved.size());
+    EXPECT_EQ(display.shown.size(), moved.size());
+    EXPECT_EQ(loop.sweep(), 0u);
+}
+
+TEST_F(ReminderLoopTest, AReminderOfAnotherUserThatMovedComesToThatUser)
+{
+    const auto others = addReminder(at(9, 0), 2);
+    ReminderLoop ofSecond(database, display, 2);
+    ofSecond.sweep();
+    moveTo(others, at(10, 0));
+    present = at(10, 5);
+    addReminder(at(10, 5), 1);
+    ReminderLoop ofFirst(database, display, 1);
+    ofFirst.sweep();
+    display.calls.clear();
+    ofSecond.sweep();
+    EXPECT_THAT(display.calls, ElementsAre("show " + std::to_string(others)));
+}
+
+TEST_F(ReminderLoopTest, AReminderThatMovedBackWasSeenAlready)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(id, at(7, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, SavingTheItemOfASnoozedReminderThatCameDoesNotBringItAgain)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    loop.snooze(id, 25);
+    present = at(9, 25);
+    loop.sweep();
+    moveTo(id, at(9, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, AReminderDismissedAheadComesWhenItMovesNearer)
+{
+    const auto id = addReminder(at(16, 0));
+    loop.dismiss(id);
+    moveTo(id, at(12, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    present = at(12, 0);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, WithdrawsFromTheScreenWhatHasMoved)
+{
+    const auto id = addReminder(at(9, 0));
+    display.stay = ReminderDisplay::Stay::onScreen;
+    loop.sweep();
+    moveTo(id, at(9, 30));
+    EXPECT_THAT(sweepCalls(), ElementsAre("withdraw " + std::to_string(id)));
+    present = at(9, 30);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, AnAnswerToAReminderThatHasMovedLeavesItsNewMoment)
+{
+    display.stay = ReminderDisplay::Stay::onScreen;
+    for (const bool snoozes : {false, true}) {
+        present = at(9, 0);
+        const auto id = addReminder(present);
+        loop.sweep();
+        moveTo(id, at(11, 0));
+        EXPECT_EQ(snoozes ? loop.snooze(id, 5) : loop.dismiss(id), Outcome::done);
+        present = at(10, 0);
+        EXPECT_THAT(sweepCalls(), IsEmpty());
+        present = at(11, 0);
+        EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+        EXPECT_EQ(loop.dismiss(id), Outcome::done);
+        EXPECT_TRUE(row(id).boolean("Completed"));
+    }
+}
+
+TEST_F(ReminderLoopTest, AReminderWithoutATimeIsDueAtTheBeginningOfItsDay)
+{
+    const auto id = addReminder(at(0, 0));
+    row(id).set("ReminderTime", {});
+    present = at(0, 1);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, AReminderWithoutADayNeverComes)
+{
+    row(addReminder(at(9, 0))).set("ReminderDate", {});
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
 TEST_F(ReminderLoopTest, AClockThatIsPutBackBringsNothingTwice)
 {
     addReminder(at(9, 0));
@@ -334,6 +452,7 @@ private:
     }
 };
 
+/// How the engine answers a statement on the file.
 std::string planOf(const std::string& file, const std::string& sql)
 {
     sqlite3* connection = nullptr;
@@ -348,31 +467,65 @@ std::string planOf(const std::string& file, const std::string& sql)
     return plan;
 }
 
-TEST(ReminderLoopPlanTest, EveryStatementOfASweepSearchesTheIndexOfTheDueRows)
+void execute(const std::string& file, const char* sql)
 {
-    const TemporaryFolder folder;
-    const std::string file = folder.file("plan.db");
-    const StatementTrace trace;
-    const std::shared_ptr<SqliteDatabase> database = SqliteDatabase::create(file);
-    addRow(*database, "Reminders", {{"ReminderDate", "2026-03-02"}, {"ReminderTime", "08:59:00"}});
-    database->flush();
-    const ClockOverride clock(Date::of(2026, 3, 2, 9));
-    RecordingDisplay display;
-    ReminderLoop loop(database, display, 1);
-    StatementTrace::statements().clear();
-    loop.sweep();
+    sqlite3* connection = nullptr;
+    sqlite3_open(file.c_str(), &connection);
+    EXPECT_EQ(sqlite3_exec(connection, sql, nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(connection);
+}
 
-    std::size_t sweeping = 0;
-    for (const std::string& sql : StatementTrace::statements()) {
-        if (sql.find("FROM \"Reminders\"") == std::string::npos || sql.find("Completed") == std::string::npos)
-            continue;
-        const std::string plan = planOf(file, sql);
-        EXPECT_EQ(plan.find("SCAN"), std::string::npos) << sql << "\n" << plan;
-        EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << sql << "\n" << plan;
-        if (plan.find("Reminders_Completed_ReminderDate_ReminderTime") != std::string::npos)
-            ++sweeping;
+class ReminderFileTest : public testing::Test {
+protected:
+    ReminderFileTest()
+    {
+        addRow(*database, "Reminders",
+               {{"UserIDNum", "1"}, {"ReminderDate", "2026-03-02"}, {"ReminderTime", "08:59:00"}});
+        database->flush();
     }
-    EXPECT_GE(sweeping, 4u) << testing::PrintToString(StatementTrace::statements());
+
+    TemporaryFolder folder;
+    std::string file = folder.file("reminders.db");
+    ClockOverride clock{Date::of(2026, 3, 2, 9)};
+    RecordingDisplay display;
+    const StatementTrace trace;
+    std::shared_ptr<SqliteDatabase> database = SqliteDatabase::create(file, SqliteDatabase::Options{.busyTimeout = 10});
+};
+
+TEST_F(ReminderFileTest, EveryStatementOfASweepSearchesTheIndexOfTheDueRows)
+{
+    StatementTrace::statements().clear();
+    ReminderLoop(database, display, 1).sweep();
+    std::vector<std::string> sweeping;
+    std::ranges::copy_if(StatementTrace::statements(), std::back_inserter(sweeping), [](const std::string& sql) {
+        return sql.find("FROM \"Reminders\"") != std::string::npos && sql.find("\"Completed\" =") != std::string::npos;
+    });
+    ASSERT_THAT(sweeping, testing::SizeIs(4)) << testing::PrintToString(StatementTrace::statements());
+    for (const std::string& sql : sweeping) {
+        const std::string plan = planOf(file, sql);
+        EXPECT_THAT(plan, testing::HasSubstr("Reminders_Completed_ReminderDate_ReminderTime")) << sql;
+        EXPECT_THAT(plan, testing::Not(testing::HasSubstr("SCAN"))) << sql;
+        EXPECT_THAT(plan, testing::Not(testing::HasSubstr("TEMP B-TREE"))) << sql;
+    }
+
+    database->close();
+    execute(file, "DROP INDEX Reminders_Completed_ReminderDate_ReminderTime");
+    for (const std::string& sql : sweeping)
+        EXPECT_THAT(planOf(file, sql), testing::HasSubstr("SCAN")) << "what it would be without the index: " << sql;
+}
+
+TEST_F(ReminderFileTest, WhatCouldNotBeMarkedInALockedDatabaseComesAgain)
+{
+    ReminderLoop loop(database, display);
+    sqlite3* other = nullptr;
+    sqlite3_open(file.c_str(), &other);
+    ASSERT_EQ(sqlite3_exec(other, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), SQLITE_OK);
+    EXPECT_THROW(loop.sweep(), RunTimeError);
+    EXPECT_THAT(display.calls, ElementsAre("show 1"));
+    ASSERT_EQ(sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr), SQLITE_OK);
+    sqlite3_close(other);
+    EXPECT_EQ(loop.sweep(), 1u);
+    EXPECT_EQ(loop.sweep(), 0u);
 }
 
 } // namespace
