@@ -4,6 +4,7 @@
 #include "firmcal/valueText.h"
 #include "popups/ReminderLoop.h"
 #include "store/SqliteDatabase.h"
+#include "utilities/RunTimeError.h"
 
 #include <nlohmann/json.hpp>
 
@@ -36,6 +37,7 @@ public:
     Stay show(const host::Reminder& reminder) override
     {
         print(reminder, false);
+        requirePrinted();
         return Stay::gone;
     }
     Stay showMissed(const std::vector<host::Reminder>& reminders) override
@@ -44,6 +46,7 @@ public:
             context_.out() << "Missed meanwhile:\n";
         for (const host::Reminder& reminder : reminders)
             print(reminder, true);
+        requirePrinted();
         return Stay::gone;
     }
     /// Nothing printed can be taken away.
@@ -52,6 +55,12 @@ public:
     const Json& collected() const { return collected_; }
 
 private:
+    /// A reminder counts as shown when it has left the program.
+    void requirePrinted()
+    {
+        if (!context_.out().flush())
+            throw Failure("the reminders cannot be printed");
+    }
     void print(const host::Reminder& reminder, bool missed)
     {
         const std::string userName = context_.host().clients().getUserName(reminder.userID);
@@ -90,10 +99,14 @@ void answer(CommandContext& context, std::int32_t id, host::ReminderLoop::Outcom
 void follow(CommandContext& context, host::ReminderLoop& loop, const RemindOptions& options)
 {
     for (int sweep = 1;; ++sweep) {
-        loop.sweep();
-        // Nobody knows when this ends: what was shown is stored now.
-        context.database().flush();
-        context.out().flush();
+        try {
+            loop.sweep();
+            // Nobody knows when this ends: what was shown is stored now.
+            context.database().flush();
+        } catch (const RunTimeError& error) {
+            // Such as a database that another program keeps locked for long.
+            context.err() << "firmcal: " << error.what() << "; looking again" << std::endl;
+        }
         if (sweep == options.sweeps)
             return;
         std::this_thread::sleep_for(std::chrono::seconds(options.interval));
