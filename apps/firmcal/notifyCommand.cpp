@@ -66,10 +66,16 @@ host::SmtpSettings readSettings(const std::string& file)
         } catch (const std::exception& error) {
             throw Failure(file + ": " + error.what());
         }
+        if (stream.bad())
+            throw Failure("the mail settings " + file + " cannot be read");
     }
-    host::readSmtpEnvironment(settings);
-    if (!file.empty() || !settings.server.empty())
-        host::checkSmtpSettings(settings);
+    try {
+        host::readSmtpEnvironment(settings);
+        if (!file.empty() || !settings.server.empty())
+            host::checkSmtpSettings(settings);
+    } catch (const std::exception& error) {
+        throw Failure(std::string("the mail settings: ") + error.what());
+    }
     return settings;
 }
 
@@ -166,7 +172,7 @@ void complainAbout(const std::vector<Delivery>& deliveries)
     const auto unknown = count(DeliveryStep::unknown);
     std::string text;
     if (failed > 0)
-        text = std::to_string(failed) + " failed and will be tried again";
+        text = std::to_string(failed) + " failed and will be tried again; --again ID does so at once";
     if (unknown > 0)
         text += (text.empty() ? "" : "; ") + std::to_string(unknown)
                 + " may have been sent or not: settle with --done ID or --again ID";
@@ -226,14 +232,15 @@ void addNotifyCommand(CLI::App& program, CommandContext& context)
         ->type_name("ID")
         ->excludes(once)
         ->excludes(dryRun);
-    command->add_option("--again", options->again, "Send these again, although they may have been sent")
+    command->add_option("--again", options->again, "Try these again at once, also those that may have been sent")
         ->type_name("ID")
         ->excludes(once)
         ->excludes(dryRun);
-    command->footer("Exit status 1 while something failed or has to be looked at.\n"
+    command->footer("Exit status 1 when something failed or has to be looked at.\n"
                     "The settings are lines 'name = value': server, port, security (starttls, tls, none), user,\n"
-                    "password, from, fromName, certificates, timeout. Variables FIRMCAL_SMTP_SERVER, _PASSWORD and so\n"
-                    "on go before them. A server is reached with STARTTLS unless security says otherwise.\n"
+                    "password, from, fromName, certificates, timeout (seconds). The variables FIRMCAL_SMTP_SERVER,\n"
+                    "_PORT, _SECURITY, _USER, _PASSWORD, _FROM, _FROM_NAME, _CERTIFICATES and _TIMEOUT go before\n"
+                    "them. A server is reached with STARTTLS unless security says otherwise.\n"
                     "Examples:\n"
                     "  firmcal notify\n"
                     "  firmcal notify --once --smtp mail.conf --letters letters\n"

@@ -52,7 +52,10 @@ std::string byKey(std::int32_t id)
 std::string colourOf(const host::Rows& row, std::string_view column)
 {
     const Variant value = row.field(column);
-    return value.isNull() ? std::string() : colourText(value.toInteger());
+    if (value.isNumeric())
+        return colourText(value.toInteger());
+    // Another program may have stored a text there: it is shown as it stands.
+    return value.isNull() ? std::string() : value.toText();
 }
 
 void listSchemes(CommandContext& context, const SchemeOptions& options)

@@ -101,8 +101,11 @@ bool isServerName(const std::string& server)
 
 void readSmtpSettings(std::istream& file, SmtpSettings& settings)
 {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
+        if (number == 1 && line.starts_with(byteOrderMark))
+            line.erase(0, byteOrderMark.size());
         try {
             readLine(line, settings);
         } catch (const RunTimeError& error) {
@@ -128,14 +131,14 @@ void readSmtpEnvironment(SmtpSettings& settings)
 void checkSmtpSettings(const SmtpSettings& settings)
 {
     if (settings.server.empty())
-        refuse("no mail server is set");
+        refuse("no mail server is set (server)");
     if (!isServerName(settings.server))
         refuse("'" + settings.server + "' is no name of a server; the port is a setting of its own");
     if (!isMailAddress(settings.from.address))
-        refuse(settings.from.address.empty() ? "no sender's address is set"
+        refuse(settings.from.address.empty() ? "no sender's address is set (from)"
                                              : "the sender's '" + settings.from.address + "' is no e-mail address");
     if (settings.user.empty() != settings.password.empty())
-        refuse(settings.user.empty() ? "there is a password, and no user" : "the user has no password");
+        refuse(settings.user.empty() ? "there is a password, and no user" : "the user has no password (password)");
     if (!settings.password.empty() && settings.security == SmtpSettings::Security::none
         && !isThisMachine(settings.server))
         refuse("a password goes to " + settings.server + " with starttls or tls alone");

@@ -1,8 +1,10 @@
 #include "services/NotificationLedger.h"
 
+#include "items/modHolidayCtrl.h"
 #include "services/DeliveryState.h"
 #include "services/Rows.h"
 #include "services/notifiedItem.h"
+#include "utilities/dateText.h"
 
 namespace qncal::host {
 
@@ -14,10 +16,9 @@ std::string rowByKey(std::int32_t notificationID)
            + std::to_string(notificationID) + ";";
 }
 
-ItemClient clientOfItem(DatabaseService& database, std::int16_t kind, std::int32_t itemID)
+NotifiedItem itemOf(DatabaseService& database, std::int16_t kind, std::int32_t itemID)
 {
-    const auto item = readNotifiedItem(database, static_cast<enumLocalCalendarItemType>(kind), itemID);
-    return item ? item->client : ItemClient{};
+    return readNotifiedItem(database, static_cast<enumLocalCalendarItemType>(kind), itemID).value_or(NotifiedItem{});
 }
 
 bool mayHaveBeenSent(const Rows& row) { return row.boolean("NotificationSent"); }
@@ -30,6 +31,16 @@ void rearm(Rows& row)
         return;
     row.set("DeliveryState", std::to_string(static_cast<std::int32_t>(DeliveryState::waiting)));
     row.set("LastError", {});
+}
+
+/// An item that moves to before the day of its notification takes it along, to the last working day before it.
+void keepAhead(Rows& row, const NotifiedItem& item)
+{
+    const Variant date = row.field("NotificationDate");
+    if (item.id < 0 || item.start == noDate || date.isNull() || date.toDate() <= item.start)
+        return;
+    const Date dayBefore = item.start.dateOnly().addDays(-1);
+    row.set("NotificationDate", defaultDateText(modHolidayCtrl::adjustDateToFridayIfWeekendOrHoliday(dayBefore)));
 }
 
 void setClient(Rows& row, const ItemClient& client)
@@ -49,7 +60,7 @@ bool NotificationLedger::notificationExists(std::int16_t kind, std::int32_t item
 std::int32_t NotificationLedger::getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
 {
     const std::string column(itemColumn(kind));
-    const ItemClient client = clientOfItem(*database_, kind, itemID);
+    const ItemClient client = itemOf(*database_, kind, itemID).client;
     std::int32_t found = -1;
     for (Rows row = Rows::read(*database_, "SELECT ClientNotification.* FROM ClientNotification WHERE " + column + "="
                                                + std::to_string(itemID) + " AND NotificationType="
@@ -98,7 +109,9 @@ void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notifi
     row.set(column, std::to_string(itemID));
     if (mayHaveBeenSent(row))
         return;
-    setClient(row, clientOfItem(*database_, kind, itemID));
+    const NotifiedItem item = itemOf(*database_, kind, itemID);
+    setClient(row, item.client);
+    keepAhead(row, item);
     rearm(row);
     row.close();
 }
@@ -138,7 +151,7 @@ void NotificationLedger::deleteNotification(std::int32_t notificationID)
 std::int32_t NotificationLedger::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
 {
     const std::string_view column = itemColumn(kind);
-    const ItemClient client = clientOfItem(*database_, kind, itemID);
+    const ItemClient client = itemOf(*database_, kind, itemID).client;
     return addRow(*database_, "ClientNotification",
                   {{column, std::to_string(itemID)},
                    {"NotificationType", std::to_string(channel)},

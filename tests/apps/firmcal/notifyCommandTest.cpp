@@ -111,7 +111,7 @@ TEST_F(NotifyCommandTest, FailsWhileSomethingFailed)
     const SmtpServer server("busy", folder() / "mails");
     const Outcome outcome = run({"notify", "--once", "--smtp", settingsFor(server)});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, "firmcal: 1 failed and will be tried again\n");
+    EXPECT_EQ(outcome.err, "firmcal: 1 failed and will be tried again; --again ID does so at once\n");
     EXPECT_THAT(outcome.out, HasSubstr("451"));
     const Outcome soon = run({"notify", "--once", "--smtp", settingsFor(server)});
     EXPECT_EQ(soon.status, 0) << "it waits for its next attempt";
@@ -147,9 +147,10 @@ TEST_F(NotifyCommandTest, SaysWhatIsWrongWithTheSettings)
         return text;
     };
     EXPECT_EQ(errorOf("server\n"), "firmcal: FILE: line 1: a line is 'name = value'\n");
-    EXPECT_EQ(errorOf("server = 127.0.0.1\n"), "firmcal: no sender's address is set\n");
-    EXPECT_EQ(errorOf("# nothing\n"), "firmcal: no mail server is set\n");
+    EXPECT_EQ(errorOf("server = 127.0.0.1\n"), "firmcal: the mail settings: no sender's address is set (from)\n");
+    EXPECT_EQ(errorOf("# nothing\n"), "firmcal: the mail settings: no mail server is set (server)\n");
     EXPECT_EQ(run({"notify", "--smtp", "/none"}).err, "firmcal: the mail settings /none cannot be read\n");
+    EXPECT_EQ(run({"notify", "--smtp", "/"}).err, "firmcal: the mail settings / cannot be read\n");
     EXPECT_EQ(run({"notify", "--once", "--dry-run"}).status, 2);
 }
 

@@ -1,5 +1,7 @@
 #include "apps/firmcal/CommandLine.h"
 
+#include "store/SqliteConnection.h"
+
 #include <nlohmann/json.hpp>
 
 namespace qncal::firmcal::test {
@@ -61,6 +63,28 @@ TEST_F(SchemeCommandsTest, FindsASchemeByAnUnambiguousName)
     EXPECT_EQ(run({"scheme", "delete", "Urgent", "--kind", "task", "--yes"}).out, "colour scheme 1 deleted\n");
     EXPECT_EQ(run({"scheme", "set", "none", "--name", "x"}).err,
               "firmcal: no colour scheme 'none'; 'firmcal scheme list' shows them\n");
+}
+
+TEST_F(SchemeCommandsTest, ASchemeDeletedInUseLeavesItsItemsAsTheyAre)
+{
+    succeed(
+        {"item", "add", "Filing", "--kind", "task", "--date", "today", "--start", "9:30", "--set", "ColourSchemeID=1"});
+    const std::string before = rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;");
+    succeed({"scheme", "delete", "Urgent", "--kind", "task", "--yes"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    succeed({"item", "set", "1", "--kind", "task", "--subject", "Filing of papers"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    EXPECT_EQ(before, "{\"SchemeID\":1,\"TitleBackColour\":204,\"ForeColour\":197121}\n");
+}
+
+TEST_F(SchemeCommandsTest, ATextInAColourColumnIsShownAsItStands)
+{
+    succeed({"scheme", "add", "Odd", "--back", "#102030"});
+    host::SqliteConnection(database(), host::SqliteConnection::Access::readWrite, 1000)
+        .execute("UPDATE ColourSchemes SET TitleBackColour = 'red' WHERE SchemeName = 'Odd'");
+    const std::string list = output({"scheme", "list"});
+    EXPECT_NE(list.find("red"), std::string::npos) << list;
+    EXPECT_NE(list.find("#102030"), std::string::npos) << list;
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "settings/ColourSchemePage.h"
 
+#include "core/forwarding/ForwardingDatabaseService.h"
+#include "items/clsCalendarItem.h"
 #include "settings/colourSchemes.h"
 #include "support/ComponentTest.h"
 
@@ -114,6 +116,47 @@ TEST_F(ColourSchemePageTest, EmptyColoursShowTheFormerSchemesAndSavingStoresThem
     EXPECT_EQ(page.cpBackColour(0).colour(), 77);
     page.cmdSaveScheme_Click();
     EXPECT_EQ(cell("ColourSchemes", plain, "TitleBackColour"), "77");
+}
+
+/// A database into whose colour columns another program has written words.
+class WordsForColours : public ForwardingDatabaseService {
+public:
+    using ForwardingDatabaseService::ForwardingDatabaseService;
+    Variant getField(std::int32_t handle, std::string_view fieldName) override
+    {
+        return fieldName == "TitleBackColour" ? Variant(std::string("red"))
+                                              : ForwardingDatabaseService::getField(handle, fieldName);
+    }
+};
+
+TEST_F(ColourSchemePageTest, AColourColumnWithTextLeavesThePickerAsItWas)
+{
+    addScheme("Amber");
+    page.cpBackColour(0).colour(99);
+    serviceRegistry().database = std::make_shared<WordsForColours>(database);
+    page.setup(enumLocalCalendarAppointmentItem);
+    EXPECT_EQ(page.cpBackColour(0).colour(), 99);
+    EXPECT_EQ(page.cpBackColour(1).colour(), 2) << "the others are shown";
+}
+
+TEST_F(ColourSchemePageTest, AnItemKeepsTheNumberAndTheColoursOfADeletedScheme)
+{
+    const auto scheme = addScheme("Amber");
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.addNewItem();
+    item.ColourSchemeID(scheme);
+    ASSERT_TRUE(item.saveCalendarItem());
+    page.setup(enumLocalCalendarAppointmentItem);
+    page.cmdDeleteScheme_Click();
+    ASSERT_EQ(rowCount("ColourSchemes"), 0);
+
+    ASSERT_TRUE(item.loadCalendarItem());
+    EXPECT_EQ(item.ColourSchemeID(), scheme);
+    EXPECT_EQ(item.ColourSchemeName(), "");
+    EXPECT_EQ(item.ForeColour(), 4);
+    EXPECT_TRUE(item.saveCalendarItem());
+    EXPECT_EQ(cell("Appointments", item.itemID(), "SchemeID"), std::to_string(scheme));
 }
 
 TEST_F(ColourSchemePageTest, AnotherSchemeIsShownOnceTheFormerIsStored)

@@ -54,6 +54,13 @@ TEST(SmtpSettingsTest, ReadsEveryLineOfAFile)
     EXPECT_EQ(settings.timeout, std::chrono::seconds(20));
 }
 
+TEST(SmtpSettingsTest, ReadsAFileOfAnotherSystem)
+{
+    const SmtpSettings settings = readText("\xEF\xBB\xBFserver = mail.firm.example\r\nport = 25\r\n");
+    EXPECT_EQ(settings.server, "mail.firm.example");
+    EXPECT_EQ(settings.port, 25);
+}
+
 TEST(SmtpSettingsTest, EncryptsUnlessToldOtherwise)
 {
     EXPECT_EQ(readText("server = a\n").security, Security::startTls);
@@ -86,15 +93,15 @@ TEST(SmtpSettingsTest, ChecksWhatIsNeeded)
 {
     const auto check = [](const std::string& text) { return errorOf([&] { checkSmtpSettings(readText(text)); }); };
     EXPECT_EQ(check("server = a\nfrom = b@c\n"), "no error");
-    EXPECT_EQ(check("from = b@c\n"), "no mail server is set");
+    EXPECT_EQ(check("from = b@c\n"), "no mail server is set (server)");
     for (const char* server : {"a/b", "user@a", "a b", "a:25", "a?b", "smtp://a", "[a]"})
         EXPECT_EQ(check("server = " + std::string(server) + "\nfrom = b@c\n"),
                   "'" + std::string(server) + "' is no name of a server; the port is a setting of its own");
     for (const char* server : {"mail.firm.example", "127.0.0.1", "::1", "[::1]"})
         EXPECT_EQ(check("server = " + std::string(server) + "\nfrom = b@c\n"), "no error");
-    EXPECT_EQ(check("server = a\nfrom = b@c\nuser = u\n"), "the user has no password");
+    EXPECT_EQ(check("server = a\nfrom = b@c\nuser = u\n"), "the user has no password (password)");
     EXPECT_EQ(check("server = a\nfrom = b@c\npassword = p\n"), "there is a password, and no user");
-    EXPECT_EQ(check("server = a\n"), "no sender's address is set");
+    EXPECT_EQ(check("server = a\n"), "no sender's address is set (from)");
     EXPECT_EQ(check("server = a\nfrom = b\n"), "the sender's 'b' is no e-mail address");
 }
 
