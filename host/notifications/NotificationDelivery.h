@@ -1,49 +1,17 @@
 #pragma once
 
 #include "core/DatabaseService.h"
-#include "notifications/Correspondent.h"
 #include "notifications/DeliveryLock.h"
 #include "notifications/MailTransport.h"
+#include "notifications/deliveryPlan.h"
 #include "services/DeliveryState.h"
-#include "services/notifiedItem.h"
 
 #include <filesystem>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <vector>
 
 namespace qncal::host {
-
-class Rows;
-
-/// What delivery does, or did, with one notification.
-enum class DeliveryStep : std::uint8_t {
-    attempt,   ///< an e-mail to send or a letter to write
-    byHand,    ///< a fax or a call, for a person to do
-    later,     ///< waiting to be tried again, or being sent at this moment
-    sent,      ///< also: the letter is written
-    failed,    ///< will be tried again
-    tooLate,   ///< the item has begun
-    cancelled, ///< the item is gone, or another notification tells the same
-    unknown,   ///< may have been sent; nobody sends it again unless told to
-};
-
-/// A notification whose day has come.
-struct Delivery {
-    std::int32_t id = -1;
-    std::int32_t channel = 0;
-    NotifiedItem item;
-    DeliveryStep step = DeliveryStep::later;
-    /// Who gets it: the client, and the person there.
-    std::string client;
-    std::string person;
-    /// The e-mail address, the number of fax or telephone, or the file of the letter.
-    std::string recipient;
-    std::int32_t attempts = 0;
-    /// Why it failed, comes later, is too late, cancelled or unknown, and what a person lacks to do it by hand.
-    std::string reason;
-};
 
 /// What became of a person's word on a notification.
 enum class Settlement : std::uint8_t {
@@ -65,9 +33,6 @@ enum class Settlement : std::uint8_t {
 /// are thrown as `RunTimeError`.
 class NotificationDelivery {
 public:
-    /// An attempt that is older than this was left behind by a process that died.
-    static constexpr int attemptLimitMinutes = 15;
-
     struct Means {
         /// None leaves the e-mails waiting. Must outlive the delivery.
         MailTransport* mail = nullptr;
@@ -83,8 +48,7 @@ public:
     {
     }
 
-    /// What `run` would do with all the means, those under way or of unknown outcome first, then in the order of the
-    /// days; changes nothing.
+    /// What `run` would do with all the means; changes nothing.
     std::vector<Delivery> plan() const;
     /// Does it, and says what became of each. When the mail server is not there, the other e-mails wait for the next
     /// run. One process delivers at a time: throws `RunTimeError` 5 without the lock.
@@ -97,23 +61,10 @@ public:
     /// Lets one that failed or is of unknown outcome be tried again at once.
     Settlement tryAgain(std::int32_t id);
 
-    /// Five minutes after the first attempt, then four times as long each time, at most a day.
-    static Date nextAttempt(Date lastAttempt, std::int32_t attempts);
-
 private:
-    /// A delivery and whom it goes to.
-    struct Task {
-        Delivery delivery;
-        std::optional<Correspondent> client;
-    };
-
-    std::vector<std::int32_t> openNotifications() const;
-    /// Nothing when it is settled or deleted.
-    std::optional<Task> examine(std::int32_t id) const;
-    void planWaiting(Task& task, const Rows& row) const;
-    void act(Task& task);
-    void sendMail(Task& task);
-    void writeLetter(Task& task);
+    void act(DeliveryTask& task);
+    void sendMail(DeliveryTask& task);
+    void writeLetter(DeliveryTask& task);
     /// Puts the attempt on record; gives its message id, empty when the row has changed since it was read.
     std::string beginAttempt(const Delivery& delivery);
     void endAttempt(Delivery& delivery, const MailResult& result);

@@ -31,7 +31,7 @@ struct SmtpSettings {
     /// minutes before they take it, and one that is given up then has an unknown outcome.
     std::chrono::milliseconds timeout = std::chrono::minutes(5);
     /// With as much again for the farewell it is below the time after which an attempt counts as left behind, see
-    /// `NotificationDelivery`.
+    /// `isUnderWay`.
     static constexpr std::chrono::seconds longestTimeout = std::chrono::minutes(7);
 };
 

@@ -10,12 +10,6 @@ namespace qncal::host {
 
 namespace {
 
-std::string rowByKey(std::int32_t notificationID)
-{
-    return "SELECT ClientNotification.* FROM ClientNotification WHERE ClientNotificationID="
-           + std::to_string(notificationID) + ";";
-}
-
 NotifiedItem itemOf(DatabaseService& database, std::int16_t kind, std::int32_t itemID)
 {
     return readNotifiedItem(database, static_cast<enumLocalCalendarItemType>(kind), itemID).value_or(NotifiedItem{});
@@ -26,10 +20,10 @@ bool mayHaveBeenSent(const Rows& row) { return row.boolean("NotificationSent"); 
 /// A row that came too late, or whose item had gone, gets its chance anew with every save of the item.
 void rearm(Rows& row)
 {
-    const auto state = static_cast<DeliveryState>(row.integer("DeliveryState", 0));
+    const DeliveryState state = deliveryStateOf(row);
     if (state != DeliveryState::tooLate && state != DeliveryState::cancelled)
         return;
-    row.set("DeliveryState", std::to_string(static_cast<std::int32_t>(DeliveryState::waiting)));
+    setDeliveryState(row, DeliveryState::waiting);
     row.set("LastError", {});
 }
 
@@ -103,7 +97,7 @@ std::int32_t NotificationLedger::createLetterNotification(std::int16_t kind, std
 void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notificationID, std::int32_t itemID)
 {
     const std::string_view column = itemColumn(kind);
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (row.isEmpty())
         return;
     row.set(column, std::to_string(itemID));
@@ -142,7 +136,7 @@ void NotificationLedger::setLetterNotificationDate(std::int16_t, std::int16_t, s
 
 void NotificationLedger::deleteNotification(std::int32_t notificationID)
 {
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (!row.isEmpty() && !mayHaveBeenSent(row))
         row.deleteCurrent();
     row.close();
@@ -163,7 +157,7 @@ std::int32_t NotificationLedger::create(std::int16_t kind, std::int32_t itemID, 
 
 void NotificationLedger::setDate(std::int32_t notificationID, Date date)
 {
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (row.isEmpty())
         return;
     row.set("NotificationDate", defaultDateText(date));

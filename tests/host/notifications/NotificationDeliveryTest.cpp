@@ -234,19 +234,20 @@ TEST_F(NotificationDeliveryTest, FailuresEndWhenTheItemBegins)
 TEST_F(NotificationDeliveryTest, WaitsFourTimesAsLongEachTimeAndADayAtMost)
 {
     const Date from = at(0);
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1), at(0, 5));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 2), at(0, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 3), at(1, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 4), at(5, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 5), at(21, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 6), from.addDays(1));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1000000), from.addDays(1));
+    EXPECT_EQ(nextAttempt(from, 1), at(0, 5));
+    EXPECT_EQ(nextAttempt(from, 2), at(0, 20));
+    EXPECT_EQ(nextAttempt(from, 3), at(1, 20));
+    EXPECT_EQ(nextAttempt(from, 4), at(5, 20));
+    EXPECT_EQ(nextAttempt(from, 5), at(21, 20));
+    EXPECT_EQ(nextAttempt(from, 6), from.addDays(1));
+    EXPECT_EQ(nextAttempt(from, 1000000), from.addDays(1));
 }
 
 TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
 {
     const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
     addAppointment(email, nobody);
+    EXPECT_EQ(delivery().plan().front().reason, "the client has no e-mail address");
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
     EXPECT_EQ(rows().text("LastError"), "the client has no e-mail address");
     EXPECT_THAT(mail.messages, IsEmpty());
@@ -376,7 +377,7 @@ TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
                {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
     addAppointment(email, odd);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_EQ(rows().text("LastError"), "the client's e-mail address is none");
+    EXPECT_EQ(rows().text("LastError"), "the client's e-mail address cannot be one");
     EXPECT_THAT(mail.messages, IsEmpty());
 }
 
