@@ -31,7 +31,7 @@ struct Talk {
     std::string text;
     std::size_t handedOver = 0;
     bool hasServerSpoken = false;
-    /// The last line by which the server refused something, for now or for good.
+    /// By which the server refused what it was asked last, for now or for good.
     std::string refusal;
     /// The server's word on the message.
     std::string verdict;
@@ -54,8 +54,11 @@ struct Talk {
         talk.hasServerSpoken = true;
         if (talk.isOut() && talk.verdict.empty())
             talk.verdict = answer;
+        constexpr std::string_view farewell = "221";
         if (isRefusal(answer))
             talk.refusal = std::move(answer);
+        else if (!answer.starts_with(farewell))
+            talk.refusal.clear();
         return size * count;
     }
 };

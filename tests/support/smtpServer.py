@@ -2,8 +2,9 @@
 
 usage: smtpServer.py MODE FOLDER [CERTIFICATE KEY]
 
-Prints its port, then serves until it is ended. A well-behaved server (good, auth, startTls) keeps each message as
-FOLDER/1.eml, 2.eml and so on; startTls takes no message before the connection is encrypted.
+Prints its port, then serves until it is ended. A well-behaved server (good, auth, startTls, tls) keeps each message as
+FOLDER/1.eml, 2.eml and so on; startTls takes no message before the connection is encrypted, tls is from the first byte.
+A bad one writes the commands that it gets into FOLDER/commands.
 """
 
 import asyncio
@@ -33,19 +34,25 @@ def known(server, session, envelope, mechanism, data):
     return AuthResult(success=data.login == b"firm" and data.password == b"secret", handled=False)
 
 
+def ownCertificate():
+    context = ssl.create_default_context(ssl.Purpose.CLIENT_AUTH)
+    context.load_cert_chain(*sys.argv[3:5])
+    return context
+
+
 def options():
-    if mode == "auth":
-        return {"authenticator": known, "auth_required": True, "auth_require_tls": False}
+    signIn = {"authenticator": known, "auth_required": True}
+    if mode in ("auth", "tls"):
+        return {**signIn, "auth_require_tls": False}
     if mode == "startTls":
-        context = ssl.create_default_context(ssl.Purpose.CLIENT_AUTH)
-        context.load_cert_chain(*sys.argv[3:5])
-        return {"tls_context": context, "require_starttls": True}
+        return {**signIn, "tls_context": ownCertificate(), "require_starttls": True}
     return {}
 
 
 async def serve():
     loop = asyncio.get_running_loop()
-    server = await loop.create_server(lambda: SMTP(Keeper(), **options()), "127.0.0.1", 0)
+    encryption = ownCertificate() if mode == "tls" else None
+    server = await loop.create_server(lambda: SMTP(Keeper(), **options()), "127.0.0.1", 0, ssl=encryption)
     print(server.sockets[0].getsockname()[1], flush=True)
     await server.serve_forever()
 
@@ -76,6 +83,8 @@ def converse(connection):
     lines = connection.makefile("rb")
     say("220 test")
     while line := lines.readline():
+        with open(f"{folder}/commands", "ab") as commands:
+            commands.write(line)
         command = line[:4].upper()
         if command == b"EHLO" and mode == "tellPassword":
             say("250-test")
@@ -135,7 +144,7 @@ def serveBadly():
                 pass
 
 
-if mode in ("good", "auth", "startTls"):
+if mode in ("good", "auth", "startTls", "tls"):
     asyncio.run(serve())
 else:
     serveBadly()

@@ -1,15 +1,8 @@
 #include "notifications/NotificationDelivery.h"
 
-#include "core/AutoNotifyService.h"
-#include "host/services/HostTest.h"
-#include "host/store/StoreFactory.h"
-#include "items/clsCalendarItem.h"
-#include "utilities/Clock.h"
+#include "host/notifications/DeliveryTest.h"
 #include "utilities/RunTimeError.h"
 
-#include <gmock/gmock.h>
-
-#include <deque>
 #include <fstream>
 #include <iterator>
 
@@ -22,104 +15,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using Outcome = MailResult::Outcome;
 
-/// Answers as it is told, and looks at the database while a message is on its way.
-class ScriptedTransport : public MailTransport {
-public:
-    std::deque<MailResult> answers;
-    std::vector<MailMessage> messages;
-    std::function<void()> whileSending;
-
-    MailResult send(const MailMessage& message) override
-    {
-        messages.push_back(message);
-        if (whileSending)
-            whileSending();
-        if (answers.empty())
-            return {Outcome::sent, {}};
-        MailResult answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-};
-
-class NotificationDeliveryTest : public test::HostTest {
-protected:
-    static Date at(int hour, int minute = 0) { return Date::of(2026, 3, 2, hour, minute); }
-
-    void SetUp() override
-    {
-        addRow(*database, "AccountantFirmInfo", {{"CompanyName", "Reed & Partners"}, {"OfficeNumber", "555-0100"}});
-        contact = addRow(*database, "Contacts",
-                         {{"DisplayName", "Ann Stone"},
-                          {"BusinessEmail", "ann@client.example"},
-                          {"BusinessPhone_Fax", "555-0102"},
-                          {"HomePhone_Main", "555-0103"},
-                          {"HomeAddress1", "1 Hill St"},
-                          {"HomeCity", "Elora"}});
-    }
-    /// An appointment on March 4 at 9:30 of which the client is told on March 2.
-    std::int32_t addAppointment(std::uint8_t channels, std::int32_t contactID, Date start = Date::of(2026, 3, 4, 9, 30))
-    {
-        clsCalendarItem item;
-        item.calendarItemType(enumLocalCalendarAppointmentItem);
-        item.addNewItem();
-        item.Subject("Year end");
-        item.contactIDNum(contactID);
-        item.DateFrom(start.dateOnly());
-        item.TimeFrom(start.timeOnly());
-        item.TimeTo(Date::timeOf(17));
-        item.notifiedDate(Date::of(2026, 3, 2));
-        item.notifyType(channels);
-        EXPECT_TRUE(item.saveCalendarItem());
-        return item.itemID();
-    }
-    std::int32_t addAppointment(std::uint8_t channels) { return addAppointment(channels, contact); }
-    void deleteAppointment(std::int32_t id)
-    {
-        clsCalendarItem item;
-        item.calendarItemType(enumLocalCalendarAppointmentItem);
-        item.itemID(id);
-        EXPECT_TRUE(item.deleteCalendarItem());
-    }
-    Rows rows(const std::string& condition = "ClientNotificationID > 0")
-    {
-        return Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
-    }
-    DeliveryState state() { return static_cast<DeliveryState>(rows().integer("DeliveryState")); }
-    NotificationDelivery delivery()
-    {
-        return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters, secureRecord}};
-    }
-    std::vector<Delivery> deliver() { return delivery().run(lock); }
-    std::vector<DeliveryStep> run()
-    {
-        std::vector<DeliveryStep> steps;
-        for (const Delivery& done : deliver())
-            steps.push_back(done.step);
-        return steps;
-    }
-    /// The one notification that is due.
-    Delivery deliverOne()
-    {
-        const std::vector<Delivery> all = deliver();
-        EXPECT_THAT(all, SizeIs(1));
-        return all.empty() ? Delivery{} : all.front();
-    }
-    /// Changes a column of the only row that the condition finds in a table.
-    void change(const std::string& table, const std::string& column, const std::string& value)
-    {
-        Rows::change(*database, "SELECT " + table + ".* FROM " + table + ";").set(column, value);
-    }
-
-    TemporaryFolder folder;
-    std::filesystem::path letters = folder.path() / "letters";
-    DeliveryLock lock{folder.file("lock")};
-    std::function<void()> secureRecord;
-    Date present = at(8);
-    ClockOverride clock{[this] { return present; }};
-    ScriptedTransport mail;
-    std::int32_t contact = -1;
-};
+class NotificationDeliveryTest : public test::DeliveryTest {};
 
 constexpr auto email = AutoNotifyService::email;
 
@@ -151,52 +47,6 @@ TEST_F(NotificationDeliveryTest, SendsAnEmailOnceAndRecordsIt)
     EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
-TEST_F(NotificationDeliveryTest, WaitsForTheDay)
-{
-    addAppointment(email);
-    present = Date::of(2026, 3, 1, 23, 59);
-    EXPECT_THAT(run(), IsEmpty());
-    present = at(0, 1);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-}
-
-TEST_F(NotificationDeliveryTest, APlanChangesNothing)
-{
-    addAppointment(email);
-    addAppointment(email, contact, at(7));
-    const std::vector<Delivery> plan = delivery().plan();
-    ASSERT_THAT(plan, SizeIs(2));
-    EXPECT_EQ(plan[0].step, DeliveryStep::attempt);
-    EXPECT_EQ(plan[0].recipient, "ann@client.example");
-    EXPECT_EQ(plan[1].step, DeliveryStep::tooLate);
-    EXPECT_THAT(mail.messages, IsEmpty());
-    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, NobodyIsToldOfThePast)
-{
-    addAppointment(email, contact, at(8));
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
-    EXPECT_THAT(mail.messages, IsEmpty());
-    EXPECT_EQ(state(), DeliveryState::tooLate);
-    EXPECT_FALSE(rows().boolean("NotificationSent"));
-    EXPECT_EQ(rows().text("LastError"), "the item began on Mar 2, 2026 at 8:00 am");
-    EXPECT_THAT(run(), IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, AnItemThatIsMovedAheadGetsItsChanceAnew)
-{
-    const std::int32_t id = addAppointment(email, contact, at(8));
-    run();
-    clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.DateFrom(Date::of(2026, 3, 9));
-    ASSERT_TRUE(item.saveCalendarItem());
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-}
-
 TEST_F(NotificationDeliveryTest, TriesAgainLaterAndLaterAndKeepsTheReason)
 {
     addAppointment(email);
@@ -221,69 +71,6 @@ TEST_F(NotificationDeliveryTest, TriesAgainLaterAndLaterAndKeepsTheReason)
     EXPECT_EQ(mail.messages[0].messageID, mail.messages[2].messageID) << "so that two copies are known for one";
 }
 
-TEST_F(NotificationDeliveryTest, FailuresEndWhenTheItemBegins)
-{
-    addAppointment(email, contact, at(8, 30));
-    mail.answers = {{Outcome::failed, "no route"}};
-    run();
-    present = at(8, 30);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
-    EXPECT_THAT(mail.messages, SizeIs(1));
-}
-
-TEST_F(NotificationDeliveryTest, WaitsFourTimesAsLongEachTimeAndADayAtMost)
-{
-    const Date from = at(0);
-    EXPECT_EQ(nextAttempt(from, 1), at(0, 5));
-    EXPECT_EQ(nextAttempt(from, 2), at(0, 20));
-    EXPECT_EQ(nextAttempt(from, 3), at(1, 20));
-    EXPECT_EQ(nextAttempt(from, 4), at(5, 20));
-    EXPECT_EQ(nextAttempt(from, 5), at(21, 20));
-    EXPECT_EQ(nextAttempt(from, 6), from.addDays(1));
-    EXPECT_EQ(nextAttempt(from, 1000000), from.addDays(1));
-}
-
-TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
-{
-    const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
-    addAppointment(email, nobody);
-    EXPECT_EQ(delivery().plan().front().reason, "the client has no e-mail address");
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_EQ(rows().text("LastError"), "the client has no e-mail address");
-    EXPECT_THAT(mail.messages, IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, AnAddressThatCameOrChangedSinceTheFailureIsTriedAtOnce)
-{
-    const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
-    addAppointment(email, nobody);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later));
-    const auto setAddress = [&](const char* address) {
-        Rows::change(*database, "SELECT Contacts.* FROM Contacts WHERE ContactID=" + std::to_string(nobody) + ";")
-            .set("BusinessEmail", address);
-    };
-    setAddress("bob@wrong.example");
-    mail.answers = {{Outcome::failed, "550 nobody of that name"}};
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::later));
-    setAddress("bob@client.example");
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-    EXPECT_EQ(rows().text("Recipient"), "bob@client.example");
-}
-
-TEST_F(NotificationDeliveryTest, ADeletedClientAndNoClientAreToldApart)
-{
-    addAppointment(email);
-    Rows::change(*database, "SELECT Contacts.* FROM Contacts;").deleteCurrent();
-    EXPECT_EQ(deliverOne().reason, "the client is gone");
-    EXPECT_EQ(rows().text("LastError"), "the client is gone");
-    change("Appointments", "ContactIDNum", "-1");
-    present = at(9);
-    EXPECT_EQ(deliverOne().reason, "the item has no client");
-    EXPECT_THAT(mail.messages, IsEmpty());
-}
-
 TEST_F(NotificationDeliveryTest, TheClientWhoGotItIsOnRecord)
 {
     addAppointment(email);
@@ -295,31 +82,6 @@ TEST_F(NotificationDeliveryTest, TheClientWhoGotItIsOnRecord)
     EXPECT_EQ(mail.messages.front().to.name, "Granite Ltd.");
     EXPECT_EQ(rows().integer("CompanyIDNum"), other);
     EXPECT_EQ(rows().integer("ContactIDNum"), -1);
-}
-
-TEST_F(NotificationDeliveryTest, TwoRowsForOneClientAreSentOnce)
-{
-    const std::int32_t item = addAppointment(email);
-    const std::int32_t second = addRow(*database, "ClientNotification",
-                                       {{"AppointmentNum", std::to_string(item)},
-                                        {"NotificationType", "1"},
-                                        {"NotificationDate", "2026-03-01"},
-                                        {"ContactIDNum", std::to_string(contact)}});
-    const std::vector<Delivery> done = deliver();
-    ASSERT_THAT(done, SizeIs(2));
-    EXPECT_EQ(done[0].id, second);
-    EXPECT_EQ(done[0].step, DeliveryStep::cancelled);
-    EXPECT_EQ(done[0].reason, "notification " + std::to_string(done[1].id) + " tells the same");
-    EXPECT_EQ(done[1].step, DeliveryStep::sent);
-    EXPECT_THAT(mail.messages, SizeIs(1));
-}
-
-TEST_F(NotificationDeliveryTest, WhatAnotherHostHasSentIsLeftAlone)
-{
-    addAppointment(email);
-    change("ClientNotification", "NotificationSent", "True");
-    EXPECT_THAT(run(), IsEmpty());
-    EXPECT_EQ(delivery().markSent(rows().integer("ClientNotificationID")), Settlement::sentAlready);
 }
 
 TEST_F(NotificationDeliveryTest, AServerThatIsNotThereIsTriedOnceInARun)
@@ -343,41 +105,11 @@ TEST_F(NotificationDeliveryTest, AFailureOfOneMessageLeavesTheOthers)
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed, DeliveryStep::sent));
 }
 
-TEST_F(NotificationDeliveryTest, AClockThatIsPutBackHoldsNothingUp)
-{
-    addAppointment(email);
-    mail.answers = {{Outcome::failed, "no route"}};
-    present = Date::of(2026, 3, 3, 12);
-    run();
-    present = at(8);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-}
-
-TEST_F(NotificationDeliveryTest, AnAttemptOfTheFutureIsLeftBehind)
-{
-    addAppointment(email);
-    mail.whileSending = [] { throw std::runtime_error("the process dies here"); };
-    EXPECT_THROW(deliver(), std::runtime_error);
-    present = at(7);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
-}
-
 TEST_F(NotificationDeliveryTest, DeliversUnderTheLockAlone)
 {
     addAppointment(email);
     const DeliveryLock second(folder.file("lock"));
     EXPECT_THROW(delivery().run(second), RunTimeError);
-    EXPECT_THAT(mail.messages, IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
-{
-    const auto odd =
-        addRow(*database, "Contacts",
-               {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
-    addAppointment(email, odd);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_EQ(rows().text("LastError"), "the client's e-mail address cannot be one");
     EXPECT_THAT(mail.messages, IsEmpty());
 }
 
@@ -459,14 +191,6 @@ TEST_F(NotificationDeliveryTest, AnUnknownOneThatArrivedIsMarked)
     EXPECT_THAT(run(), IsEmpty());
 }
 
-TEST_F(NotificationDeliveryTest, ADeletedItemTellsNobody)
-{
-    const std::int32_t id = addAppointment(email);
-    deleteAppointment(id);
-    EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(mail.messages, IsEmpty());
-}
-
 TEST_F(NotificationDeliveryTest, AnItemDeletedWhileItsMessageIsOnItsWayLeavesNothing)
 {
     const std::int32_t id = addAppointment(email);
@@ -509,32 +233,6 @@ TEST_F(NotificationDeliveryTest, AMarkOfAPersonDuringTheAttemptHolds)
     EXPECT_EQ(state(), DeliveryState::sent);
 }
 
-TEST_F(NotificationDeliveryTest, ARowWhoseItemIsGoneIsCancelled)
-{
-    addAppointment(email);
-    Rows::change(*database, "SELECT Appointments.* FROM Appointments;").deleteCurrent();
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::cancelled));
-    EXPECT_EQ(state(), DeliveryState::cancelled);
-    EXPECT_THAT(run(), IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotSendTwice)
-{
-    const std::int32_t id = addAppointment(email);
-    run();
-    clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    for (const std::uint8_t channels : {AutoNotifyService::phone, email}) {
-        item.notifyType(channels);
-        item.notifiedDate(Date::of(2026, 3, 2));
-        ASSERT_TRUE(item.saveCalendarItem());
-    }
-    EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(mail.messages, SizeIs(1));
-}
-
 TEST_F(NotificationDeliveryTest, FaxesAndCallsAreListedUntilSomebodyMadeThem)
 {
     addAppointment(AutoNotifyService::fax | AutoNotifyService::phone);
@@ -548,13 +246,6 @@ TEST_F(NotificationDeliveryTest, FaxesAndCallsAreListedUntilSomebodyMadeThem)
     EXPECT_EQ(list[1].reason, "");
     EXPECT_EQ(delivery().markSent(list[0].id), Settlement::done);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::byHand));
-}
-
-TEST_F(NotificationDeliveryTest, ACallWithoutANumberSaysSo)
-{
-    change("Contacts", "HomePhone_Main", "");
-    addAppointment(AutoNotifyService::phone);
-    EXPECT_EQ(deliverOne().reason, "the client has no telephone number");
 }
 
 TEST_F(NotificationDeliveryTest, WritesALetterOnce)

@@ -72,23 +72,66 @@ TEST_F(SmtpTransportTest, SignsIn)
     EXPECT_THAT(server.messages(), SizeIs(1));
 }
 
-TEST_F(SmtpTransportTest, EncryptsWithStartTlsAndTrustsOnlyTheCertificatesItIsGiven)
+class EncryptedTransportTest : public SmtpTransportTest {
+protected:
+    void SetUp() override
+    {
+        const std::string command = "openssl req -x509 -newkey rsa:2048 -nodes -days 36500 -subj /CN=127.0.0.1 "
+                                    "-addext subjectAltName=IP:127.0.0.1 -keyout "
+                                    + key + " -out " + certificate + " 2>/dev/null";
+        ASSERT_EQ(std::system(command.c_str()), 0);
+    }
+    SmtpSettings signedIn(const SmtpServer& server) const
+    {
+        SmtpSettings settings = settingsFor(server);
+        settings.user = "firm";
+        settings.password = "secret";
+        settings.certificates = certificate;
+        return settings;
+    }
+
+    std::string certificate = folder.file("certificate.pem");
+    std::string key = folder.file("key.pem");
+};
+
+TEST_F(EncryptedTransportTest, EncryptsBeforeItSignsIn)
 {
-    const std::string certificate = folder.file("certificate.pem");
-    const std::string key = folder.file("key.pem");
-    const std::string command = "openssl req -x509 -newkey rsa:2048 -nodes -days 36500 -subj /CN=127.0.0.1 "
-                                "-addext subjectAltName=IP:127.0.0.1 -keyout "
-                                + key + " -out " + certificate + " 2>/dev/null";
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    const SmtpServer server("startTls", folder.path(), {certificate, key});
+    for (const auto& [mode, security] : {std::pair("startTls", Security::startTls), std::pair("tls", Security::tls)}) {
+        const SmtpServer server(mode, folder.path() / mode, {certificate, key});
+        SmtpSettings settings = signedIn(server);
+        EXPECT_NE(SmtpTransport(settings).send(message()).outcome, Outcome::sent) << mode << " without encryption";
+        settings.security = security;
+        const MailResult result = SmtpTransport(settings).send(message());
+        EXPECT_EQ(result.outcome, Outcome::sent) << mode << ": " << result.reason;
+        EXPECT_THAT(server.messages(), SizeIs(1)) << mode;
+    }
+}
+
+TEST_F(EncryptedTransportTest, TrustsOnlyTheCertificatesItIsGiven)
+{
+    for (const auto& [mode, security] : {std::pair("startTls", Security::startTls), std::pair("tls", Security::tls)}) {
+        const SmtpServer server(mode, folder.path() / mode, {certificate, key});
+        SmtpSettings settings = signedIn(server);
+        settings.security = security;
+        settings.certificates.clear();
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << mode;
+        settings.certificates = folder.file("none.pem");
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << mode;
+        EXPECT_THAT(server.messages(), SizeIs(0)) << mode;
+    }
+}
+
+TEST_F(SmtpTransportTest, SaysNoPasswordToAServerThatOffersNoEncryption)
+{
+    const SmtpServer server("tellPassword", folder.path());
     SmtpSettings settings = settingsFor(server);
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "without encryption";
+    settings.user = "firm";
+    settings.password = "secret";
     settings.security = Security::startTls;
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << "of an unknown server";
-    settings.certificates = certificate;
-    const MailResult result = SmtpTransport(settings).send(message());
-    EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
-    EXPECT_THAT(server.messages(), SizeIs(1));
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable);
+    EXPECT_THAT(server.commands(), HasSubstr("EHLO"));
+    EXPECT_THAT(server.commands(), Not(HasSubstr("AUTH")));
+    EXPECT_THAT(server.commands(), Not(HasSubstr("MAIL")));
 }
 
 TEST_F(SmtpTransportTest, SendsNothingToAServerThatCannotEncrypt)
