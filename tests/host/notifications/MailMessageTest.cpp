@@ -4,6 +4,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <ctime>
+#include <optional>
 #include <sstream>
 
 namespace qncal::host {
@@ -49,6 +52,46 @@ TEST(MailMessageTest, WritesTheHeaders)
     EXPECT_EQ(header(text, "Date").size(), std::string("Mon, 2 Mar 2026 09:05:07 +0000").size());
     EXPECT_EQ(header(text, "Content-Type"), "text/plain; charset=UTF-8");
     EXPECT_EQ(header(text, "Auto-Submitted"), "auto-generated");
+}
+
+/// Sets the time zone for its life.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone)
+    {
+        if (const char* value = std::getenv("TZ"))
+            before_ = value;
+        setenv("TZ", zone, 1);
+    }
+    ~TimeZone()
+    {
+        if (before_)
+            setenv("TZ", before_->c_str(), 1);
+        else
+            unsetenv("TZ");
+        tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    std::optional<std::string> before_;
+};
+
+TEST(MailMessageTest, TheDateHasTheZoneOfItsMoment)
+{
+    const auto dateIn = [](const char* zone, Date date) {
+        const TimeZone local(zone);
+        MailMessage message = plainMessage();
+        message.date = date;
+        return header(mailText(message), "Date");
+    };
+    const char* eastern = "EST5EDT,M3.2.0,M11.1.0";
+    EXPECT_EQ(dateIn(eastern, Date::of(2026, 3, 8, 1, 59, 59)), "Sun, 8 Mar 2026 01:59:59 -0500");
+    EXPECT_EQ(dateIn(eastern, Date::of(2026, 3, 8, 3)), "Sun, 8 Mar 2026 03:00:00 -0400");
+    EXPECT_EQ(dateIn("NST3:30", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 -0330");
+    EXPECT_EQ(dateIn("IST-5:30", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 +0530");
+    EXPECT_EQ(dateIn("UTC0", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 +0000");
 }
 
 TEST(MailMessageTest, ARecipientWithoutANameStandsAlone)

@@ -1,10 +1,15 @@
 #include "notifications/NotificationDelivery.h"
 
 #include "host/notifications/DeliveryTest.h"
+#include "store/SqliteDatabase.h"
 #include "utilities/RunTimeError.h"
 
+#include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace qncal::host {
 namespace {
@@ -289,6 +294,49 @@ TEST_F(NotificationDeliveryTest, DoesNothingWithoutAConnection)
     addAppointment(email);
     database->close();
     EXPECT_THAT(run(), IsEmpty());
+}
+
+/// Takes the whole process along while the message is on its way.
+class DyingTransport : public MailTransport {
+public:
+    MailResult send(const MailMessage&) override
+    {
+        raise(SIGKILL);
+        return {};
+    }
+};
+
+TEST(DyingDeliveryTest, AProcessThatDiesWhileItSendsLeavesAnUnknownOutcomeAndNoLock)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.file("firm.db");
+    Date present = Date::of(2026, 3, 2, 8);
+    const ClockOverride clock([&] { return present; });
+    {
+        const auto database = SqliteDatabase::create(file);
+        addRow(*database, "Contacts", {{"DisplayName", "Ann Stone"}, {"BusinessEmail", "ann@client.example"}});
+        addRow(*database, "Appointments", {{"ContactIDNum", "1"}, {"DateFrom", "2026-03-04"}});
+        addRow(*database, "ClientNotification",
+               {{"AppointmentNum", "1"}, {"NotificationType", "1"}, {"NotificationDate", "2026-03-02"}});
+    }
+    const MailAddress firm{"Reed & Partners", "office@firm.example"};
+    const pid_t child = fork();
+    if (child == 0) {
+        DyingTransport mail;
+        NotificationDelivery(SqliteDatabase::open(file), {&mail, firm}).run(DeliveryLock::ofDatabase(file));
+        _exit(EXIT_FAILURE);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+
+    const DeliveryLock lock = DeliveryLock::ofDatabase(file);
+    test::ScriptedTransport mail;
+    NotificationDelivery next(SqliteDatabase::open(file), {&mail, firm});
+    EXPECT_EQ(next.run(lock).at(0).step, DeliveryStep::later);
+    present = present.addSeconds(15 * 60);
+    EXPECT_EQ(next.run(lock).at(0).step, DeliveryStep::unknown);
+    EXPECT_THAT(mail.messages, IsEmpty());
 }
 
 } // namespace
