@@ -43,6 +43,8 @@ public:
     void runProgress(ProgressDialog& dialog) override;
     bool print(const RichTextBox& box) override;
     std::optional<std::int32_t> pickColour(std::int32_t current) override;
+    std::optional<FontChoice> pickFont(const FontChoice& current) override;
+    void popUpMenu(MenuItem& menu) override;
 
 private:
     struct Shown {
@@ -54,6 +56,7 @@ private:
 
     void turn() const;
     FormWindow* open(Form& form, QEventLoop* loop);
+    void placeByMainWindow(FormWindow& window) const;
     std::vector<Shown>::iterator find(const Form& form);
     /// What a new window opens in front of.
     QWidget* owner() const;

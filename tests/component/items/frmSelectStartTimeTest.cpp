@@ -123,13 +123,31 @@ TEST_F(SelectStartTimeTest, LeavingThePickerFillsTheField)
     });
 }
 
+TEST_F(SelectStartTimeTest, AQuarterHourCanBePickedAgainAfterThePickerWasChanged)
+{
+    show([&](host::Hand& hand) {
+        hand.pick("cboField", "9:15 AM");
+        hand.pickDate("dtpTime", Date::timeOf(10, 50));
+        hand.tabAway();
+        hand.pick("cboField", "9:15 AM");
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(9, 15));
+        hand.pickDate("dtpTime", Date::timeOf(9, 20));
+        hand.tabAway();
+        hand.pick("cboField", "9:15 AM");
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(9, 15)) << "the row that stood in the field already";
+        hand.pressEnter();
+    });
+    EXPECT_EQ(form.TimeSelected(), Date::timeOf(9, 15));
+}
+
 TEST_F(SelectStartTimeTest, TypingCompletesFromTheList)
 {
     show([&](host::Hand& hand) {
         hand.type("cboField", "3:4");
         EXPECT_EQ(form.cboField.text(), "3:45 AM");
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(3, 45)) << "the completed row counts";
         hand.type("cboField", "3:45 PM");
-        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(15, 45)) << "all of a row was typed";
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(15, 45));
     });
 }
 
