@@ -1,7 +1,7 @@
 #include "firmcal/databaseCheck.h"
 
+#include "common/itemKind.h"
 #include "core/calendarItemKinds.h"
-#include "firmcal/itemKind.h"
 #include "services/Rows.h"
 #include "store/SqliteConnection.h"
 

@@ -1,7 +1,7 @@
+#include "common/Failure.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/commands.h"
-#include "firmcal/valueText.h"
 #include "popups/ReminderLoop.h"
 #include "store/SqliteDatabase.h"
 

@@ -21,8 +21,10 @@ public:
     explicit QtDialogHost(WindowRegistry windows = standardWindows()) : windows_(std::move(windows)) {}
     ~QtDialogHost() override;
 
-    /// Windows open in front of this one when no other form is open.
+    /// Windows open in front of this one when none is active.
     void mainWindow(QWidget* window) { mainWindow_ = window; }
+    /// What a new window opens in front of: the active window, or the main window while another program is in front.
+    QWidget* windowInFront() const;
     /// The window of a form that is shown, none otherwise.
     FormWindow* windowOf(const Form& form) const;
     /// Asks for the printer before a text is printed; False cancels. The print dialog unless set.
@@ -55,8 +57,6 @@ private:
     void turn() const;
     FormWindow* open(Form& form, QEventLoop* loop);
     std::vector<Shown>::iterator find(const Form& form);
-    /// What a new window opens in front of.
-    QWidget* owner() const;
 
     WindowRegistry windows_;
     std::vector<Shown> shown_;

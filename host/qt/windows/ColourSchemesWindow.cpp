@@ -2,7 +2,7 @@
 
 #include "qt/windows/ColourSchemePageWidget.h"
 
-#include <QVBoxLayout>
+#include <QHBoxLayout>
 
 namespace qncal::host {
 
@@ -10,6 +10,8 @@ ColourSchemesWindow::ColourSchemesWindow(Form& form, QWidget* parent) : FormWind
 {
     auto* layout = new QVBoxLayout(this);
     layout->addWidget(new ColourSchemePageWidget(form, this));
+    if (form.findControl("cmdClose"))
+        layout->addLayout(addButtons({"cmdClose"}));
     finish();
 }
 

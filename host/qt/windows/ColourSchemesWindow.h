@@ -4,7 +4,7 @@
 
 namespace qncal::host {
 
-/// A form that is the page "Colour Schemes" and nothing else: "frmColourSchemes".
+/// A form that is the page "Colour Schemes", and `cmdClose` when it has one: "frmColourSchemes".
 class ColourSchemesWindow : public FormWindow {
 public:
     explicit ColourSchemesWindow(Form& form, QWidget* parent = nullptr);
