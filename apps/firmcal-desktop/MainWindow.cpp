@@ -87,9 +87,8 @@ void MainWindow::addToolBar()
     bar->setObjectName("navigation");
     bar->setMovable(false);
     bar->setContextMenuPolicy(Qt::PreventContextMenu);
-    bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    findChild<QAction*>("previousWeek")->setIcon(style()->standardIcon(QStyle::SP_ArrowLeft));
-    findChild<QAction*>("nextWeek")->setIcon(style()->standardIcon(QStyle::SP_ArrowRight));
+    findChild<QAction*>("previousWeek")->setIconText(tr("\u2039 Previous"));
+    findChild<QAction*>("nextWeek")->setIconText(tr("Next \u203a"));
     for (const char* name : {"previousWeek", "today", "nextWeek"})
         bar->addAction(findChild<QAction*>(name));
     weekLabel_->setObjectName("week");

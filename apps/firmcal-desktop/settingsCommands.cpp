@@ -51,6 +51,8 @@ void fillWithStatuses(QMenu& menu, MainWindow& window)
             });
         }
     };
+    // An empty menu would not come up by its access key.
+    fill();
     QObject::connect(&menu, &QMenu::aboutToShow, &window, [&window, fill] { window.perform(fill); });
 }
 

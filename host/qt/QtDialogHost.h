@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/DialogHost.h"
-#include "qt/WindowRegistry.h"
+#include "qt/WindowClasses.h"
 
 #include <QMetaObject>
 #include <QPointer>
@@ -18,7 +18,7 @@ namespace qncal::host {
 /// return at once as if closed.
 class QtDialogHost : public DialogHost {
 public:
-    explicit QtDialogHost(WindowRegistry windows = standardWindows()) : windows_(std::move(windows)) {}
+    explicit QtDialogHost(WindowClasses windows = standardWindows()) : windows_(std::move(windows)) {}
     ~QtDialogHost() override;
 
     /// Windows open in front of this one when none is active.
@@ -58,7 +58,7 @@ private:
     FormWindow* open(Form& form, QEventLoop* loop);
     std::vector<Shown>::iterator find(const Form& form);
 
-    WindowRegistry windows_;
+    WindowClasses windows_;
     std::vector<Shown> shown_;
     QPointer<QWidget> mainWindow_;
     std::function<bool(QPrinter& printer)> choosePrinter_;

@@ -44,6 +44,7 @@ ReminderWindow::ReminderWindow(QWidget* parent)
     list_->setSelectionMode(QAbstractItemView::ExtendedSelection);
     list_->setAlternatingRowColors(true);
     list_->setAllColumnsShowFocus(true);
+    list_->setWordWrap(true);
     list_->header()->setStretchLastSection(false);
     list_->header()->setSectionResizeMode(textColumn, QHeaderView::Stretch);
     note_->setObjectName("reminderNote");

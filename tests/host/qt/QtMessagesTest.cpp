@@ -1,8 +1,8 @@
 #include "qt/QtMessages.h"
 
 #include "controls/TextBox.h"
-#include "core/messages.h"
 #include "core/ServiceRegistry.h"
+#include "core/messages.h"
 #include "host/qt/QtDialogTest.h"
 
 #include <QAbstractButton>
@@ -15,13 +15,13 @@ constexpr std::int16_t yes = MessageDialogService::answerYes;
 constexpr std::int16_t no = MessageDialogService::answerNo;
 
 struct QtMessagesTest : QtDialogTest {
-    QtMessagesTest() { serviceRegistry().messages = std::make_shared<host::QtMessages>(qt, "FirmCal"); }
+    QtMessagesTest() { serviceRegistry().messageDialogs = std::make_shared<host::QtMessages>(qt, "FirmCal"); }
 
     /// What the component hears when the user presses the key on a question.
-    std::int16_t answerTo(Qt::Key key, Qt::KeyboardModifiers modifiers = {})
+    std::int16_t answerTo(Qt::Key key)
     {
-        whenAsked([=](QMessageBox& box) { QTest::keyClick(box.focusWidget(), key, modifiers); });
-        return askQuestion("Delete it?", nullptr) ? yes : no;
+        whenAsked([=](QMessageBox& box) { QTest::keyClick(box.focusWidget(), key); });
+        return askYesNo("Delete it?", nullptr) ? yes : no;
     }
 };
 
@@ -60,10 +60,15 @@ TEST_F(QtMessagesTest, AQuestionHasYesAndNoAndIsAnsweredByTheirKeys)
         EXPECT_EQ(box.icon(), QMessageBox::Question);
         EXPECT_EQ(box.standardButtons(), QMessageBox::Yes | QMessageBox::No);
         picture(box, "question");
-        QTest::keyClick(&box, Qt::Key_Y, Qt::AltModifier);
+        pressWithAlt(box, Qt::Key_Y);
+        EXPECT_FALSE(box.isVisible());
     });
-    EXPECT_TRUE(askQuestion("Delete it?", nullptr));
-    EXPECT_EQ(answerTo(Qt::Key_N, Qt::AltModifier), no);
+    EXPECT_TRUE(askYesNo("Delete it?", nullptr));
+    whenAsked([&](QMessageBox& box) {
+        pressWithAlt(box, Qt::Key_N);
+        EXPECT_FALSE(box.isVisible());
+    });
+    EXPECT_FALSE(askYesNo("Delete it?", nullptr));
 }
 
 TEST_F(QtMessagesTest, EnterAndEscapeMeanNo)
@@ -75,7 +80,7 @@ TEST_F(QtMessagesTest, EnterAndEscapeMeanNo)
 TEST_F(QtMessagesTest, TheBoxInTheCornerMeansNo)
 {
     whenAsked([](QMessageBox& box) { box.close(); });
-    EXPECT_FALSE(askQuestion("Delete it?", nullptr));
+    EXPECT_FALSE(askYesNo("Delete it?", nullptr));
 }
 
 TEST_F(QtMessagesTest, YesIsReachedByTheTabKey)
@@ -84,19 +89,19 @@ TEST_F(QtMessagesTest, YesIsReachedByTheTabKey)
         QTest::keyClick(box.focusWidget(), Qt::Key_Tab);
         QTest::keyClick(box.focusWidget(), Qt::Key_Space);
     });
-    EXPECT_TRUE(askQuestion("Delete it?", nullptr));
+    EXPECT_TRUE(askYesNo("Delete it?", nullptr));
 }
 
 TEST_F(QtMessagesTest, AnotherStyleHasNoIcon)
 {
     whenAsked([](QMessageBox& box) { EXPECT_EQ(box.icon(), QMessageBox::NoIcon); });
-    serviceRegistry().messages->showMessage("Plain", 0, nullptr);
+    serviceRegistry().messageDialogs->showMessage("Plain", 0, nullptr);
 }
 
 TEST_F(QtMessagesTest, ACaptionOfTheCallerGoesBeforeTheProgramsOwn)
 {
     whenAsked([](QMessageBox& box) { EXPECT_EQ(box.windowTitle(), "Settings"); });
-    serviceRegistry().messages->showMessage("Saved", 3, nullptr, 0, 0, 101, 0, "Settings");
+    serviceRegistry().messageDialogs->showMessage("Saved", 3, nullptr, 0, 0, 101, 0, "Settings");
 }
 
 struct NameForm : Form {

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QLineEdit>
@@ -11,6 +12,7 @@
 #include <QTest>
 #include <QTimer>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -66,6 +68,22 @@ public:
     {
         QTest::mouseClick(&widget<QWidget>(window, path), Qt::LeftButton);
     }
+    /// Without a window manager nobody does that when the window in front closes.
+    static void bringToFront(QWidget& window)
+    {
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    /// Presses a key with Alt. A button that it reaches is seen to go down for a while before it acts.
+    static void pressWithAlt(QWidget& window, Qt::Key key)
+    {
+        bringToFront(window);
+        QTest::keyClick(&window, key, Qt::AltModifier);
+        const auto buttons = window.findChildren<QAbstractButton*>();
+        static_cast<void>(QTest::qWaitFor([&] {
+            return std::none_of(buttons.begin(), buttons.end(), [](const auto* button) { return button->isDown(); });
+        }));
+    }
     /// Replaces the text of a line.
     static void type(const QWidget& window, const char* path, const QString& text)
     {
@@ -78,6 +96,8 @@ public:
     /// Leaves a picture of the window in the build folder for people to look at.
     static void picture(QWidget& window, const QString& name)
     {
+        // A scroll bar that a new size does away with goes only now.
+        QCoreApplication::processEvents();
         QDir().mkpath(QNCAL_SCREENSHOTS);
         EXPECT_TRUE(window.grab().save(QString(QNCAL_SCREENSHOTS "/%1.png").arg(name)));
     }
@@ -93,10 +113,11 @@ private:
             if (!window || !isIt(*window))
                 return;
             timer->stop();
-            timer->deleteLater();
             --waiting_;
-            static_cast<void>(QTest::qWaitForWindowActive(window));
+            bringToFront(*window);
             script(*window);
+            // Not before: waiting deletes, and this function with it.
+            timer->deleteLater();
         });
         timer->start(1);
     }
