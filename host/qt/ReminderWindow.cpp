@@ -212,11 +212,20 @@ void ReminderWindow::settle(const QList<QTreeWidgetItem*>& items, const std::fun
             break;
         }
     }
-    if (!list_->currentItem() && list_->topLevelItemCount() > 0)
-        list_->setCurrentItem(list_->topLevelItem(0));
+    chooseNext();
     showState();
     if (allDone && reminderCount() == 0)
         accept();
+}
+
+/// Where the answered ones have gone, the one under the cursor is at hand.
+void ReminderWindow::chooseNext()
+{
+    if (!list_->selectedItems().isEmpty() || list_->topLevelItemCount() == 0)
+        return;
+    if (!list_->currentItem())
+        list_->setCurrentItem(list_->topLevelItem(0));
+    list_->currentItem()->setSelected(true);
 }
 
 void ReminderWindow::take(QTreeWidgetItem* item)

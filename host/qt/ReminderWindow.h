@@ -53,6 +53,7 @@ private:
     /// Hands each reminder to the answer and takes those away that it settles.
     void settle(const QList<QTreeWidgetItem*>& items, const std::function<Outcome(std::int32_t)>& answer);
     QList<QTreeWidgetItem*> chosen() const;
+    void chooseNext();
     void take(QTreeWidgetItem* item);
     void note(const QString& text);
     void showState();

@@ -100,7 +100,11 @@ TEST_F(ItemCommandsTest, TheBestTimeIsProposed)
     });
     chooseFromMenu(Qt::Key_I, {Qt::Key_B});
     EXPECT_EQ(times(), "6:00-7:30");
-    whenAsked([&](QMessageBox& box) { pressWithAlt(box, Qt::Key_Y); });
+    whenAsked([&](QMessageBox& box) {
+        qWarning() << QApplication::activePopupWidget() << box.isActiveWindow() << QApplication::focusWidget() << QApplication::activeWindow();
+        pressWithAlt(box, Qt::Key_Y);
+        qWarning() << box.isVisible() << box.result() << QApplication::activeModalWidget();
+    });
     chooseFromMenu(Qt::Key_I, {Qt::Key_B});
     EXPECT_EQ(times(), "9:00-10:30");
 }
