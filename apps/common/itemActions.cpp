@@ -15,6 +15,7 @@ void load(ErrorWatch& errors, clsCalendarItem& item, enumLocalCalendarItemType k
     errors.throwIfReported();
     if (!found)
         throw Failure("no " + std::string(kindNoun(kind)) + " " + std::to_string(id));
+    host::notifyTheDayBefore(item);
 }
 
 void save(ErrorWatch& errors, clsCalendarItem& item)

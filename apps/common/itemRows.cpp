@@ -4,6 +4,7 @@
 #include "core/calendarItemKinds.h"
 #include "services/ClientDropDown.h"
 #include "services/Rows.h"
+#include "utilities/readableValue.h"
 
 #include <algorithm>
 #include <tuple>
@@ -40,12 +41,6 @@ Date dateOf(const host::Rows& rows, std::string_view field)
     return value.isNull() ? Date() : value.toDate();
 }
 
-std::optional<std::int32_t> colourOf(const host::Rows& rows, std::string_view field)
-{
-    const Variant value = rows.field(field);
-    return value.isNumeric() ? std::optional(value.toInteger()) : std::nullopt;
-}
-
 ItemRow rowOf(enumLocalCalendarItemType kind, const std::string& key, const host::Rows& rows)
 {
     ItemRow row;
@@ -59,10 +54,10 @@ ItemRow rowOf(enumLocalCalendarItemType kind, const std::string& key, const host
     row.companyID = rows.integer("CompanyIDNum");
     row.contactID = rows.integer("ContactIDNum");
     for (std::size_t i = 0; i < row.statuses.size(); ++i)
-        row.statuses[i] = rows.boolean("Status" + std::to_string(i + 1));
-    row.backColour = colourOf(rows, "BackColour");
-    row.foreColour = colourOf(rows, "ForeColour");
-    row.titleBackColour = colourOf(rows, "TitleBackColour");
+        row.statuses[i] = booleanIn(rows.field("Status" + std::to_string(i + 1))).value_or(false);
+    row.backColour = integerIn(rows.field("BackColour"));
+    row.foreColour = integerIn(rows.field("ForeColour"));
+    row.titleBackColour = integerIn(rows.field("TitleBackColour"));
     return row;
 }
 

@@ -2,6 +2,7 @@
 
 #include "services/Rows.h"
 #include "settings/kindWords.h"
+#include "utilities/readableValue.h"
 
 namespace qncal::firmcal {
 
@@ -9,10 +10,7 @@ namespace {
 
 std::optional<std::int32_t> numberIf(const host::Rows& row, const std::string& flag, const std::string& column)
 {
-    if (!row.boolean(flag))
-        return std::nullopt;
-    const Variant value = row.field(column);
-    return value.isNumeric() ? std::optional(value.toInteger()) : std::nullopt;
+    return booleanIn(row.field(flag)).value_or(false) ? integerIn(row.field(column)) : std::nullopt;
 }
 
 } // namespace

@@ -2,11 +2,14 @@
 
 #include "common/itemKind.h"
 #include "core/calendarItemKinds.h"
+#include "core/schema.h"
 #include "services/Rows.h"
 #include "store/SqliteConnection.h"
+#include "utilities/readableValue.h"
 
 #include <functional>
 #include <map>
+#include <optional>
 #include <span>
 #include <unordered_set>
 
@@ -36,7 +39,35 @@ constexpr Reference clientReferences[]{{"CompanyIDNum", "Companies", "CompanyID"
                                        {"ContactIDNum", "Contacts", "ContactID"}};
 constexpr Reference userReferences[]{{"UserIDNum", "AccountantEmployeeInfo", "ContactID"}};
 
+bool isValueOf(schema::ColumnType type, const Variant& value)
+{
+    using schema::ColumnType;
+    if (value.isNull())
+        return true;
+    switch (type) {
+    case ColumnType::text:
+    case ColumnType::memo:
+        return true;
+    case ColumnType::boolean:
+        return booleanIn(value).has_value();
+    case ColumnType::real:
+    case ColumnType::currency:
+        return value.isNumeric();
+    case ColumnType::date:
+    case ColumnType::time:
+        return !value.isText();
+    default:
+        return integerIn(value).has_value();
+    }
+}
+
 std::string allOf(std::string_view table) { return "SELECT * FROM " + std::string(table) + ";"; }
+
+/// None also for a cell that is spoilt: that is found by a check of its own.
+std::optional<std::int32_t> numberIn(const Rows& rows, std::string_view column)
+{
+    return integerIn(rows.field(column));
+}
 
 std::string plural(enumLocalCalendarItemType kind)
 {
@@ -75,11 +106,23 @@ public:
     {
         std::map<std::int32_t, int> sizes;
         for (Rows rows = Rows::read(database_, allOf(table)); !rows.atEnd(); rows.moveNext())
-            ++sizes[rows.integer("RepeatNum", 0)];
+            ++sizes[numberIn(rows, "RepeatNum").value_or(0)];
         walk(std::move(check), table, true, [&](Rows& rows) {
-            const std::int32_t series = rows.integer("RepeatNum", 0);
+            const std::int32_t series = numberIn(rows, "RepeatNum").value_or(0);
             return series > 0 && sizes[series] == 1 ? Mending([&rows] { rows.set("RepeatNum", "0"); }) : Mending();
         });
+    }
+
+    void spoiltCells(std::string check)
+    {
+        CheckResult result{std::move(check)};
+        for (const schema::Table& table : schema::tables()) {
+            for (Rows rows = Rows::change(database_, allOf(table.name)); !rows.atEnd(); rows.moveNext()) {
+                for (const schema::Column& column : table.columns)
+                    examineCell(rows, table, column, result);
+            }
+        }
+        results_.push_back(std::move(result));
     }
 
     std::vector<CheckResult> take() { return std::move(results_); }
@@ -90,7 +133,7 @@ private:
 
     void walk(std::string check, std::string_view table, bool canMend, const std::function<Mending(Rows&)>& examine)
     {
-        CheckResult result{std::move(check), 0, 0, canMend};
+        CheckResult result{std::move(check), 0, 0, canMend, {}};
         for (Rows rows = Rows::change(database_, allOf(table)); !rows.atEnd(); rows.moveNext()) {
             const Mending mend = examine(rows);
             if (!mend)
@@ -104,9 +147,23 @@ private:
         results_.push_back(std::move(result));
     }
 
+    void examineCell(Rows& rows, const schema::Table& table, const schema::Column& column, CheckResult& result) const
+    {
+        const Variant value = rows.field(column.name);
+        if (isValueOf(column.type, value))
+            return;
+        ++result.found;
+        result.places.push_back(std::string(table.name) + "." + std::string(column.name) + " of row "
+                                + rows.text(table.columns.front().name) + ": '" + value.toText() + "'");
+        if (!repair_)
+            return;
+        rows.set(column.name, column.type == schema::ColumnType::boolean ? "False" : "");
+        ++result.mended;
+    }
+
     bool leadsNowhere(const Rows& rows, const Reference& reference)
     {
-        const std::int32_t id = rows.integer(reference.column);
+        const std::int32_t id = numberIn(rows, reference.column).value_or(-1);
         return id > 0 && !keysOf(reference).contains(id);
     }
 
@@ -133,6 +190,7 @@ private:
 std::vector<CheckResult> checkRows(DatabaseService& database, bool repair)
 {
     Checker checker(database, repair);
+    checker.spoiltCells("cells that hold what their column cannot");
     checker.orphans("reminders of items that are gone", "Reminders", reminderReferences);
     checker.orphans("notifications of items that are gone", "ClientNotification", notificationReferences);
     checker.orphans("links of clients that are gone", "ContactLinks", linkReferences);

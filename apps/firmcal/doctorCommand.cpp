@@ -29,7 +29,10 @@ void printResults(CommandContext& context, const std::vector<CheckResult>& resul
     if (context.options().json) {
         auto json = nlohmann::ordered_json::array();
         for (const CheckResult& result : results)
-            json.push_back({{"check", result.check}, {"found", result.found}, {"mended", result.mended}});
+            json.push_back({{"check", result.check},
+                            {"found", result.found},
+                            {"mended", result.mended},
+                            {"places", result.places}});
         return context.printJson({{"schemaVersion", schema::version}, {"checks", json}});
     }
     Table table({{"Check"}, {"Result"}});
@@ -38,6 +41,10 @@ void printResults(CommandContext& context, const std::vector<CheckResult>& resul
     for (const CheckResult& result : results)
         table.add({result.check, verdict(result)});
     table.printRows(context.out(), "");
+    for (const CheckResult& result : results) {
+        for (const std::string& place : result.places)
+            context.out() << place << '\n';
+    }
 }
 
 void examine(CommandContext& context, bool repair)

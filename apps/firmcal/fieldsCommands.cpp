@@ -8,6 +8,7 @@
 #include "services/Rows.h"
 #include "settings/frmApptStatusOptions.h"
 #include "settings/kindWords.h"
+#include "utilities/readableValue.h"
 #include "utilities/text.h"
 
 #include <nlohmann/json.hpp>
@@ -61,9 +62,11 @@ Field readField(const FieldOptions& options)
 
 struct FieldValues {
     std::string name;
-    std::string colour; ///< empty when it is not shown
-    std::int32_t icon = 0;
+    std::string colour;    ///< empty when it is not shown
+    std::int32_t icon = 0; ///< 0 when none is shown
 };
+
+bool isIcon(std::int32_t icon) { return icon >= 1 && icon <= frmApptStatusOptions::iconCount; }
 
 FieldValues readValues(const host::Rows& row, const Field& field)
 {
@@ -73,10 +76,14 @@ FieldValues readValues(const host::Rows& row, const Field& field)
     values.name = row.text(field.nameColumn());
     if (!field.isStatus)
         return values;
-    if (row.boolean(field.column("Use", "Colour")))
-        values.colour = colourText(row.integer(field.column("", "Colour"), 0));
-    if (row.boolean(field.column("Use", "Icon")))
-        values.icon = row.integer(field.column("", "Icon"), 0);
+    const auto isShown = [&](std::string_view what) {
+        return booleanIn(row.field(field.column("Use", what))).value_or(false);
+    };
+    const auto number = [&](std::string_view what) { return integerIn(row.field(field.column("", what))); };
+    if (const auto colour = number("Colour"); colour && isShown("Colour"))
+        values.colour = colourText(*colour);
+    if (const auto icon = number("Icon"); icon && isIcon(*icon) && isShown("Icon"))
+        values.icon = *icon;
     return values;
 }
 
@@ -110,7 +117,7 @@ bool isNone(const std::string& text) { return equalsNoCase(text, "none"); }
 std::int32_t readIcon(const std::string& text)
 {
     const std::int32_t icon = readInteger(text);
-    if (icon < 1 || icon > frmApptStatusOptions::iconCount)
+    if (!isIcon(icon))
         throw Failure("'" + text + "' is no icon (1 to " + std::to_string(frmApptStatusOptions::iconCount)
                       + ", or none)");
     return icon;

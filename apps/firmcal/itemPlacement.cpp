@@ -2,6 +2,7 @@
 #include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/itemCommands.h"
+#include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>
 
@@ -24,13 +25,19 @@ struct MoveOptions {
     bool best = false;
 };
 
+void saveMoved(CommandContext& context, clsCalendarItem& item)
+{
+    host::notifyTheDayBefore(item);
+    save(context, item, "Moved");
+}
+
 void findBestTime(CommandContext& context, const BestTimeOptions& options)
 {
     clsCalendarItem item;
     load(context, item, options.item);
     placeBest(context.errors(), item, item.DateFrom());
     if (options.apply)
-        return save(context, item, "Moved");
+        return saveMoved(context, item);
     if (context.options().json)
         return context.printJson({{"kind", kindWord(item.calendarItemType())},
                                   {"itemID", item.itemID()},
@@ -52,7 +59,7 @@ void moveItem(CommandContext& context, const MoveOptions& options)
         context.throwIfComponentFailed();
         refuseEndAfterMidnight(item);
     }
-    save(context, item, "Moved");
+    saveMoved(context, item);
 }
 
 } // namespace

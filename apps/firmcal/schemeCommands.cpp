@@ -6,6 +6,7 @@
 #include "firmcal/commands.h"
 #include "services/Rows.h"
 #include "settings/colourSchemes.h"
+#include "utilities/readableValue.h"
 #include "utilities/text.h"
 
 #include <nlohmann/json.hpp>
@@ -51,8 +52,8 @@ std::string byKey(std::int32_t id)
 
 std::string colourOf(const host::Rows& row, std::string_view column)
 {
-    const Variant value = row.field(column);
-    return value.isNull() ? std::string() : colourText(value.toInteger());
+    const auto colour = integerIn(row.field(column));
+    return colour ? colourText(*colour) : std::string();
 }
 
 void listSchemes(CommandContext& context, const SchemeOptions& options)

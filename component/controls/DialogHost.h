@@ -8,6 +8,7 @@
 namespace qncal {
 
 class Form;
+class MenuItem;
 class ProgressDialog;
 class RichTextBox;
 
@@ -16,6 +17,15 @@ enum class MousePointer : std::int16_t { standard = 0, hourglass = 11 };
 
 /// Keys that stay down while others are pressed.
 enum class ModifierKey : std::uint8_t { shift, control, alt };
+
+/// A font as a user picks it.
+struct FontChoice {
+    std::string name;
+    double points = 0;
+    bool bold = false;
+    bool italic = false;
+    friend bool operator==(const FontChoice&, const FontChoice&) = default;
+};
 
 /// The one door from the component's forms to a user-interface toolkit.
 /// Called on the component's thread. A form stays its owner's; a host forgets it when it is hidden.
@@ -44,6 +54,10 @@ public:
     virtual bool print(const RichTextBox& box) = 0;
     /// Lets the user pick a colour (red in the low byte); none when cancelled.
     virtual std::optional<std::int32_t> pickColour(std::int32_t current) = 0;
+    /// Lets the user pick a font; none when cancelled.
+    virtual std::optional<FontChoice> pickFont(const FontChoice& current) = 0;
+    /// Shows the entries of a menu at the pointer and chooses the one that the user takes, if any.
+    virtual void popUpMenu(MenuItem& menu) = 0;
 };
 
 /// The dialog host of this thread. While none is set, a dialog that is shown returns at once as if closed.

@@ -29,10 +29,14 @@ Control* Form::findControl(std::string_view path) const
     return found == controls_.end() ? nullptr : *found;
 }
 
-void Form::focus(Control* control)
+bool Form::focus(Control* control)
 {
-    if (control == focused_ || (control && !(control->isEnabled() && control->isVisible())))
-        return;
+    if (control == focused_ || (control && !control->isReachable()))
+        return true;
+    if (!mayLeaveFor(control)) {
+        focusMoved.raise();
+        return false;
+    }
     Control* previous = std::exchange(focused_, control);
     if (previous && previous->LostFocus)
         previous->LostFocus();
@@ -40,6 +44,20 @@ void Form::focus(Control* control)
     if (focused_ == control && control && control->GotFocus)
         control->GotFocus();
     focusMoved.raise();
+    return true;
+}
+
+bool Form::mayLeaveFor(const Control* next)
+{
+    // A handler that moves the focus itself is not asked again.
+    if (validating_ || !focused_ || !focused_->Validate || !focused_->isReachable()
+        || (next && !next->causesValidation()))
+        return true;
+    validating_ = true;
+    bool cancel = false;
+    focused_->Validate(cancel);
+    validating_ = false;
+    return !cancel;
 }
 
 void Form::showModal()
@@ -57,8 +75,10 @@ void Form::showModal()
 void Form::show()
 {
     const auto host = dialogHost();
-    if (!host)
+    if (!host) {
+        closeByUser();
         return;
+    }
     visible_ = true;
     host->show(*this);
 }

@@ -23,7 +23,13 @@ void ListView::addColumn(std::string title, std::int32_t width)
 
 void ListView::addRow(Row row)
 {
-    rows_.push_back(std::move(row));
+    const auto place = sortColumn_ < 0
+                           ? rows_.end()
+                           : std::upper_bound(rows_.begin(), rows_.end(), row,
+                                              [this](const Row& a, const Row& b) { return sortsBefore(a, b); });
+    if (selectedRow_ >= place - rows_.begin())
+        ++selectedRow_;
+    rows_.insert(place, std::move(row));
     updated.raise();
 }
 
@@ -34,7 +40,8 @@ void ListView::setCell(std::int32_t row, std::int32_t column, std::string text)
     auto& cells = rows_[static_cast<std::size_t>(row)].cells;
     if (cells.size() <= static_cast<std::size_t>(column))
         cells.resize(static_cast<std::size_t>(column) + 1);
-    store(cells[static_cast<std::size_t>(column)], std::move(text));
+    if (store(cells[static_cast<std::size_t>(column)], std::move(text)) && column == sortColumn_)
+        store(sortColumn_, -1);
 }
 
 void ListView::removeRow(std::int32_t row)
@@ -42,11 +49,14 @@ void ListView::removeRow(std::int32_t row)
     if (row < 0 || row >= rowCount())
         return;
     rows_.erase(rows_.begin() + row);
-    if (selectedRow_ == row)
+    const bool wasSelected = selectedRow_ == row;
+    if (wasSelected)
         selectedRow_ = -1;
     else if (selectedRow_ > row)
         --selectedRow_;
     updated.raise();
+    if (wasSelected)
+        raise(Click);
 }
 
 void ListView::clear()
@@ -54,8 +64,10 @@ void ListView::clear()
     if (rows_.empty())
         return;
     rows_.clear();
-    selectedRow_ = -1;
+    const bool wasSelected = std::exchange(selectedRow_, -1) >= 0;
     updated.raise();
+    if (wasSelected)
+        raise(Click);
 }
 
 void ListView::selectedRow(std::int32_t row)
@@ -91,22 +103,25 @@ void ListView::checked(std::int32_t row, bool checked)
         ItemCheck(row);
 }
 
+bool ListView::sortsBefore(const Row& a, const Row& b) const
+{
+    const auto column = static_cast<std::size_t>(sortColumn_);
+    const auto cell = [column](const Row& row) {
+        return column < row.cells.size() ? std::string_view(row.cells[column]) : std::string_view();
+    };
+    const int compared = compareNoCase(cell(a), cell(b));
+    return ascending_ ? compared < 0 : compared > 0;
+}
+
 void ListView::sort(std::int32_t column, bool ascending)
 {
-    sortColumn_ = column;
+    sortColumn_ = std::max(column, -1);
     ascending_ = ascending;
-    const auto cell = [column](const Row& row) {
-        return static_cast<std::size_t>(column) < row.cells.size()
-                   ? std::string_view(row.cells[static_cast<std::size_t>(column)])
-                   : std::string_view();
-    };
     std::vector<std::int32_t> order(rows_.size());
     std::iota(order.begin(), order.end(), 0);
-    if (column >= 0)
-        std::stable_sort(order.begin(), order.end(), [&](std::int32_t a, std::int32_t b) {
-            const int compared =
-                compareNoCase(cell(rows_[static_cast<std::size_t>(a)]), cell(rows_[static_cast<std::size_t>(b)]));
-            return ascending ? compared < 0 : compared > 0;
+    if (sortColumn_ >= 0)
+        std::stable_sort(order.begin(), order.end(), [this](std::int32_t a, std::int32_t b) {
+            return sortsBefore(rows_[static_cast<std::size_t>(a)], rows_[static_cast<std::size_t>(b)]);
         });
     std::vector<Row> sorted;
     sorted.reserve(rows_.size());
@@ -125,7 +140,8 @@ void ListView::clickColumn(std::int32_t column)
 {
     if (ColumnClick)
         ColumnClick(column);
-    sort(column, column != sortColumn_ || !ascending_);
+    if (headingsSort_)
+        sort(column, column != sortColumn_ || !ascending_);
 }
 
 } // namespace qncal

@@ -31,8 +31,11 @@ public:
     void addColumn(std::string title, std::int32_t width = 1440);
     const std::vector<Row>& rows() const { return rows_; }
     std::int32_t rowCount() const { return static_cast<std::int32_t>(rows_.size()); }
+    /// Adds at the end, or in a sorted list behind the rows that sort before it or alike.
     void addRow(Row row);
+    /// In the column that the list is sorted by, another text ends the sorting; the rows keep their places.
     void setCell(std::int32_t row, std::int32_t column, std::string text);
+    /// Removing the selected row, by either, selects none.
     void removeRow(std::int32_t row);
     void clear();
 
@@ -52,7 +55,10 @@ public:
     std::int32_t sortColumn() const { return sortColumn_; }
     bool isAscending() const { return ascending_; }
     void sort(std::int32_t column, bool ascending = true);
-    /// What a click on a column's title does: sorts by it, or turns the order round; raises ColumnClick first.
+    /// Whether a click on a column's title sorts; a list in an order of its own does without.
+    bool headingsSort() const { return headingsSort_; }
+    void headingsSort(bool headingsSort) { store(headingsSort_, headingsSort); }
+    /// What a click on a column's title does: raises ColumnClick, then sorts by it, or turns the order round.
     void clickColumn(std::int32_t column);
 
     std::function<void()> Click;
@@ -61,12 +67,15 @@ public:
     std::function<void(std::int32_t row)> ItemCheck;
 
 private:
+    bool sortsBefore(const Row& a, const Row& b) const;
+
     std::vector<Column> columns_;
     std::vector<Row> rows_;
     std::int32_t selectedRow_ = -1;
     std::int32_t sortColumn_ = -1;
     bool ascending_ = true;
     bool checkBoxes_ = false;
+    bool headingsSort_ = true;
 };
 
 } // namespace qncal

@@ -26,6 +26,7 @@ void TabStrip::tabVisible(std::int32_t tab, bool visible)
         return;
     visible_[static_cast<std::size_t>(tab)] = visible;
     updated.raise();
+    updateContained();
 }
 
 void TabStrip::selectedTab(std::int32_t tab)
@@ -33,7 +34,10 @@ void TabStrip::selectedTab(std::int32_t tab)
     if (tab < 0 || static_cast<std::size_t>(tab) >= tabs_.size())
         return;
     const std::int32_t previous = selected_;
-    if (store(selected_, tab) && Click)
+    if (!store(selected_, tab))
+        return;
+    updateContained();
+    if (Click)
         Click(previous);
 }
 

@@ -7,7 +7,8 @@
 
 namespace qncal {
 
-/// Tab pages by caption, numbered from 0. A change of the page raises Click with the page left.
+/// Tab pages by caption, numbered from 0. A change of the page raises Click with the page left. Controls that stand on
+/// a page (`container`) are shown while it is the selected one.
 class TabStrip : public Control {
 public:
     using Control::Control;
@@ -23,6 +24,9 @@ public:
     void selectedTab(std::int32_t tab);
 
     std::function<void(std::int32_t previousTab)> Click;
+
+protected:
+    bool isInFront(std::int32_t page) const override { return page == selected_ && isTabVisible(page); }
 
 private:
     std::vector<std::string> tabs_;

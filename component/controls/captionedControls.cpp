@@ -6,7 +6,7 @@ namespace qncal {
 
 void CommandButton::press()
 {
-    if (isEnabled() && isVisible())
+    if (isReachable())
         raise(Click);
 }
 
@@ -18,6 +18,12 @@ void OptionButton::value(bool value)
         if (auto* other = dynamic_cast<OptionButton*>(control); other && other != this && other->group_ == group_)
             other->value(false);
     raise(Click);
+}
+
+void MenuItem::popUp()
+{
+    if (const auto host = dialogHost())
+        host->popUpMenu(*this);
 }
 
 void MenuItem::choose()

@@ -57,7 +57,7 @@ public:
     bool isCancel() const { return cancel_; }
     void isCancel(bool value) { store(cancel_, value); }
 
-    /// Presses the button; a disabled or hidden one stays as it is.
+    /// Presses the button; one that is not reachable stays as it is.
     void press();
     std::function<void()> Click;
 
@@ -107,7 +107,7 @@ private:
     bool value_ = false;
 };
 
-/// A picture by number or name out of the host's set; number 0 is none.
+/// A picture by its number in the host's set; 0 is none.
 class Image : public CaptionedControl {
 public:
     using CaptionedControl::CaptionedControl;
@@ -131,6 +131,8 @@ public:
     bool isChecked() const { return checked_; }
     void checked(bool checked) { store(checked_, checked); }
     void choose();
+    /// Shows the entries whose parent this is at the pointer, and returns when one was chosen or none.
+    void popUp();
     std::function<void()> Click;
 
 private:

@@ -1,26 +1,39 @@
 #pragma once
 
 #include "controls/ListTarget.h"
+#include "controls/ListView.h"
 #include "controls/RichTextBox.h"
 #include "controls/RichTextTarget.h"
 #include "controls/listControls.h"
 
 namespace qncal {
 
-/// A list box of a dialog as a target. The dialog keeps the control, which outlives the target.
-class ListBoxTarget : public ListTarget {
+/// A list box or combo box of a dialog as a target. The dialog keeps the control, which outlives the target.
+class RowListTarget : public ListTarget {
 public:
-    explicit ListBoxTarget(ListBox& listBox) : listBox_(listBox) {}
-    void addLine(std::string_view text, std::int32_t itemData) override
-    {
-        listBox_.addItem(std::string(text), itemData);
-    }
-    void clear() override { listBox_.clear(); }
+    explicit RowListTarget(RowList& list) : list_(list) {}
+    void addLine(std::string_view text, std::int32_t itemData) override { list_.addItem(std::string(text), itemData); }
+    void clear() override { list_.clear(); }
     /// A control model shows each change at once.
     void refresh() override {}
 
 private:
-    ListBox& listBox_;
+    RowList& list_;
+};
+
+/// The first column of a list view as a target, as above.
+class ListViewTarget : public ListTarget {
+public:
+    explicit ListViewTarget(ListView& list) : list_(list) {}
+    void addLine(std::string_view text, std::int32_t itemData) override
+    {
+        list_.addRow({{std::string(text)}, itemData, false});
+    }
+    void clear() override { list_.clear(); }
+    void refresh() override {}
+
+private:
+    ListView& list_;
 };
 
 /// A rich text box of a dialog as a target. The dialog keeps the control, which outlives the target.

@@ -5,6 +5,7 @@
 #include "utilities/utf8.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qncal {
 
@@ -24,20 +25,26 @@ void RowList::removeItem(std::int32_t index)
     if (index < 0 || index >= listCount())
         return;
     rows_.erase(rows_.begin() + index);
-    if (listIndex_ == index)
+    const bool wasSelected = listIndex_ == index;
+    if (wasSelected)
         listIndex_ = -1;
     else if (listIndex_ > index)
         --listIndex_;
     updated.raise();
+    if (wasSelected)
+        selectionChanged();
 }
 
 void RowList::clear()
 {
-    if (rows_.empty())
-        return;
-    rows_.clear();
-    listIndex_ = -1;
-    updated.raise();
+    const bool wasSelected = std::exchange(listIndex_, -1) >= 0;
+    if (!rows_.empty()) {
+        rows_.clear();
+        updated.raise();
+    }
+    cleared();
+    if (wasSelected)
+        raise(Click);
 }
 
 std::int32_t RowList::itemData(std::int32_t index) const
@@ -54,8 +61,12 @@ void RowList::listIndex(std::int32_t index)
 {
     if (index < 0 || index >= listCount())
         index = -1;
-    if (!store(listIndex_, index))
-        return;
+    if (store(listIndex_, index))
+        selectionChanged();
+}
+
+void RowList::selectionChanged()
+{
     rowSelected();
     raise(Click);
 }
@@ -70,16 +81,34 @@ bool RowList::selectItemData(std::int32_t itemData)
 
 void ComboBox::text(std::string text)
 {
-    if (!editable_) {
-        const auto row = std::find_if(rows().begin(), rows().end(), [&](const ListRow& r) { return r.text == text; });
-        listIndex(row == rows().end() ? -1 : static_cast<std::int32_t>(row - rows().begin()));
-        return;
+    const std::int32_t row = rowReading(text);
+    // Both are in place before either event.
+    const bool textChanged = takeText(editable_ ? std::move(text) : list(row));
+    const bool rowChanged = storeIndex(row);
+    if (textChanged) {
+        updated.raise();
+        raise(Change);
     }
-    if (text_ == text)
+    if (rowChanged)
+        raiseClick();
+}
+
+std::int32_t ComboBox::rowReading(const std::string& text) const
+{
+    if (listIndex() >= 0 && list(listIndex()) == text)
+        return listIndex();
+    const auto found = std::find_if(rows().begin(), rows().end(), [&](const ListRow& row) { return row.text == text; });
+    return found == rows().end() ? -1 : static_cast<std::int32_t>(found - rows().begin());
+}
+
+void ComboBox::pick(std::int32_t index)
+{
+    if (index < 0 || index >= listCount())
         return;
-    caretToEndOf(text);
-    store(text_, std::move(text));
-    raise(Change);
+    if (index == listIndex())
+        raiseClick();
+    else
+        listIndex(index);
 }
 
 void ComboBox::autoComplete(std::string typed)
@@ -89,8 +118,6 @@ void ComboBox::autoComplete(std::string typed)
         const std::string& row = rows()[static_cast<std::size_t>(index)].text;
         if (row.size() < typed.size() || !equalsNoCase(std::string_view(row).substr(0, typed.size()), typed))
             continue;
-        if (row.size() == typed.size())
-            listIndex(index);
         text(row);
         select(typedLength, static_cast<std::int32_t>(countCodePoints(row)) - typedLength);
         return;
@@ -123,20 +150,29 @@ void ComboBox::select(std::int32_t start, std::int32_t length)
 
 void ComboBox::rowSelected()
 {
-    std::string text = list(listIndex());
-    if (listIndex() < 0 && editable_)
-        return; // a typed text stays when no row is selected any more
-    if (text_ == text)
+    // What was typed stays when no row is selected any more.
+    if (listIndex() >= 0 || !editable_)
+        showText(list(listIndex()));
+}
+
+void ComboBox::cleared() { showText({}); }
+
+void ComboBox::showText(std::string text)
+{
+    if (!takeText(std::move(text)))
         return;
-    caretToEndOf(text);
-    store(text_, std::move(text));
+    updated.raise();
     raise(Change);
 }
 
-void ComboBox::caretToEndOf(std::string_view text)
+bool ComboBox::takeText(std::string text)
 {
+    if (text_ == text)
+        return false;
     selStart_ = static_cast<std::int32_t>(countCodePoints(text));
     selLength_ = 0;
+    text_ = std::move(text);
+    return true;
 }
 
 } // namespace qncal

@@ -24,6 +24,7 @@ public:
     void addItem(std::string text, std::int32_t itemData = 0);
     /// Inserts before the row of that index.
     void insertItem(std::int32_t index, std::string text, std::int32_t itemData = 0);
+    /// Removing the selected row, by either, selects none.
     void removeItem(std::int32_t index);
     void clear();
     /// -1 when the index is outside of the list.
@@ -42,10 +43,17 @@ public:
     std::function<void()> DblClick;
 
 protected:
-    /// Called after another row was selected, before Click.
+    /// Called after another row was selected, or none, before Click.
     virtual void rowSelected() {}
+    /// Called after the last row was taken by `clear`.
+    virtual void cleared() {}
+    /// Selects without an event; True when another row was selected before.
+    bool storeIndex(std::int32_t index) { return store(listIndex_, index); }
+    void raiseClick() const { raise(Click); }
 
 private:
+    void selectionChanged();
+
     std::vector<ListRow> rows_;
     std::int32_t listIndex_ = -1;
 };
@@ -57,7 +65,8 @@ public:
     std::string valueText() const override { return list(listIndex()); }
 };
 
-/// A list with a text. An editable one takes any text; otherwise the text is that of the selected row.
+/// A list with a text. An editable one takes any text; otherwise the text is that of the selected row. In both the
+/// text decides what is selected: a row that reads so, or none.
 class ComboBox : public RowList {
 public:
     using RowList::RowList;
@@ -65,13 +74,16 @@ public:
     std::string valueText() const override { return text_; }
 
     const std::string& text() const { return text_; }
-    /// Sets the text. An editable box takes any, a fixed one only that of a row, which it selects.
+    /// Sets the text and selects the first row that reads so, none when there is none; a selected row that reads so
+    /// already stays. A fixed box is left without a text when no row reads so.
     void text(std::string text);
+    /// What a user does who picks a row from the open list: selects it, and raises Click even when it was the selected
+    /// one already. An index outside of the list is ignored.
+    void pick(std::int32_t index);
     bool isEditable() const { return editable_; }
     void editable(bool editable) { store(editable_, editable); }
     /// What the user typed: the text is completed from the first row that begins with it, without regard to
-    /// case, and the completion is marked as selected, so that the next key replaces it. The row itself is not
-    /// selected until the typed text is all of it.
+    /// case, and the completion is marked, so that the next key replaces it. That row is selected.
     void autoComplete(std::string typed);
     /// For a KeyPress event: types the character into the text and completes it. A character taken becomes 0;
     /// control characters, and any with the caret inside of the text, are left to the toolkit.
@@ -85,9 +97,13 @@ public:
 
 protected:
     void rowSelected() override;
+    void cleared() override;
 
 private:
-    void caretToEndOf(std::string_view text);
+    std::int32_t rowReading(const std::string& text) const;
+    /// The text alone, with the caret at its end; True when it was another one.
+    bool takeText(std::string text);
+    void showText(std::string text);
 
     std::string text_;
     std::int32_t selStart_ = 0;

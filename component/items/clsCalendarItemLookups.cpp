@@ -1,5 +1,6 @@
 #include "core/RecordSet.h"
 #include "core/calendarItemKinds.h"
+#include "core/readColour.h"
 #include "core/routineScope.h"
 #include "items/clsCalendarItem.h"
 #include "items/itemQueries.h"
@@ -57,11 +58,8 @@ void clsCalendarItem::populateColourSchemeColours()
         auto rst = RecordSet::openReadOnly("SELECT ColourSchemes.* FROM ColourSchemes WHERE ColourSchemeID="
                                            + std::to_string(record_.colourSchemeID) + ";");
         if (rst.hasRecords()) {
-            for (const auto& [column, colour] : colours) {
-                const Variant value = rst.field(column);
-                if (value.isNumeric())
-                    record_.*colour = value.toInteger();
-            }
+            for (const auto& [column, colour] : colours)
+                readColour(rst, column, record_.*colour);
         }
         rst.close();
     });

@@ -1,6 +1,10 @@
 #include "settings/ColourSchemePage.h"
 
+#include "controls/controlTargets.h"
 #include "core/RecordSet.h"
+#include "core/fillList.h"
+#include "core/readColour.h"
+#include "items/CalendarItemRecord.h"
 #include "settings/colourSchemes.h"
 #include "settings/kindWords.h"
 
@@ -8,7 +12,7 @@ namespace qncal {
 
 namespace {
 
-constexpr TextsByKind previewTitles{"Sample Appointment", "Sample Task", "Sample Time Entry"};
+constexpr TextsByKind previewTitles{"Appointment Title", "Task Title", "Time Entry Title"};
 
 /// Silences the change handlers while code fills the page.
 class PopulatingMark {
@@ -38,12 +42,18 @@ ColourSchemePage::ColourSchemePage(Form& form)
 {
     lvSchemes.addColumn("Colour Schemes", 3000);
     lvSchemes.accessibleName("Colour Schemes");
+    lvSchemes.headingsSort(false);
     lvSchemes.Click = [this] { lvSchemes_Click(); };
     txtSchemeName.accessibleName("Scheme name");
     txtSchemeName.Change = [this] { txtSchemeName_Change(); };
     constexpr std::string_view colourTitles[] = {
         "Title Bar Background:", "Title Bar Foreground:", "Body Background:", "Body Foreground:"};
+    // A list without a scheme shows a preview that can be read.
+    const CalendarItemRecord newItem;
+    const Colour coloursOfNewItem[] = {newItem.titleBackColour, newItem.titleForeColour, newItem.backColour,
+                                       newItem.foreColour};
     cpBackColour.forEach([&](ColourPicker& picker, int index) {
+        picker.colour(coloursOfNewItem[index]);
         lblColour(index).caption(std::string(colourTitles[index]));
         picker.accessibleName(std::string(colourTitles[index]));
         picker.Change = [this] { showColourPreview(); };
@@ -66,8 +76,7 @@ void ColourSchemePage::setup(enumLocalCalendarItemType kind)
     calendarKind_ = kind;
     lblTitleBar(1).caption(std::string(textOfKind(previewTitles, kind)));
     populateColourSchemes();
-    selectFirstRow();
-    populateSchemeInformation();
+    makeFirstCurrent();
 }
 
 void ColourSchemePage::populateColourSchemes()
@@ -77,43 +86,55 @@ void ColourSchemePage::populateColourSchemes()
             return;
         const PopulatingMark mark(populatingSchemes_);
         lvSchemes.clear();
-        RecordSet schemes =
-            RecordSet::openReadOnly("SELECT ColourSchemes.* FROM ColourSchemes "
-                                    "WHERE ColourSchemes.SchemeType = "
-                                    + std::to_string(calendarKind_) + " ORDER BY ColourSchemes.SchemeName;");
-        for (; !schemes.isEOF(); schemes.moveNext()) {
-            std::string name;
-            std::int32_t id = -1;
-            schemes.read("SchemeName", name);
-            schemes.read("ColourSchemeID", id);
-            lvSchemes.addRow({{name}, id, false});
-        }
-        schemes.close();
+        ListViewTarget target(lvSchemes);
+        fillList(target, modColourSchemes::schemesOfKind("ColourSchemes.*", calendarKind_), "ColourSchemeID",
+                 "SchemeName", NullText::blank);
         selectCurrentRow();
     });
 }
 
-void ColourSchemePage::populateSchemeInformation()
+void ColourSchemePage::populateSchemeInformation() { showCurrentScheme(); }
+
+bool ColourSchemePage::showCurrentScheme()
 {
-    routine("Vestrel.exe-frmDayTimerSettings-populateSchemeInformation", [&] {
+    return routine("Vestrel.exe-frmDayTimerSettings-populateSchemeInformation", false, [&] {
         if (!isDatabaseConnected())
-            return;
+            return true;
         RecordSet scheme = RecordSet::openReadOnly(schemeByID("ColourSchemes.*", currentSchemeID_));
-        if (scheme.hasRecords()) {
-            const PopulatingMark mark(populatingSchemes_);
-            std::string name;
+        const bool found = scheme.hasRecords();
+        // Everything is read before anything is shown: the page never holds half of a scheme.
+        std::string name;
+        std::array<std::int32_t, modColourSchemes::colourColumns.size()> colours;
+        cpBackColour.forEach(
+            [&](const ColourPicker& picker, int index) { colours[static_cast<std::size_t>(index)] = picker.colour(); });
+        if (found) {
             scheme.read("SchemeName", name);
-            txtSchemeName.text(name);
-            cpBackColour.forEach([&](ColourPicker& picker, int index) {
-                std::int32_t colour = picker.colour();
-                modColourSchemes::readColour(scheme, modColourSchemes::colourColumns[static_cast<std::size_t>(index)],
-                                             colour);
-                picker.colour(colour);
-            });
+            for (std::size_t index = 0; index < colours.size(); ++index)
+                readColour(scheme, modColourSchemes::colourColumns[index], colours[index]);
         }
         scheme.close();
+        if (found || currentSchemeID_ < 0) {
+            const PopulatingMark mark(populatingSchemes_);
+            txtSchemeName.text(name);
+            cpBackColour.forEach(
+                [&](ColourPicker& picker, int index) { picker.colour(colours[static_cast<std::size_t>(index)]); });
+        }
         showColourPreview();
+        return true;
     });
+}
+
+void ColourSchemePage::makeCurrent(std::int32_t schemeID, std::int32_t orElse)
+{
+    currentSchemeID_ = schemeID;
+    if (!showCurrentScheme())
+        currentSchemeID_ = orElse;
+    selectCurrentRow();
+}
+
+void ColourSchemePage::makeFirstCurrent()
+{
+    makeCurrent(lvSchemes.rows().empty() ? -1 : lvSchemes.rows().front().itemData, -1);
 }
 
 void ColourSchemePage::showColourPreview()
@@ -155,11 +176,12 @@ void ColourSchemePage::cmdAddScheme_Click()
         schemes.addNew();
         schemes.writeNew("SchemeType", static_cast<std::int32_t>(calendarKind_));
         schemes.writeNew("SchemeName", std::string_view("New Scheme"));
-        schemes.read("ColourSchemeID", currentSchemeID_);
+        std::int32_t added = -1;
+        schemes.read("ColourSchemeID", added);
         schemes.update();
         schemes.close();
         populateColourSchemes();
-        populateSchemeInformation();
+        makeCurrent(added, currentSchemeID_);
     });
 }
 
@@ -176,8 +198,7 @@ void ColourSchemePage::cmdDeleteScheme_Click()
         if (!deleted)
             return;
         populateColourSchemes();
-        selectFirstRow();
-        populateSchemeInformation();
+        makeFirstCurrent();
     });
 }
 
@@ -196,12 +217,10 @@ void ColourSchemePage::lvSchemes_Click()
     routine("Vestrel.exe-frmDayTimerSettings-lvSchemes_Click", [&] {
         bool saved = false;
         saveSchemeChanges(saved);
-        if (saved) {
-            currentSchemeID_ = lvSchemes.selectedItemData();
-            populateSchemeInformation();
-        } else {
+        if (saved)
+            makeCurrent(lvSchemes.selectedItemData(), currentSchemeID_);
+        else
             selectCurrentRow();
-        }
     });
 }
 
@@ -220,13 +239,6 @@ void ColourSchemePage::selectCurrentRow()
 {
     const PopulatingMark mark(populatingSchemes_);
     lvSchemes.selectedRow(lvSchemes.findItemData(currentSchemeID_));
-}
-
-void ColourSchemePage::selectFirstRow()
-{
-    const PopulatingMark mark(populatingSchemes_);
-    lvSchemes.selectedRow(0);
-    currentSchemeID_ = lvSchemes.selectedItemData();
 }
 
 } // namespace qncal

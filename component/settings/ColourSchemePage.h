@@ -17,10 +17,11 @@ class ColourSchemePage {
 public:
     explicit ColourSchemePage(Form& form);
 
-    /// The kind whose schemes the page shows; fills the list.
+    /// The kind whose schemes the page shows; fills the list and shows its first scheme.
     void setup(enumLocalCalendarItemType kind);
 
     void populateColourSchemes();
+    /// Shows the current scheme. What cannot be read leaves the page as it was.
     void populateSchemeInformation();
     void showColourPreview();
     /// `saved` is False when the current scheme has no row any more; nothing is stored then.
@@ -32,6 +33,7 @@ public:
     void lvSchemes_Click();
     void txtSchemeName_Change();
 
+    /// The scheme whose values stand on the page; -1 for none.
     std::int32_t currentSchemeID() const { return currentSchemeID_; }
 
     ListView lvSchemes;
@@ -47,9 +49,14 @@ public:
     TextBox txtApptPreview;
 
 private:
+    /// False when reading failed.
+    bool showCurrentScheme();
+    /// Makes a scheme the current one and shows it. When that fails another takes its place: the page still shows
+    /// the former one's values, which must not be stored in this one's row.
+    void makeCurrent(std::int32_t schemeID, std::int32_t orElse);
+    void makeFirstCurrent();
     /// Selects the row of the current scheme without its click event.
     void selectCurrentRow();
-    void selectFirstRow();
 
     enumLocalCalendarItemType calendarKind_ = enumLocalCalendarUnknownItem;
     std::int32_t currentSchemeID_ = -1;

@@ -15,6 +15,7 @@ FieldNamesForm::FieldNamesForm(const Texts& texts) : ItemKindForm(std::string(te
     });
     cmdAdvancedOptions.forEach([&](CommandButton& button, int index) {
         button.caption("View Advanced Options");
+        button.accessibleName("View Advanced Options, " + std::string(texts_.fieldCaption) + std::to_string(index));
         button.Click = [this, index] { cmdAdvancedOptions_Click(index); };
     });
     cmdOK.caption("&Ok");
@@ -24,6 +25,7 @@ FieldNamesForm::FieldNamesForm(const Texts& texts) : ItemKindForm(std::string(te
     cmdApply.Click = [this] { cmdApply_Click(); };
     cmdCancel.caption("&Cancel");
     cmdCancel.isCancel(true);
+    cmdCancel.causesValidation(false);
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
@@ -45,6 +47,7 @@ void FieldNamesForm::Initialize(enumLocalCalendarItemType kind)
 void FieldNamesForm::setupForm()
 {
     routine(label("setupForm"), [&] {
+        startUpPosition(StartUpPosition::byMainWindow);
         caption(std::string(textOfKind(texts_.titles, calendarKind_)));
         lblIntroduction.caption(std::string(textOfKind(texts_.introductions, calendarKind_)));
     });

@@ -27,7 +27,7 @@ public:
 
     enumLocalCalendarItemType calendarKind() const { return calendarKind_; }
     std::string_view kindPrefix() const { return textOfKind(columnPrefixes, calendarKind_); }
-    /// True once a name was edited.
+    /// True once a name was changed, by the user or by reading it from the database; False again after unloading.
     bool changed() const { return changed_; }
 
     Label lblIntroduction{*this, "lblIntroduction"};

@@ -1,6 +1,16 @@
 #include "settings/colourSchemes.h"
 
+#include "controls/controlTargets.h"
+#include "core/RecordSet.h"
+#include "core/fillList.h"
+
 namespace qncal::modColourSchemes {
+
+std::string schemesOfKind(std::string_view columns, std::int32_t schemeType)
+{
+    return "SELECT " + std::string(columns) + " FROM ColourSchemes WHERE ColourSchemes.SchemeType = "
+           + std::to_string(schemeType) + " ORDER BY ColourSchemes.SchemeName;";
+}
 
 void populateColourSchemes(RowList& list, std::int32_t schemeType)
 {
@@ -9,25 +19,12 @@ void populateColourSchemes(RowList& list, std::int32_t schemeType)
         list.addItem("<No Scheme Selected>", -1);
         if (!isDatabaseConnected())
             return;
-        RecordSet schemes = RecordSet::openReadOnly(
-            "SELECT ColourSchemes.ColourSchemeID, ColourSchemes.SchemeName, ColourSchemes.SchemeType "
-            "FROM ColourSchemes WHERE ColourSchemes.SchemeType = "
-            + std::to_string(schemeType) + " ORDER BY ColourSchemes.SchemeName;");
-        for (; !schemes.isEOF(); schemes.moveNext()) {
-            std::string name;
-            std::int32_t id = -1;
-            if (schemes.read("SchemeName", name) && schemes.read("ColourSchemeID", id))
-                list.addItem(name, id);
-        }
-        schemes.close();
+        RowListTarget target(list);
+        fillList(target,
+                 schemesOfKind("ColourSchemes.ColourSchemeID, ColourSchemes.SchemeName, ColourSchemes.SchemeType",
+                               schemeType),
+                 "ColourSchemeID", "SchemeName", NullText::skipped);
     });
-}
-
-void readColour(const RecordSet& scheme, std::string_view column, std::int32_t& target)
-{
-    const Variant value = scheme.field(column);
-    if (value.isNumeric())
-        target = value.toInteger();
 }
 
 } // namespace qncal::modColourSchemes

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "controls/listControls.h"
-#include "core/RecordSet.h"
 
 #include <array>
 #include <cstdint>
@@ -14,11 +13,11 @@ namespace qncal::modColourSchemes {
 inline constexpr std::array<std::string_view, 4> colourColumns{"TitleBackColour", "TitleForeColour", "BackColour",
                                                                "ForeColour"};
 
-/// Fills the list with "<No Scheme Selected>" (item data -1) and the schemes of a kind by name (item data: the
-/// scheme's number).
-void populateColourSchemes(RowList& list, std::int32_t schemeType);
+/// The SELECT of those columns of the schemes of a kind, by name.
+std::string schemesOfKind(std::string_view columns, std::int32_t schemeType);
 
-/// Reads a colour that is stored as a number; a null or any other text leaves the target as it was.
-void readColour(const RecordSet& scheme, std::string_view column, std::int32_t& target);
+/// Fills the list with "<No Scheme Selected>" (item data -1) and the schemes of a kind by name (item data: the
+/// scheme's number); a scheme whose name is null is left out.
+void populateColourSchemes(RowList& list, std::int32_t schemeType);
 
 } // namespace qncal::modColourSchemes

@@ -3,8 +3,11 @@
 #include "core/RecordSet.h"
 #include "core/ServiceRegistry.h"
 #include "core/messages.h"
+#include "core/readColour.h"
+#include "utilities/readableValue.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace qncal {
 
@@ -25,13 +28,18 @@ frmApptStatusOptions::frmApptStatusOptions() : ApptStatusOptionsForm("frmApptSta
     lblField.caption("&Name:");
     txtField.accessibleName("Name");
     txtField.Change = [this] { txtField_Change(); };
-    chkField(0).caption("Display &colour");
+    chkField(0).caption("Display co&lour");
     chkField(1).caption("Display &icon");
     cpBackgroundColour.accessibleName("Status colour");
     chkSample.forEach([this](CheckBox& sample, int index) {
         sample.accessibleName("Icon " + std::to_string(index));
+        sample.container(picIconsOptions);
         sample.Click = [this, index] { chkSample_Click(index); };
     });
+    for (Control* control : std::initializer_list<Control*>{&lblField, &txtField, &chkField(0), &chkField(1),
+                                                            &cpBackgroundColour, &picScrollBarContainer, &vScrollBar})
+        control->container(Frame1);
+    picIconsOptions.container(picScrollBarContainer);
     picIconsOptions.height(iconRowHeight * ((iconCount + iconColumns - 1) / iconColumns));
     picScrollBarContainer.Resize = [this] { picScrollBarContainer_Resize(); };
     vScrollBar.bounds(0, 0);
@@ -42,6 +50,7 @@ frmApptStatusOptions::frmApptStatusOptions() : ApptStatusOptionsForm("frmApptSta
     cmdOK.Click = [this] { cmdOK_Click(); };
     cmdCancel.caption("&Cancel");
     cmdCancel.isCancel(true);
+    cmdCancel.causesValidation(false);
     cmdCancel.Click = [this] { cmdCancel_Click(); };
 }
 
@@ -63,7 +72,10 @@ void frmApptStatusOptions::Initialize(enumLocalCalendarItemType kind, const std:
 
 void frmApptStatusOptions::setupForm()
 {
-    routine("Vestrel.exe-frmApptStatusOptions-setupForm", [&] { changed_ = false; });
+    routine("Vestrel.exe-frmApptStatusOptions-setupForm", [&] {
+        startUpPosition(StartUpPosition::byMainWindow);
+        changed_ = false;
+    });
 }
 
 std::string frmApptStatusOptions::columnName(std::string_view middle) const
@@ -77,14 +89,12 @@ void frmApptStatusOptions::populateFields()
         return;
     RecordSet fields = RecordSet::openReadOnly(selectStatement);
     if (fields.hasRecords()) {
-        bool useColour = false;
-        bool useIcon = false;
+        // A cell that another program has spoilt must not keep the dialog from opening: here it can be mended.
+        const bool useColour = booleanIn(fields.field(columnName("UseStatusColour"))).value_or(false);
+        const bool useIcon = booleanIn(fields.field(columnName("UseStatusIcon"))).value_or(false);
         std::int32_t colour = cpBackgroundColour.colour();
-        std::int32_t icon = 0;
-        fields.read(columnName("UseStatusColour"), useColour);
-        fields.read(columnName("UseStatusIcon"), useIcon);
-        fields.read(columnName("StatusColour"), colour);
-        fields.read(columnName("StatusIcon"), icon);
+        readColour(fields, columnName("StatusColour"), colour);
+        const std::int32_t icon = integerIn(fields.field(columnName("StatusIcon"))).value_or(0);
         chkField(0).value(statement([&] { return utilityService().boolToCheckBox(useColour); }));
         chkField(1).value(statement([&] { return utilityService().boolToCheckBox(useIcon); }));
         cpBackgroundColour.colour(colour);

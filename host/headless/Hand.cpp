@@ -1,5 +1,7 @@
 #include "headless/Hand.h"
 
+#include "headless/Typing.h"
+
 #include "controls/ListView.h"
 #include "controls/RichTextBox.h"
 #include "controls/TabStrip.h"
@@ -7,10 +9,10 @@
 #include "controls/captionedControls.h"
 #include "controls/listControls.h"
 #include "controls/rangeControls.h"
-#include "utilities/codePoints.h"
 #include "utilities/utf8.h"
 
 #include <algorithm>
+#include <functional>
 #include <stdexcept>
 
 namespace qncal::host {
@@ -41,46 +43,67 @@ Control& Hand::named(std::string_view path) const
 
 void Hand::wrongKind(std::string_view path) const { refuse(*form_, path, std::string("is a ") + named(path).kind()); }
 
-Control& Hand::reach(std::string_view path) const
+Control* Hand::reach(std::string_view path) const
 {
     Control& control = named(path);
-    if (!control.isVisible())
+    if (!control.isShown())
         refuse(*form_, path, "is hidden");
-    if (!control.isEnabled())
+    if (!control.isReachable())
         refuse(*form_, path, "is disabled");
-    control.setFocus();
-    return control;
+    // A label or a panel is clicked without the focus going there.
+    if (dynamic_cast<Label*>(&control) || dynamic_cast<Panel*>(&control) || dynamic_cast<MenuItem*>(&control))
+        return &control;
+    return control.setFocus() ? &control : nullptr;
 }
 
 void Hand::click(std::string_view path)
 {
-    Control& control = reach(path);
-    if (auto* button = dynamic_cast<CommandButton*>(&control))
+    Control* control = reach(path);
+    if (!control)
+        return;
+    if (control->MouseUp)
+        control->MouseUp(MouseButton::left);
+    if (auto* button = dynamic_cast<CommandButton*>(control))
         button->press();
-    else if (auto* box = dynamic_cast<CheckBox*>(&control))
+    else if (auto* box = dynamic_cast<CheckBox*>(control))
         box->value(box->isChecked() ? 0 : 1);
-    else if (auto* option = dynamic_cast<OptionButton*>(&control))
+    else if (auto* option = dynamic_cast<OptionButton*>(control))
         option->value(true);
-    else if (auto* entry = dynamic_cast<MenuItem*>(&control))
+    else if (auto* entry = dynamic_cast<MenuItem*>(control))
         entry->choose();
-    else if (auto* label = dynamic_cast<Label*>(&control); label && label->Click)
+    else if (auto* label = dynamic_cast<Label*>(control); label && label->Click)
         label->Click();
+}
+
+void Hand::rightClick(std::string_view path)
+{
+    if (Control* control = reach(path); control && control->MouseUp)
+        control->MouseUp(MouseButton::right);
+}
+
+void Hand::doubleClick(std::string_view path)
+{
+    const auto raise = [](const std::function<void()>& slot) {
+        if (slot)
+            slot();
+    };
+    Control* control = reach(path);
+    if (auto* list = dynamic_cast<RowList*>(control))
+        raise(list->DblClick);
+    else if (auto* view = dynamic_cast<ListView*>(control))
+        raise(view->DblClick);
+    else if (auto* box = dynamic_cast<TextBox*>(control))
+        raise(box->DblClick);
+    else if (control)
+        wrongKind(path);
 }
 
 void Hand::type(std::string_view path, std::string_view text)
 {
-    Control& control = reach(path);
-    if (auto* box = dynamic_cast<TextBox*>(&control)) {
-        if (box->isReadOnly())
-            refuse(*form_, path, "is read-only");
-        box->text({});
-    } else if (auto* combo = dynamic_cast<ComboBox*>(&control)) {
-        if (!combo->isEditable())
-            refuse(*form_, path, "takes only rows of its list");
-        combo->text({});
-    } else {
-        wrongKind(path);
-    }
+    Control* control = reach(path);
+    if (!control)
+        return;
+    Typing(*control).clear();
     while (!text.empty()) {
         const Utf8Character next = decodeUtf8(text);
         pressKey(path, next.codePoint);
@@ -90,79 +113,119 @@ void Hand::type(std::string_view path, std::string_view text)
 
 void Hand::pressKey(std::string_view path, char32_t character)
 {
-    Control& control = reach(path);
-    auto key = static_cast<std::int32_t>(character);
-    if (control.KeyPress)
-        control.KeyPress(key);
-    if (key == 0)
+    Control* control = reach(path);
+    if (!control)
         return;
-    std::string typed;
-    appendUtf8(typed, static_cast<char32_t>(key));
-    if (auto* box = dynamic_cast<TextBox*>(&control)) {
-        if (box->maxLength() == 0 || static_cast<std::int32_t>(countCodePoints(box->text())) < box->maxLength())
-            box->text(box->text() + typed);
-    } else if (auto* combo = dynamic_cast<ComboBox*>(&control); combo && combo->isEditable()) {
-        combo->text(combo->text() + typed);
+    auto key = static_cast<std::int32_t>(character);
+    const std::int32_t code = keyCodeOf(character);
+    if (control->keyDown(code)) {
+        if (control->KeyPress)
+            control->KeyPress(key);
+        if (key != 0)
+            Typing(*control).put(static_cast<char32_t>(key));
     }
-    if (control.KeyUp)
-        control.KeyUp(key);
+    control->keyUp(code);
+}
+
+void Hand::pressKeyCode(std::string_view path, std::int32_t keyCode)
+{
+    if (Control* control = reach(path)) {
+        control->keyDown(keyCode);
+        control->keyUp(keyCode);
+    }
 }
 
 void Hand::check(std::string_view path, bool checked)
 {
-    reach(path);
-    as<CheckBox>(path).value(checked ? 1 : 0);
+    if (auto* box = reachAs<CheckBox>(path))
+        box->value(checked ? 1 : 0);
 }
 
-void Hand::pick(std::string_view path, std::string_view rowText)
+std::int32_t Hand::rowNamed(std::string_view path, std::string_view rowText) const
 {
-    Control& control = named(path);
+    const Control& control = named(path);
     std::int32_t index = -1;
-    if (const auto* list = dynamic_cast<RowList*>(&control))
+    if (const auto* list = dynamic_cast<const RowList*>(&control))
         index = indexOfText(list->rows(), rowText, [](const ListRow& row) { return std::string_view(row.text); });
-    else if (const auto* view = dynamic_cast<ListView*>(&control))
+    else if (const auto* view = dynamic_cast<const ListView*>(&control))
         index = indexOfText(view->rows(), rowText, [](const ListView::Row& row) {
             return row.cells.empty() ? std::string_view() : std::string_view(row.cells.front());
         });
-    else if (const auto* tabs = dynamic_cast<TabStrip*>(&control))
+    else if (const auto* tabs = dynamic_cast<const TabStrip*>(&control))
         index = indexOfText(tabs->tabs(), rowText, [](const std::string& tab) { return std::string_view(tab); });
     if (index < 0)
         refuse(*form_, path, "has no row \"" + std::string(rowText) + "\"");
-    pickIndex(path, index);
+    return index;
 }
+
+void Hand::pick(std::string_view path, std::string_view rowText) { pickIndex(path, rowNamed(path, rowText)); }
 
 void Hand::pickIndex(std::string_view path, std::int32_t index)
 {
-    Control& control = reach(path);
-    if (auto* list = dynamic_cast<RowList*>(&control))
+    Control* control = reach(path);
+    if (auto* combo = dynamic_cast<ComboBox*>(control))
+        combo->pick(index);
+    else if (auto* list = dynamic_cast<RowList*>(control))
         list->listIndex(index);
-    else if (auto* view = dynamic_cast<ListView*>(&control))
+    else if (auto* view = dynamic_cast<ListView*>(control))
         view->selectedRow(index);
-    else if (auto* tabs = dynamic_cast<TabStrip*>(&control))
+    else if (auto* tabs = dynamic_cast<TabStrip*>(control))
         tabs->selectedTab(index);
-    else
+    else if (control)
         wrongKind(path);
+}
+
+void Hand::checkRow(std::string_view path, std::string_view rowText, bool checked)
+{
+    const std::int32_t row = rowNamed(path, rowText);
+    auto* view = reachAs<ListView>(path);
+    if (!view)
+        return;
+    if (!view->hasCheckBoxes())
+        refuse(*form_, path, "has no check boxes");
+    view->checked(row, checked);
+}
+
+void Hand::clickColumn(std::string_view path, std::int32_t column)
+{
+    if (auto* view = reachAs<ListView>(path))
+        view->clickColumn(column);
 }
 
 void Hand::pickDate(std::string_view path, Date value)
 {
-    reach(path);
-    auto& picker = as<DateTimePicker>(path);
-    picker.value(value);
-    if (picker.CloseUp)
-        picker.CloseUp();
+    auto* picker = reachAs<DateTimePicker>(path);
+    if (!picker)
+        return;
+    // Only a date has a calendar that drops down.
+    const bool drops = picker->format() == DateTimePicker::Format::date;
+    if (drops && picker->DropDown)
+        picker->DropDown();
+    picker->value(value);
+    if (drops && picker->CloseUp)
+        picker->CloseUp();
+}
+
+void Hand::clearDate(std::string_view path)
+{
+    auto* picker = reachAs<DateTimePicker>(path);
+    if (!picker)
+        return;
+    if (!picker->hasCheckBox())
+        refuse(*form_, path, "has no box to clear");
+    picker->clearValue();
 }
 
 void Hand::pickColour(std::string_view path, std::int32_t colour)
 {
-    reach(path);
-    as<ColourPicker>(path).colour(colour);
+    if (auto* picker = reachAs<ColourPicker>(path))
+        picker->colour(colour);
 }
 
 void Hand::move(std::string_view path, std::int32_t value)
 {
-    reach(path);
-    as<RangeControl>(path).value(value);
+    if (auto* range = reachAs<RangeControl>(path))
+        range->value(value);
 }
 
 void Hand::tabAway()
@@ -173,7 +236,7 @@ void Hand::tabAway()
         current == controls.end() ? std::size_t{0} : static_cast<std::size_t>(current - controls.begin()) + 1;
     for (std::size_t step = 0; step < controls.size(); ++step) {
         Control* next = controls[(start + step) % controls.size()];
-        if (next->isEnabled() && next->isVisible() && !dynamic_cast<Label*>(next) && !dynamic_cast<Panel*>(next)
+        if (next->isReachable() && !dynamic_cast<Label*>(next) && !dynamic_cast<Panel*>(next)
             && !dynamic_cast<MenuItem*>(next)) {
             form_->focus(next);
             return;
@@ -200,9 +263,9 @@ std::string listControls(const Form& form)
     std::string text = form.name() + "  \"" + form.caption() + "\"\n";
     for (const Control* control : form.controls()) {
         text += "  " + control->path() + "  " + control->kind() + "  \"" + control->valueText() + "\"";
-        if (!control->isVisible())
+        if (!control->isShown())
             text += "  (hidden)";
-        if (!control->isEnabled())
+        else if (!control->isReachable())
             text += "  (disabled)";
         if (control->hasFocus())
             text += "  (focus)";

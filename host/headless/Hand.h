@@ -10,7 +10,7 @@
 
 namespace qncal::host {
 
-/// Acts on a form as a user's hand would: only on what is visible and enabled, with the focus going where the
+/// Acts on a form as a user's hand would: only on what is shown and enabled, with the focus going where the
 /// hand goes. Controls are named by their path, "txtName" or "cmdOpts(1)". What a hand could not do throws
 /// `std::runtime_error` that says why.
 class Hand {
@@ -20,15 +20,26 @@ public:
 
     /// Clicks a button, check box, option button, label, menu entry, or gives any other control the focus.
     void click(std::string_view path);
-    /// Replaces the text of a text box or editable combo box, key by key.
+    void rightClick(std::string_view path);
+    /// Clicks a list, list view or text box twice.
+    void doubleClick(std::string_view path);
+    /// Replaces the text of a text box, rich text box or editable combo box, key by key.
     void type(std::string_view path, std::string_view text);
-    /// One key into a control, given as a character; the control's KeyPress may change or swallow it.
+    /// One key into a control, given as a character, with the events of a key; each may swallow it. It goes to the
+    /// caret, in place of what is marked; 8 is the backspace key and 13 the enter key.
     void pressKey(std::string_view path, char32_t character);
+    /// A key that types nothing, by its number (`Control::KeyUp`): down and up.
+    void pressKeyCode(std::string_view path, std::int32_t keyCode);
     /// Checks or clears a check box.
     void check(std::string_view path, bool checked);
     /// Picks the row of a list, combo box, list view or tab strip by its text, or by its index.
     void pick(std::string_view path, std::string_view rowText);
     void pickIndex(std::string_view path, std::int32_t index);
+    /// Checks or clears the row of a list view that has check boxes.
+    void checkRow(std::string_view path, std::string_view rowText, bool checked);
+    void clickColumn(std::string_view path, std::int32_t column);
+    /// Clears the box of a date picker that has one.
+    void clearDate(std::string_view path);
     /// Picks a date or time, a colour, or the value of an up-down or scroll bar.
     void pickDate(std::string_view path, Date value);
     void pickColour(std::string_view path, std::int32_t colour);
@@ -54,8 +65,17 @@ public:
 private:
     Control& named(std::string_view path) const;
     [[noreturn]] void wrongKind(std::string_view path) const;
-    /// The control, after the focus went to it; throws when it is hidden or disabled.
-    Control& reach(std::string_view path) const;
+    /// The control, after the focus went to it; throws when it is hidden or disabled. None when the control that has
+    /// the focus refuses to be left: then nothing comes of what the hand does.
+    Control* reach(std::string_view path) const;
+    /// The same, of a kind that is expected.
+    template <class ControlType>
+    ControlType* reachAs(std::string_view path) const
+    {
+        auto& control = as<ControlType>(path);
+        return reach(path) ? &control : nullptr;
+    }
+    std::int32_t rowNamed(std::string_view path, std::string_view rowText) const;
     void pressButton(bool isDefault);
 
     Form* form_;

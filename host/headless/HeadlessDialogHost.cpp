@@ -2,6 +2,7 @@
 
 #include "controls/ProgressDialog.h"
 #include "controls/RichTextBox.h"
+#include "controls/captionedControls.h"
 
 #include <algorithm>
 
@@ -66,6 +67,19 @@ bool HeadlessDialogHost::print(const RichTextBox& box)
 }
 
 std::optional<std::int32_t> HeadlessDialogHost::pickColour(std::int32_t) { return colour_; }
+
+std::optional<FontChoice> HeadlessDialogHost::pickFont(const FontChoice&) { return font_; }
+
+void HeadlessDialogHost::popUpMenu(MenuItem& menu)
+{
+    turn();
+    shownMenus_.push_back(menu.name());
+    auto* entry = dynamic_cast<MenuItem*>(menu.form().findControl(entry_));
+    if (!entry || entry->parent() != menu.name())
+        return;
+    entry_.clear();
+    entry->choose();
+}
 
 void HeadlessDialogHost::turn()
 {

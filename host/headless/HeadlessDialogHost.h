@@ -36,7 +36,13 @@ public:
     void holdKey(ModifierKey key, bool down);
     /// What the next progress dialogs do: cancelled at once when set.
     void cancelProgress(bool cancel) { cancelProgress_ = cancel; }
+    /// What is picked from now on; none cancels.
     void colourToPick(std::optional<std::int32_t> colour) { colour_ = colour; }
+    void fontToPick(std::optional<FontChoice> font) { font_ = std::move(font); }
+    /// The entry, by its name, that is chosen from the next popup menu that has it; the menu closes without one else.
+    void entryToChoose(std::string name) { entry_ = std::move(name); }
+    /// The names of all popup menus shown so far, in order.
+    const std::vector<std::string>& shownMenus() const { return shownMenus_; }
     /// The rich texts printed so far.
     const std::vector<std::string>& printed() const { return printed_; }
 
@@ -51,6 +57,8 @@ public:
     void runProgress(ProgressDialog& dialog) override;
     bool print(const RichTextBox& box) override;
     std::optional<std::int32_t> pickColour(std::int32_t current) override;
+    std::optional<FontChoice> pickFont(const FontChoice& current) override;
+    void popUpMenu(MenuItem& menu) override;
 
 private:
     void act(Form& form);
@@ -64,7 +72,10 @@ private:
     std::vector<Form*> open_;
     std::vector<std::string> printed_;
     std::vector<ModifierKey> keysDown_;
+    std::vector<std::string> shownMenus_;
     std::optional<std::int32_t> colour_;
+    std::optional<FontChoice> font_;
+    std::string entry_;
     MousePointer pointer_ = MousePointer::standard;
     bool cancelProgress_ = false;
 };

@@ -62,7 +62,7 @@ QWidget* FormWindow::firstWidget() const
 {
     for (const Control* control : form_->controls())
         if (QWidget* widget = ControlBinding::widgetOf(*this, *control);
-            widget && takesFocus(*widget) && control->isEnabled() && control->isVisible())
+            widget && takesFocus(*widget) && control->isReachable())
             return widget;
     return nullptr;
 }

@@ -2,15 +2,21 @@
 
 #include "controls/RichTextBox.h"
 #include "qt/ProgressWindow.h"
+#include "qt/bindings/anyWidget.h"
 #include "qt/convert.h"
 #include "qt/printRichText.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QColorDialog>
+#include <QCursor>
 #include <QEventLoop>
+#include <QFontDialog>
+#include <QMenu>
+#include <QScreen>
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace qncal::host {
@@ -63,12 +69,26 @@ FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
     shown_.push_back({&form, window, loop});
     // Handlers that run while the window comes up may take the form away again.
     const QPointer<FormWindow> alive(window);
+    if (form.startUpPosition() == StartUpPosition::byMainWindow && mainWindow_)
+        placeByMainWindow(*window);
     window->show();
     if (alive && find(form) != shown_.end()) {
         window->raise();
         window->activateWindow();
     }
     return alive;
+}
+
+void QtDialogHost::placeByMainWindow(FormWindow& window) const
+{
+    if (!window.testAttribute(Qt::WA_Resized))
+        window.adjustSize();
+    QRect place(QPoint(), window.size());
+    place.moveCenter(mainWindow_->frameGeometry().center());
+    const QRect screen = mainWindow_->screen()->availableGeometry();
+    place.moveLeft(std::max(std::min(place.left(), screen.right() - place.width()), screen.left()));
+    place.moveTop(std::max(std::min(place.top(), screen.bottom() - place.height()), screen.top()));
+    window.move(place.topLeft());
 }
 
 void QtDialogHost::showModal(Form& form)
@@ -183,6 +203,33 @@ std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     return fromQtColour(dialog.selectedColor());
+}
+
+std::optional<FontChoice> QtDialogHost::pickFont(const FontChoice& current)
+{
+    if (!qApp)
+        return {};
+    turn();
+    QFont shown(toQt(current.name));
+    if (current.points > 0)
+        shown.setPointSizeF(current.points);
+    shown.setBold(current.bold);
+    shown.setItalic(current.italic);
+    QFontDialog dialog(shown, owner());
+    dialog.setObjectName("pickFont");
+    if (dialog.exec() != QDialog::Accepted)
+        return {};
+    const QFont font = dialog.selectedFont();
+    return FontChoice{fromQt(font.family()), font.pointSizeF(), font.bold(), font.italic()};
+}
+
+void QtDialogHost::popUpMenu(MenuItem& menu)
+{
+    if (!qApp)
+        return;
+    turn();
+    const std::unique_ptr<QMenu> shown(newMenuFor(menu, owner()));
+    shown->exec(QCursor::pos());
 }
 
 } // namespace qncal::host

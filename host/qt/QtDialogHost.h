@@ -45,6 +45,8 @@ public:
     void runProgress(ProgressDialog& dialog) override;
     bool print(const RichTextBox& box) override;
     std::optional<std::int32_t> pickColour(std::int32_t current) override;
+    std::optional<FontChoice> pickFont(const FontChoice& current) override;
+    void popUpMenu(MenuItem& menu) override;
 
 private:
     struct Shown {
@@ -56,6 +58,7 @@ private:
 
     void turn() const;
     FormWindow* open(Form& form, QEventLoop* loop);
+    void placeByMainWindow(FormWindow& window) const;
     std::vector<Shown>::iterator find(const Form& form);
 
     WindowClasses windows_;

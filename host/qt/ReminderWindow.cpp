@@ -27,6 +27,9 @@ struct Period {
 constexpr Period periods[] = {{5, "5 minutes"},   {10, "10 minutes"}, {15, "15 minutes"},
                               {30, "30 minutes"}, {60, "1 hour"},     {24 * 60, "1 day"}};
 
+/// What it is about; the lines below say when.
+QString firstLine(const QTreeWidgetItem& item) { return item.text(textColumn).section('\n', 0, 0); }
+
 int numberOf(const QTreeWidgetItem& item) { return item.data(dueColumn, numberRole).toInt(); }
 
 } // namespace
@@ -112,8 +115,7 @@ void ReminderWindow::withdraw(std::int32_t reminderID)
     QTreeWidgetItem* item = itemOf(reminderID);
     if (!item)
         return;
-    note(
-        tr("%1: the item has been deleted, and its reminder with it.").arg(item->text(textColumn).section('\n', 0, 0)));
+    note(tr("%1: the item was deleted or moved. A moved one comes again.").arg(firstLine(*item)));
     take(item);
     showState();
 }
@@ -201,9 +203,8 @@ void ReminderWindow::settle(const QList<QTreeWidgetItem*>& items, const std::fun
     for (QTreeWidgetItem* item : items) {
         try {
             if (answer(numberOf(*item)) == Outcome::deleted) {
-                withdraw(numberOf(*item));
+                note(tr("%1: the item was deleted, and its reminder with it.").arg(firstLine(*item)));
                 allDone = false;
-                continue;
             }
             take(item);
         } catch (const RunTimeError& error) {

@@ -19,7 +19,7 @@ namespace qncal::host {
 /// Lists the reminders that are due until each is dismissed or put off. It comes to the front with every new one, and
 /// goes when the last is answered. Closing it leaves the reminders in it: they are there when it opens again.
 ///
-/// A reminder whose item is deleted meanwhile leaves the list, and a line below says so.
+/// A reminder whose item is deleted or moved meanwhile leaves the list, and a line below says so.
 class ReminderWindow : public QDialog, public ReminderDisplay {
 public:
     using Outcome = ReminderLoop::Outcome;

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 
 namespace qncal::host {
 
@@ -80,10 +81,10 @@ void ControlBinding::showEverything()
 
 void ControlBinding::showGeneral()
 {
-    widget_->setEnabled(control_->isEnabled());
+    widget_->setEnabled(control_->isReachable());
     // A widget without a parent would become a window of its own.
-    if (!control_->isVisible() || widget_->parentWidget())
-        widget_->setVisible(control_->isVisible());
+    if (!control_->isShown() || widget_->parentWidget())
+        widget_->setVisible(control_->isShown());
     // A window may give names of its own to what the form leaves unnamed.
     if (std::exchange(shownToolTip_, control_->toolTip()) != control_->toolTip())
         widget_->setToolTip(toQt(shownToolTip_));
@@ -110,15 +111,34 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::FocusIn:
-        control_->setFocus();
+        refused_ = !control_->setFocus();
+        // The focus has gone back meanwhile: the widget must not look as if it had it.
+        if (refused_)
+            return true;
+        break;
+    case QEvent::FocusOut:
+        refused_ = false;
+        break;
+    case QEvent::MouseButtonPress:
+        // The control that had the focus keeps it, and the click comes to nothing.
+        if (refused_)
+            return true;
+        break;
+    case QEvent::MouseButtonRelease:
+        mouseReleased(*event);
+        break;
+    case QEvent::ContextMenu:
+        // A control that hears of the mouse shows a menu of its own.
+        if (control_->MouseUp)
+            return true;
         break;
     case QEvent::KeyPress:
         if (keyPressed(watched, event))
             return true;
         break;
     case QEvent::KeyRelease:
-        if (const auto* key = static_cast<QKeyEvent*>(event); control_->KeyUp && !key->isAutoRepeat())
-            control_->KeyUp(keyCodeOf(*key));
+        if (const auto* key = static_cast<QKeyEvent*>(event); !key->isAutoRepeat())
+            control_->keyUp(keyCodeOf(*key));
         break;
     case QEvent::MouseButtonDblClick:
         doubleClicked();
@@ -129,17 +149,37 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/// True when the control's KeyPress swallowed the key or put another in its place.
+void ControlBinding::mouseReleased(const QEvent& event)
+{
+    if (!control_->MouseUp)
+        return;
+    switch (static_cast<const QMouseEvent&>(event).button()) {
+    case Qt::LeftButton:
+        return control_->MouseUp(MouseButton::left);
+    case Qt::RightButton:
+        return control_->MouseUp(MouseButton::right);
+    case Qt::MiddleButton:
+        return control_->MouseUp(MouseButton::middle);
+    default:
+        return;
+    }
+}
+
+/// True when a handler swallowed the key or put another in its place.
 bool ControlBinding::keyPressed(QObject* watched, QEvent* event)
 {
     const auto& key = static_cast<QKeyEvent&>(*event);
+    if (passingOn_)
+        return false;
+    const QPointer<ControlBinding> alive(this);
+    if (!control_->keyDown(keyCodeOf(key)) || !alive || !control_)
+        return true;
     const bool leaves = key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab;
-    if (passingOn_ || leaves || !control_->KeyPress || key.text().isEmpty()
+    if (leaves || !control_->KeyPress || key.text().isEmpty()
         || (key.modifiers() & (Qt::AltModifier | Qt::MetaModifier)) != 0)
         return false;
     const auto typed = static_cast<std::int32_t>(key.text().toUcs4().front());
     std::int32_t character = typed;
-    const QPointer<ControlBinding> alive(this);
     control_->KeyPress(character);
     if (!alive || character == 0)
         return true;

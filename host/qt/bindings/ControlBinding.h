@@ -62,6 +62,7 @@ private:
     void showLater();
     void showGeneral();
     bool keyPressed(QObject* watched, QEvent* event);
+    void mouseReleased(const QEvent& event);
 
     Control* control_;
     QWidget* widget_;
@@ -75,6 +76,7 @@ private:
     bool takingOver_ = false;
     bool passingOn_ = false;
     bool waiting_ = false;
+    bool refused_ = false;
 };
 
 /// A binding that knows its control's and its widget's kind.

@@ -23,6 +23,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -32,7 +33,8 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <map>
+#include <string_view>
+#include <vector>
 
 namespace qncal::host {
 
@@ -82,6 +84,32 @@ QWidget* newScrollBar(Control& control, QWidget& parent)
     return bar ? bound(*bar, new QScrollBar(Qt::Horizontal, &parent)) : nullptr;
 }
 
+std::vector<MenuItem*> entriesBelow(const Form& form, std::string_view parent)
+{
+    std::vector<MenuItem*> entries;
+    for (Control* control : form.controls())
+        if (auto* item = dynamic_cast<MenuItem*>(control); item && item->parent() == parent)
+            entries.push_back(item);
+    return entries;
+}
+
+/// Adds the entries below a menu, empty for the menu bar, with what stands below each.
+void addEntries(QWidget& place, const Form& form, std::string_view parent)
+{
+    for (MenuItem* item : entriesBelow(form, parent)) {
+        QAction* action = nullptr;
+        if (entriesBelow(form, item->name()).empty()) {
+            action = new QAction(&place);
+        } else {
+            auto* menu = new QMenu(&place);
+            addEntries(*menu, form, item->name());
+            action = menu->menuAction();
+        }
+        place.addAction(action);
+        bind(*item, *action);
+    }
+}
+
 } // namespace
 
 QWidget* newWidgetFor(Control& control, QWidget& parent)
@@ -113,32 +141,18 @@ QWidget* newWidgetFor(Control& control, QWidget& parent)
 
 QMenuBar* newMenuBarFor(const Form& form, QWidget& parent)
 {
-    std::vector<MenuItem*> items;
-    for (Control* control : form.controls())
-        if (auto* item = dynamic_cast<MenuItem*>(control))
-            items.push_back(item);
-    if (items.empty())
+    if (entriesBelow(form, {}).empty())
         return nullptr;
-    const auto hasEntries = [&](const std::string& name) {
-        return std::any_of(items.begin(), items.end(), [&](const MenuItem* item) { return item->parent() == name; });
-    };
     auto* bar = new QMenuBar(&parent);
-    std::map<std::string, QMenu*> menus;
-    for (MenuItem* item : items) {
-        const auto above = menus.find(item->parent());
-        QWidget& place = above == menus.end() ? static_cast<QWidget&>(*bar) : *above->second;
-        QAction* action = nullptr;
-        if (hasEntries(item->name())) {
-            auto* menu = new QMenu(&place);
-            menus[item->name()] = menu;
-            action = menu->menuAction();
-        } else {
-            action = new QAction(&place);
-        }
-        place.addAction(action);
-        bind(*item, *action);
-    }
+    addEntries(*bar, form, {});
     return bar;
+}
+
+QMenu* newMenuFor(const MenuItem& menu, QWidget* parent)
+{
+    auto* shown = new QMenu(parent);
+    addEntries(*shown, menu.form(), menu.name());
+    return shown;
 }
 
 } // namespace qncal::host

@@ -1,5 +1,6 @@
 #pragma once
 
+class QMenu;
 class QMenuBar;
 class QWidget;
 
@@ -7,6 +8,7 @@ namespace qncal {
 
 class Control;
 class Form;
+class MenuItem;
 
 namespace host {
 
@@ -16,6 +18,8 @@ QWidget* newWidgetFor(Control& control, QWidget& parent);
 
 /// A menu bar of the form's menu entries, each under its parent; none when it has no entries.
 QMenuBar* newMenuBarFor(const Form& form, QWidget& parent);
+/// The entries below one as a menu of its own, for the place where the pointer is.
+QMenu* newMenuFor(const MenuItem& menu, QWidget* parent);
 
 } // namespace host
 } // namespace qncal

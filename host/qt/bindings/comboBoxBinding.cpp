@@ -17,9 +17,7 @@ public:
     ComboBoxBinding(ComboBox& control, QComboBox& widget) : BindingOf(control, widget)
     {
         widget.setInsertPolicy(QComboBox::NoInsert);
-        connect(&widget, &QComboBox::activated, this, [this](int row) { fromUser([=, this] { picked(row); }); });
-        connect(&widget, &QComboBox::editTextChanged, this,
-                [this](const QString& text) { fromUser([&, this] { typed(text); }); });
+        connect(&widget, &QComboBox::activated, this, [this](int row) { fromUser([=, this] { model().pick(row); }); });
         start();
     }
 
@@ -41,8 +39,10 @@ private:
             return;
         view().setEditable(model().isEditable());
         if (QLineEdit* edit = view().lineEdit()) {
-            // The model completes what is typed.
+            // Only a form that asks for it completes what is typed, through the model.
             view().setCompleter(nullptr);
+            connect(edit, &QLineEdit::textEdited, this,
+                    [this](const QString& text) { fromUser([&, this] { typed(text); }); });
             connect(edit, &QLineEdit::selectionChanged, this, [this] { fromUser([this] { caretMoved(); }); });
             connect(edit, &QLineEdit::cursorPositionChanged, this, [this] { fromUser([this] { caretMoved(); }); });
         }
@@ -80,27 +80,13 @@ private:
             edit.setCursorPosition(start);
     }
 
-    void picked(int row)
-    {
-        model().listIndex(row);
-        // The row was selected already while another text stood in the box.
-        if (control() && row == model().listIndex())
-            model().text(model().list(row));
-    }
-
-    /// Completes a text that grows at its end; what is deleted or put in between stays as the user wants it.
     void typed(const QString& text)
     {
-        const QString before = toQt(model().text()).left(unitsOfCharacters(toQt(model().text()), model().selStart()));
-        const bool grewAtEnd = view().lineEdit()->cursorPosition() == text.size() && text.size() > before.size()
-                               && text.startsWith(before);
-        if (grewAtEnd) {
-            model().autoComplete(fromQt(text));
-            return;
-        }
         const std::int32_t caret = charactersOfUnits(text, view().lineEdit()->cursorPosition());
-        takeOver([&, this] { model().text(fromQt(text)); });
-        model().select(caret, 0);
+        model().text(fromQt(text));
+        // What a handler has put in its place has the caret at its end.
+        if (control() && toQt(model().text()) == text)
+            model().select(caret, 0);
     }
 
     void caretMoved()

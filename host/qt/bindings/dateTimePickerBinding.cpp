@@ -54,6 +54,13 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
+        if (event->type() == QEvent::Show && control() && watched == view().edit().calendarWidget()) {
+            if (model().DropDown)
+                model().DropDown();
+            // The calendar shows what the handler put into the picker.
+            view().edit().calendarWidget()->setSelectedDate(view().edit().date());
+            return false;
+        }
         if (event->type() == QEvent::Hide && control() && watched != &view() && watched != &view().edit()
             && watched != &view().check()) {
             if (model().CloseUp)

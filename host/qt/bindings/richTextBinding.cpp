@@ -13,6 +13,7 @@ class RichTextBinding : public BindingOf<RichTextBox, RichTextEdit> {
 public:
     RichTextBinding(RichTextBox& control, RichTextEdit& widget) : BindingOf(control, widget)
     {
+        watch(*widget.viewport());
         connect(&widget, &QTextEdit::textChanged, this, [this] { fromUser([this] { edited(); }); });
         connect(&widget, &QTextEdit::selectionChanged, this, [this] { fromUser([this] { caretMoved(); }); });
         connect(&widget, &QTextEdit::cursorPositionChanged, this, [this] { fromUser([this] { caretMoved(); }); });

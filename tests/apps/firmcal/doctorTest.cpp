@@ -1,7 +1,9 @@
 #include "apps/firmcal/CommandLine.h"
 
 #include "services/Rows.h"
+#include "store/SqliteConnection.h"
 #include "store/SqliteDatabase.h"
+#include "support/rowName.h"
 
 #include <nlohmann/json.hpp>
 
@@ -99,6 +101,49 @@ TEST_F(DoctorTest, ItemsOfUsersThatAreGoneAreForAPersonToDecide)
     EXPECT_EQ(outcome.err, "firmcal: 1 problem left\n");
     EXPECT_NE(outcome.out.find("1 found, to be decided by you"), std::string::npos) << outcome.out;
 }
+
+struct SpoiltCell {
+    const char* name;
+    const char* table;
+    const char* column;
+    const char* sql;
+    const char* shown;
+    const char* mended;
+};
+
+class SpoiltCellTest : public EmptyDatabaseTest, public testing::WithParamInterface<SpoiltCell> {};
+
+TEST_P(SpoiltCellTest, IsNamedWithItsPlaceAndEmptied)
+{
+    const SpoiltCell& cell = GetParam();
+    const std::string table = cell.table;
+    host::addRow(*host::SqliteDatabase::open(database()), table, {});
+    host::SqliteConnection(database(), host::SqliteConnection::Access::readWrite, 0)
+        .execute("UPDATE " + table + " SET " + cell.column + "=" + cell.sql);
+    const std::string place = table + "." + cell.column + " of row 1: '" + cell.shown + "'";
+    const Outcome outcome = run({"doctor"});
+    EXPECT_EQ(outcome.status, 1);
+    EXPECT_NE(outcome.out.find("1 found\n"), std::string::npos) << outcome.out;
+    EXPECT_NE(outcome.out.find(place + "\n"), std::string::npos) << outcome.out;
+    const auto json = nlohmann::ordered_json::parse(run({"doctor", "--json"}).out);
+    EXPECT_EQ(json["checks"][0]["places"], nlohmann::ordered_json::array({place}));
+    succeed({"doctor", "--repair"});
+    succeed({"doctor"});
+    EXPECT_EQ(rows("SELECT " + std::string(cell.column) + " FROM " + table),
+              "{\"" + std::string(cell.column) + "\":" + cell.mended + "}\n");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cells, SpoiltCellTest,
+    testing::Values(SpoiltCell{"ColourOfAScheme", "ColourSchemes", "BackColour", "'red'", "red", "null"},
+                    SpoiltCell{"ColourOfAnItem", "Appointments", "BackColour", "'red'", "red", "null"},
+                    SpoiltCell{"ColourBeyond32Bits", "CustomFields", "ApptStatusColour1", "5000000000", "5000000000",
+                               "null"},
+                    SpoiltCell{"Icon", "CustomFields", "ApptStatusIcon1", "'x'", "x", "null"},
+                    SpoiltCell{"Switch", "CustomFields", "ApptUseStatusColour1", "'maybe'", "maybe", "false"},
+                    SpoiltCell{"Reference", "Reminders", "TaskIDNum", "'x'", "x", "null"},
+                    SpoiltCell{"Date", "Tasks", "DateFrom", "'soon'", "soon", "null"}),
+    qncal::test::rowName);
 
 TEST_F(DoctorTest, SaysHowToMend)
 {

@@ -1,5 +1,7 @@
 #include "apps/firmcal/CommandLine.h"
 
+#include "store/SqliteConnection.h"
+
 #include <nlohmann/json.hpp>
 
 namespace qncal::firmcal::test {
@@ -28,6 +30,21 @@ TEST_F(FieldsCommandsTest, ShowsNamesColoursAndIcons)
     EXPECT_EQ(json["fields"][1]["icon"], 42);
     EXPECT_TRUE(json["fields"][0]["colour"].is_null());
     EXPECT_FALSE(json["fields"][5].contains("icon"));
+}
+
+TEST_F(FieldsCommandsTest, WhatIsNoColourAndNoIconIsBlank)
+{
+    for (const char* status : {"status1", "status2", "status3"})
+        succeed({"fields", "set", status, "--colour", "#00AA00", "--icon", "7"});
+    host::SqliteConnection(database(), host::SqliteConnection::Access::readWrite, 0)
+        .execute("UPDATE CustomFields SET ApptStatusColour1='red', ApptStatusIcon1='x', ApptStatusIcon2=70000, "
+                 "ApptUseStatusColour3='maybe', ApptStatusIcon3=43");
+    const std::string shown = output({"fields", "show"});
+    EXPECT_NE(shown.find("status1\n"
+                         "status2        #00AA00\n"
+                         "status3\n"),
+              std::string::npos)
+        << shown;
 }
 
 TEST_F(FieldsCommandsTest, KeepsTheKindsApartInOneRow)

@@ -1,5 +1,7 @@
 #include "apps/firmcal/CommandLine.h"
 
+#include "store/SqliteConnection.h"
+
 #include <nlohmann/json.hpp>
 
 namespace qncal::firmcal::test {
@@ -27,6 +29,15 @@ TEST_F(SchemeCommandsTest, ListsByKindAndName)
     EXPECT_EQ(json[0]["TitleBackColour"], "#CC0000");
     EXPECT_TRUE(json[0]["BackColour"].is_null());
     EXPECT_EQ(output({"scheme", "list", "--kind", "docket"}), "No colour schemes.\n");
+}
+
+TEST_F(SchemeCommandsTest, AColourThatIsNoneIsBlank)
+{
+    host::SqliteConnection(database(), host::SqliteConnection::Access::readWrite, 0)
+        .execute("UPDATE ColourSchemes SET ForeColour='red', BackColour=5000000000 WHERE ColourSchemeID=1");
+    EXPECT_EQ(output({"scheme", "list", "--kind", "task"}), "ID  Kind  Name    Title    Title text  Body  Body text\n"
+                                                            "--  ----  ------  -------  ----------  ----  ---------\n"
+                                                            " 1  task  Urgent  #CC0000\n");
 }
 
 TEST_F(SchemeCommandsTest, ChangesWhatIsNamedAndNothingElse)
@@ -61,6 +72,18 @@ TEST_F(SchemeCommandsTest, FindsASchemeByAnUnambiguousName)
     EXPECT_EQ(run({"scheme", "delete", "Urgent", "--kind", "task", "--yes"}).out, "colour scheme 1 deleted\n");
     EXPECT_EQ(run({"scheme", "set", "none", "--name", "x"}).err,
               "firmcal: no colour scheme 'none'; 'firmcal scheme list' shows them\n");
+}
+
+TEST_F(SchemeCommandsTest, ASchemeDeletedInUseLeavesItsItemsAsTheyAre)
+{
+    succeed(
+        {"item", "add", "Filing", "--kind", "task", "--date", "today", "--start", "9:30", "--set", "ColourSchemeID=1"});
+    const std::string before = rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;");
+    succeed({"scheme", "delete", "Urgent", "--kind", "task", "--yes"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    succeed({"item", "set", "1", "--kind", "task", "--subject", "Filing of papers"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    EXPECT_EQ(before, "{\"SchemeID\":1,\"TitleBackColour\":204,\"ForeColour\":197121}\n");
 }
 
 } // namespace

@@ -1,10 +1,8 @@
 #include "controls/ControlArray.h"
 #include "controls/Form.h"
-#include "controls/ListView.h"
 #include "controls/TabStrip.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
-#include "controls/listControls.h"
 #include "controls/rangeControls.h"
 
 #include <gtest/gtest.h>
@@ -67,110 +65,6 @@ TEST_F(ControlsTest, AControlArrayKeepsTheIndicesItWasGiven)
     EXPECT_EQ(form.findControl("TXTFIELD(3)"), &fields(3));
     EXPECT_THROW(fields(0), std::out_of_range);
     EXPECT_THROW(fields(6), std::out_of_range);
-}
-
-TEST_F(ControlsTest, AComboBoxTakesTheTextOfThePickedRow)
-{
-    ComboBox box(form, "cboField");
-    box.addItem("<No Scheme Selected>", -1);
-    box.addItem("Blue", 7);
-    box.Click = count;
-    box.listIndex(1);
-    EXPECT_EQ(box.text(), "Blue");
-    EXPECT_EQ(box.selectedItemData(), 7);
-    EXPECT_FALSE(box.selectItemData(99));
-    EXPECT_EQ(box.listIndex(), -1);
-    EXPECT_EQ(changes, 2);
-}
-
-TEST_F(ControlsTest, AComboBoxCompletesWhatIsTypedFromTheFirstMatchingRow)
-{
-    ComboBox box(form, "cboField");
-    box.addItem("9:00 AM");
-    box.addItem("9:15 AM");
-    box.autoComplete("9:1");
-    EXPECT_EQ(box.text(), "9:15 AM");
-    EXPECT_EQ(box.listIndex(), -1) << "not all of the row was typed";
-    box.autoComplete("9:00 am");
-    EXPECT_EQ(box.listIndex(), 0);
-    box.autoComplete("noon");
-    EXPECT_EQ(box.text(), "noon");
-}
-
-TEST_F(ControlsTest, AKeyReplacesWhatTheUserMarkedAndIsLeftAloneInsideOfTheText)
-{
-    ComboBox box(form, "cboField");
-    box.addItem("9:15 AM");
-    box.addItem("10:00 AM");
-    std::int32_t key = '9';
-    box.autoCompleteKey(key);
-    EXPECT_EQ(box.text(), "9:15 AM");
-    EXPECT_EQ(key, 0);
-    box.select(0, 7);
-    key = '1';
-    box.autoCompleteKey(key);
-    EXPECT_EQ(box.text(), "10:00 AM");
-    EXPECT_EQ(box.selStart(), 1);
-    EXPECT_EQ(box.selLength(), 7);
-    box.select(2, 0);
-    key = '5';
-    box.autoCompleteKey(key);
-    EXPECT_EQ(key, '5');
-    EXPECT_EQ(box.text(), "10:00 AM");
-}
-
-TEST_F(ControlsTest, ATextThatCodeSetsHasTheCaretAtItsEnd)
-{
-    ComboBox box(form, "cboField");
-    box.addItem("9:15 AM");
-    box.select(1, 1);
-    box.text("10");
-    EXPECT_EQ(box.selStart(), 2);
-    EXPECT_EQ(box.selLength(), 0);
-    box.listIndex(0);
-    EXPECT_EQ(box.selStart(), 7);
-}
-
-TEST_F(ControlsTest, AFixedComboBoxTakesOnlyTheTextOfARow)
-{
-    ComboBox box(form, "cboField");
-    box.editable(false);
-    box.addItem("Blue", 7);
-    box.text("Blue");
-    EXPECT_EQ(box.listIndex(), 0);
-    box.text("Red");
-    EXPECT_EQ(box.listIndex(), -1);
-    EXPECT_EQ(box.text(), "");
-}
-
-TEST_F(ControlsTest, RemovingARowKeepsTheSelectionOnItsRow)
-{
-    ListBox box(form, "lstUsers");
-    for (int i = 0; i < 3; ++i)
-        box.addItem("user " + std::to_string(i), i);
-    box.listIndex(2);
-    box.removeItem(0);
-    EXPECT_EQ(box.selectedItemData(), 2);
-    box.insertItem(0, "first", 9);
-    EXPECT_EQ(box.selectedItemData(), 2);
-    box.removeItem(2);
-    EXPECT_EQ(box.listIndex(), -1);
-}
-
-TEST_F(ControlsTest, AListViewSortsByColumnAndKeepsTheSelectedRow)
-{
-    ListView view(form, "lvSchemes");
-    view.addColumn("Name");
-    view.addRow({{"beta"}, 1, false});
-    view.addRow({{"Alpha"}, 2, false});
-    view.addRow({{"gamma"}, 3, false});
-    view.selectedRow(0);
-    view.clickColumn(0);
-    EXPECT_EQ(view.rows()[0].itemData, 2);
-    EXPECT_EQ(view.selectedItemData(), 1);
-    view.clickColumn(0);
-    EXPECT_EQ(view.rows()[0].itemData, 3);
-    EXPECT_EQ(view.selectedItemData(), 1);
 }
 
 TEST_F(ControlsTest, ARangeKeepsItsValueInsideItsBounds)

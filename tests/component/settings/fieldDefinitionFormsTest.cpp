@@ -57,12 +57,17 @@ TEST_P(FieldDefinitionsTest, StatusNamesAreShownAndStored)
         EXPECT_EQ(form.lblIntroduction.caption(), GetParam().statusIntroduction);
         EXPECT_EQ(form.txtField(1).text(), "Done");
         EXPECT_EQ(form.txtField(5).text(), "");
-        EXPECT_EQ(form.lblCaption(5).caption(), "Status Field 5:");
-        EXPECT_EQ(form.lblField(4).caption(), "Default: Out-of-Office");
-        EXPECT_EQ(form.cmdAdvancedOptions(3).caption(), "View Advanced Options");
+        constexpr const char* hints[] = {"Default: Completed", "Default: Cancelled", "Default: Postponed",
+                                         "Default: Out-of-Office", "Default: Important"};
+        for (int index = 1; index <= 5; ++index) {
+            const std::string number = std::to_string(index);
+            EXPECT_EQ(form.lblCaption(index).caption(), "Status Field " + number + ":");
+            EXPECT_EQ(form.lblField(index).caption(), hints[index - 1]);
+            EXPECT_EQ(form.cmdAdvancedOptions(index).caption(), "View Advanced Options");
+            EXPECT_EQ(form.cmdAdvancedOptions(index).accessibleName(), "View Advanced Options, Status Field " + number);
+        }
         hand.type("txtField(5)", "Urgent");
         hand.type("txtField(1)", "");
-        EXPECT_TRUE(form.changed());
         hand.click("cmdOK");
         EXPECT_FALSE(form.isVisible());
     });
@@ -79,7 +84,8 @@ TEST_P(FieldDefinitionsTest, CustomFieldNamesAreShownAndStored)
         EXPECT_EQ(form.caption(), GetParam().customTitle);
         EXPECT_EQ(form.lblIntroduction.caption(), GetParam().customIntroduction);
         EXPECT_EQ(form.txtField(2).text(), "Room");
-        EXPECT_EQ(form.lblCaption(1).caption(), "Custom Field 1:");
+        for (int index = 1; index <= 5; ++index)
+            EXPECT_EQ(form.lblCaption(index).caption(), "Custom Field " + std::to_string(index) + ":");
         hand.click("cmdAdvancedOptions(2)");
         hand.type("txtField(3)", "Floor");
         hand.click("cmdOK");
@@ -87,6 +93,23 @@ TEST_P(FieldDefinitionsTest, CustomFieldNamesAreShownAndStored)
     form.Initialize(GetParam().kind);
     EXPECT_EQ(stored("CustomName3"), "Floor");
     EXPECT_EQ(dialogs->shownForms(), std::vector<std::string>{"frmApptCustomFields"});
+}
+
+TEST_P(FieldDefinitionsTest, AnyChangeOfANameSetsTheFlagUntilTheDialogGoes)
+{
+    frmChangeApptStatusFields form;
+    dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) {
+        EXPECT_FALSE(form.changed()) << "no name was there to read";
+        hand.type("txtField(2)", "x");
+        EXPECT_TRUE(form.changed());
+        hand.click("cmdCancel");
+        EXPECT_FALSE(form.changed());
+    });
+    form.Initialize(GetParam().kind);
+    store("StatusName1", "Done");
+    dialogs->whenShown("frmChangeApptStatusFields",
+                       [&](host::Hand&) { EXPECT_TRUE(form.changed()) << "reading a name is a change as well"; });
+    form.Initialize(GetParam().kind);
 }
 
 TEST_P(FieldDefinitionsTest, ApplyThenCancelKeepsWhatApplyStored)
@@ -149,100 +172,6 @@ TEST_P(FieldDefinitionsTest, StatusOptionsAreShownAndStored)
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, FieldDefinitionsTest, testing::ValuesIn(kinds), test::rowName);
-
-class StatusOptionsTest : public test::ComponentTest {
-protected:
-    int checkedIcons() const
-    {
-        int count = 0;
-        for (int index = 1; index <= frmApptStatusOptions::iconCount; ++index)
-            count += form.chkSample(index).isChecked() ? 1 : 0;
-        return count;
-    }
-    void show(const host::HeadlessDialogHost::Script& script)
-    {
-        dialogs->whenShown("frmApptStatusOptions", script);
-        form.Initialize(enumLocalCalendarAppointmentItem, name, 1);
-    }
-    std::string name = "Done";
-    frmApptStatusOptions form;
-};
-
-TEST_F(StatusOptionsTest, AStoredIconOutsideTheSetLeavesEverySampleClear)
-{
-    const auto row = addRow("CustomFields", {});
-    for (const char* icon : {"0", "43", "-1", ""}) {
-        setCell("CustomFields", row, "ApptStatusIcon1", icon);
-        show([&](host::Hand&) { EXPECT_EQ(checkedIcons(), 0) << "icon " << icon; });
-    }
-}
-
-TEST_F(StatusOptionsTest, AnEmptyNameKeepsTheDialogOpen)
-{
-    name.clear();
-    messages->expectMessage("You must enter a name in the text field before exiting this window.");
-    show([&](host::Hand& hand) {
-        hand.click("cmdOK");
-        EXPECT_TRUE(form.isVisible());
-        EXPECT_TRUE(form.txtField.hasFocus());
-    });
-    EXPECT_EQ(rowCount("CustomFields"), 0);
-}
-
-TEST_F(StatusOptionsTest, TheIconOptionWithoutAnIconKeepsTheDialogOpen)
-{
-    messages->expectMessage("You need to select one of the icons if you want to enable the display icon feature.");
-    show([&](host::Hand& hand) {
-        hand.check("chkField(1)", true);
-        hand.click("cmdOK");
-        EXPECT_TRUE(form.isVisible());
-    });
-}
-
-TEST_F(StatusOptionsTest, AnIconCanBeTakenBack)
-{
-    show([&](host::Hand& hand) {
-        hand.check("chkSample(3)", true);
-        hand.check("chkSample(3)", false);
-        EXPECT_EQ(checkedIcons(), 0);
-        hand.click("cmdOK");
-    });
-    EXPECT_EQ(cell("CustomFields", 1, "ApptStatusIcon1"), "0");
-}
-
-TEST_F(StatusOptionsTest, ADatabaseWithoutDefinitionsGetsItsRow)
-{
-    show([](host::Hand& hand) { hand.click("cmdOK"); });
-    EXPECT_EQ(rowCount("CustomFields"), 1);
-    EXPECT_EQ(cell("CustomFields", 1, "ApptStatusName1"), "Done");
-}
-
-TEST_F(StatusOptionsTest, TheBarMovesThePanelOfIcons)
-{
-    form.picScrollBarContainer.height(120);
-    EXPECT_EQ(form.vScrollBar.maximum(), form.picIconsOptions.height() - 120);
-    form.vScrollBar.value(50);
-    EXPECT_EQ(form.picIconsOptions.top(), -50);
-    form.picScrollBarContainer.height(form.picIconsOptions.height());
-    EXPECT_EQ(form.picIconsOptions.top(), 0);
-    EXPECT_FALSE(form.vScrollBar.isEnabled());
-}
-
-TEST_F(StatusOptionsTest, WithoutAConnectionFieldsAreBlankAndNothingIsStored)
-{
-    database->close();
-    show([&](host::Hand& hand) {
-        EXPECT_EQ(checkedIcons(), 0);
-        hand.click("cmdOK");
-        EXPECT_TRUE(form.isVisible());
-    });
-    frmChangeApptStatusFields names;
-    dialogs->whenShown("frmChangeApptStatusFields", [&](host::Hand& hand) {
-        EXPECT_EQ(names.txtField(1).text(), "");
-        hand.click("cmdOK");
-    });
-    names.Initialize(enumLocalCalendarTaskItem);
-}
 
 } // namespace
 } // namespace qncal

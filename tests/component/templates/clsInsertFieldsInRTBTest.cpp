@@ -154,7 +154,7 @@ TEST_F(FieldInsertionTest, TheControlsOfADialogAreTargets)
     box.selStart(5);
     qncal::ListBox list(form, "FieldList");
     engine.RTB(std::make_shared<RichTextBoxTarget>(box));
-    engine.ListBox(std::make_shared<ListBoxTarget>(list));
+    engine.ListBox(std::make_shared<RowListTarget>(list));
     build(8);
     ASSERT_GT(list.listCount(), 0);
     EXPECT_EQ(list.rows().front().text, "[Task Info]");

@@ -1,6 +1,7 @@
 #include "headless/HeadlessDialogHost.h"
 
 #include "controls/ProgressDialog.h"
+#include "controls/RichTextBox.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
 
@@ -121,11 +122,119 @@ TEST_F(HeadlessDialogHostTest, ProgressRunsItsWorkAndCanBeCancelled)
     EXPECT_EQ(steps, 0);
 }
 
-TEST(DialogHostNone, ADialogReturnsAtOnceAndProgressStillDoesItsWork)
+TEST_F(HeadlessDialogHostTest, ProgressThatIsCancelledMidwayEndsAtItsNextStep)
 {
-    NameForm form;
+    ProgressDialog progress;
+    int steps = 0;
+    progress.StartProgress = [&] {
+        while (steps < 5 && !progress.isCancelled()) {
+            progress.value(++steps);
+            host->doEvents();
+        }
+    };
+    host->onTurn([&] {
+        if (steps == 2)
+            progress.cancel();
+    });
+    progress.show();
+    EXPECT_EQ(steps, 2);
+    EXPECT_TRUE(progress.isClosed());
+}
+
+TEST_F(HeadlessDialogHostTest, ModelessFormsStayOpenInTheOrderOfTheScreen)
+{
+    NameForm other;
+    const auto frontName = [&] { return host->openForms().empty() ? nullptr : host->openForms().back(); };
+    host->whenAnyShown([](Hand&) {});
+    form.show();
+    EXPECT_FALSE(form.isModal());
+    EXPECT_TRUE(form.isVisible());
+    other.show();
+    EXPECT_EQ(host->openForms(), (std::vector<Form*>{&form, &other}));
+    form.bringToFront();
+    EXPECT_EQ(frontName(), &form);
+    other.txtName.text("Ann");
+    other.unload();
+    EXPECT_EQ(host->openForms(), std::vector<Form*>{&form});
+    form.hide();
+    EXPECT_TRUE(host->openForms().empty());
+}
+
+TEST_F(HeadlessDialogHostTest, AModalFormIsOpenWhileItsScriptRuns)
+{
+    form.txtName.text("Ann");
+    host->whenShown("frmName", [&](Hand&) { EXPECT_EQ(host->openForms(), std::vector<Form*>{&form}); });
+    form.showModal();
+    EXPECT_TRUE(host->openForms().empty());
+    EXPECT_EQ(host->waitingScripts(), 0u);
+}
+
+TEST_F(HeadlessDialogHostTest, TheBoxInTheCornerIsRefusedAndTheFormTakenAwayInTheEnd)
+{
+    host->whenShown("frmName", [&](Hand& hand) {
+        hand.closeByBox();
+        EXPECT_TRUE(form.isVisible());
+    });
     form.showModal();
     EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.refused, 2) << "by the script, and when the script had left it open";
+    EXPECT_EQ(form.unloaded, 0);
+}
+
+TEST_F(HeadlessDialogHostTest, KeysAreHeldDownAndLetGo)
+{
+    host->holdKey(ModifierKey::control, true);
+    EXPECT_TRUE(host->isKeyDown(ModifierKey::control));
+    EXPECT_FALSE(host->isKeyDown(ModifierKey::shift));
+    host->holdKey(ModifierKey::control, false);
+    EXPECT_FALSE(host->isKeyDown(ModifierKey::control));
+}
+
+TEST_F(HeadlessDialogHostTest, KeepsWhatWasPrinted)
+{
+    RichTextBox box(form, "rtbNotes");
+    box.textRTF("{\\rtf1 Notes\\par}");
+    EXPECT_TRUE(box.print());
+    EXPECT_EQ(host->printed(), std::vector<std::string>{"{\\rtf1 Notes\\par}"});
+}
+
+TEST_F(HeadlessDialogHostTest, PicksTheColourAndTheFontThatItWasTold)
+{
+    EXPECT_FALSE(host->pickColour(7)) << "cancelled unless told";
+    EXPECT_FALSE(host->pickFont({}));
+    host->colourToPick(255);
+    host->fontToPick(FontChoice{"Arial", 10, true, false});
+    EXPECT_EQ(host->pickColour(7), 255);
+    EXPECT_EQ(host->pickFont({}), (FontChoice{"Arial", 10, true, false}));
+}
+
+TEST_F(HeadlessDialogHostTest, AnEntryIsChosenFromThePopupMenuThatHasIt)
+{
+    MenuItem menu(form, "mnuSMEdit");
+    MenuItem other(form, "mnuOther");
+    MenuItem copy(form, "mnuSMEditCopy");
+    copy.parent("mnuSMEdit");
+    int chosen = 0;
+    copy.Click = [&] { ++chosen; };
+    host->entryToChoose("mnuSMEditCopy");
+    other.popUp();
+    EXPECT_EQ(chosen, 0);
+    menu.popUp();
+    menu.popUp();
+    EXPECT_EQ(chosen, 1) << "the second time nothing was to be chosen";
+    EXPECT_EQ(host->shownMenus(), (std::vector<std::string>{"mnuOther", "mnuSMEdit", "mnuSMEdit"}));
+}
+
+TEST(DialogHostNone, ADialogReturnsAtOnceAsIfClosedAndProgressStillDoesItsWork)
+{
+    NameForm form;
+    form.txtName.text("Ann");
+    form.showModal();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.unloaded, 1);
+    form.show();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_EQ(form.unloaded, 2);
     ProgressDialog progress;
     bool ran = false;
     progress.StartProgress = [&] { ran = true; };

@@ -1,11 +1,14 @@
 #include "controls/ProgressDialog.h"
 #include "controls/RichTextBox.h"
+#include "controls/TabStrip.h"
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
 #include "host/qt/QtDialogTest.h"
 
 #include <QColorDialog>
+#include <QFontDialog>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPrinter>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -192,6 +195,89 @@ TEST_F(QtDialogHostTest, ACancelledColourDialogPicksNone)
 {
     QTimer::singleShot(0, qApp, [] { qobject_cast<QDialog*>(QApplication::activeModalWidget())->reject(); });
     EXPECT_FALSE(qt->pickColour(0));
+}
+
+TEST_F(QtDialogHostTest, PicksAFont)
+{
+    const auto inTheDialog = [](const std::function<void(QFontDialog&)>& act) {
+        QTimer::singleShot(0, qApp, [act] { act(*qobject_cast<QFontDialog*>(QApplication::activeModalWidget())); });
+    };
+    inTheDialog([](QFontDialog& dialog) { dialog.reject(); });
+    EXPECT_FALSE(qt->pickFont({}));
+    const std::string family = QApplication::font().family().toStdString();
+    inTheDialog([](QFontDialog& dialog) {
+        QFont font = dialog.currentFont();
+        EXPECT_TRUE(font.bold());
+        font.setItalic(true);
+        dialog.setCurrentFont(font);
+        dialog.accept();
+    });
+    EXPECT_EQ(qt->pickFont({family, 12, true, false}), (FontChoice{family, 12, true, true}));
+}
+
+TEST_F(QtDialogHostTest, ShowsTheEntriesOfAPopupMenu)
+{
+    MenuItem menu(form, "mnuSMEdit");
+    MenuItem copy(form, "mnuSMEditCopy");
+    MenuItem ofTheBar(form, "mnuFile");
+    copy.caption("C&opy");
+    copy.parent("mnuSMEdit");
+    int chosen = 0;
+    copy.Click = [&] { ++chosen; };
+    QTimer::singleShot(0, qApp, [] {
+        auto* shown = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_TRUE(shown);
+        ASSERT_EQ(shown->actions().size(), 1);
+        EXPECT_EQ(shown->actions().front()->text(), "C&opy");
+        QTest::keyClick(shown, Qt::Key_Down);
+        QTest::keyClick(shown, Qt::Key_Return);
+    });
+    menu.popUp();
+    EXPECT_EQ(chosen, 1);
+}
+
+TEST_F(QtDialogHostTest, AFormMayAskForItsPlaceByTheMainWindow)
+{
+    QWidget mainWindow;
+    mainWindow.setGeometry(200, 150, 400, 300);
+    mainWindow.show();
+    qt->mainWindow(&mainWindow);
+    form.startUpPosition(StartUpPosition::byMainWindow);
+    form.show();
+    const QRect place = qt->windowOf(form)->geometry();
+    EXPECT_LE((place.center() - mainWindow.frameGeometry().center()).manhattanLength(), 2);
+}
+
+TEST_F(QtDialogHostTest, AControlThatRefusesToBeLeftKeepsTheFocusOfTheWindow)
+{
+    form.txtName.Validate = [&](bool& cancel) { cancel = form.txtName.text().empty(); };
+    whenShown("frmName", [&](host::FormWindow& window) {
+        EXPECT_TRUE(form.txtName.hasFocus());
+        click(window, "cmdOk");
+        EXPECT_TRUE(form.isVisible()) << "the click came to nothing";
+        EXPECT_TRUE(widget<QLineEdit>(window, "txtName").hasFocus());
+        type(window, "txtName", "Ann");
+        click(window, "cmdOk");
+        EXPECT_FALSE(form.isVisible());
+    });
+    form.showModal();
+    EXPECT_FALSE(form.isVisible());
+}
+
+TEST_F(QtDialogHostTest, WhatStandsOnAPageBehindIsNotShown)
+{
+    TabStrip tabs(form, "tabPages");
+    tabs.addTab("General");
+    tabs.addTab("Notes");
+    form.txtName.container(tabs, 1);
+    form.show();
+    const auto& box = widget<QLineEdit>(*qt->windowOf(form), "txtName");
+    EXPECT_FALSE(box.isVisible());
+    tabs.selectedTab(1);
+    EXPECT_TRUE(box.isVisible());
+    EXPECT_TRUE(box.isEnabled());
+    tabs.enabled(false);
+    EXPECT_FALSE(box.isEnabled());
 }
 
 TEST_F(QtDialogHostTest, PrintsARichText)

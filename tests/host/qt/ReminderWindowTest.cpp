@@ -175,7 +175,7 @@ TEST_F(ReminderOfItemTest, AnItemThatIsDeletedTakesItsReminderOffTheScreenAndThe
     loop.sweep();
     EXPECT_EQ(window.reminderCount(), 0);
     EXPECT_TRUE(window.isVisible());
-    EXPECT_EQ(note(), "Appointment: Year end: the item has been deleted, and its reminder with it.");
+    EXPECT_EQ(note(), "Appointment: Year end: the item was deleted or moved. A moved one comes again.");
     EXPECT_FALSE(widget<QPushButton>(window, "dismiss").isEnabled());
     EXPECT_FALSE(widget<QPushButton>(window, "snooze").isEnabled());
     EXPECT_FALSE(widget<QPushButton>(window, "dismissAll").isEnabled());
@@ -192,7 +192,7 @@ TEST_F(ReminderOfItemTest, AnAnswerToAReminderWhoseItemIsGoneBringsNothingBack)
         press(button);
         EXPECT_EQ(window.reminderCount(), 0);
         EXPECT_TRUE(window.isVisible());
-        EXPECT_EQ(note(), "Appointment: Year end: the item has been deleted, and its reminder with it.");
+        EXPECT_EQ(note(), "Appointment: Year end: the item was deleted, and its reminder with it.");
         EXPECT_EQ(rowCount("Reminders"), 0);
         item.itemID(-1);
         EXPECT_TRUE(item.saveCalendarItem());
