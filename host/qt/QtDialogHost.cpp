@@ -215,7 +215,7 @@ std::optional<FontChoice> QtDialogHost::pickFont(const FontChoice& current)
         shown.setPointSizeF(current.points);
     shown.setBold(current.bold);
     shown.setItalic(current.italic);
-    QFontDialog dialog(shown, owner());
+    QFontDialog dialog(shown, windowInFront());
     dialog.setObjectName("pickFont");
     if (dialog.exec() != QDialog::Accepted)
         return {};
@@ -228,7 +228,7 @@ void QtDialogHost::popUpMenu(MenuItem& menu)
     if (!qApp)
         return;
     turn();
-    const std::unique_ptr<QMenu> shown(newMenuFor(menu, owner()));
+    const std::unique_ptr<QMenu> shown(newMenuFor(menu, windowInFront()));
     shown->exec(QCursor::pos());
 }
 

@@ -201,6 +201,19 @@ TEST_F(ReminderOfItemTest, AnAnswerToAReminderWhoseItemIsGoneBringsNothingBack)
     }
 }
 
+TEST_F(ReminderOfItemTest, AnItemThatIsMovedTakesItsReminderAlong)
+{
+    item.TimeFrom(Date::timeOf(9, 45));
+    item.TimeTo(Date::timeOf(10, 45));
+    EXPECT_TRUE(item.saveCalendarItem());
+    loop.sweep();
+    EXPECT_EQ(window.reminderCount(), 0);
+    EXPECT_EQ(note(), "Appointment: Year end: the item was deleted or moved. A moved one comes again.");
+    present = present.addSeconds(60 * 60);
+    loop.sweep();
+    EXPECT_EQ(window.reminderCount(), 1);
+}
+
 TEST_F(ReminderWindowTest, ClosingTheWindowKeepsTheRemindersForTheNextTime)
 {
     addReminder(0, "First");
