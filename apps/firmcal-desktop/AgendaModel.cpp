@@ -6,7 +6,7 @@
 #include "utilities/Clock.h"
 #include "utilities/dateText.h"
 
-#include <QFontMetricsF>
+#include <QFont>
 #include <QIcon>
 
 namespace qncal::desktop {
@@ -20,9 +20,6 @@ QBrush brushOf(const std::optional<std::int32_t>& colour)
     const QColor shown = colour ? host::toQtColour(*colour) : QColor();
     return shown.isValid() ? QBrush(shown) : QBrush();
 }
-
-/// A row that many lines high.
-QSize rowSize(const QFont& font, qreal lines) { return {0, qRound(QFontMetricsF(font).lineSpacing() * lines)}; }
 
 } // namespace
 
@@ -64,7 +61,6 @@ QStandardItem* AgendaModel::addDay(DesktopHost& host, Date day)
     font.setBold(true);
     heading->setFont(font);
     heading->setFlags(Qt::ItemIsEnabled);
-    heading->setSizeHint(rowSize(font, 2));
     appendRow(heading);
     return heading;
 }
@@ -80,7 +76,6 @@ QList<QStandardItem*> AgendaModel::cellsOf(DesktopHost& host, const firmcal::Ite
         cell->setData(row.id, itemRole);
         cell->setBackground(brushOf(row.backColour));
         cell->setForeground(brushOf(row.foreColour));
-        cell->setSizeHint(rowSize(cell->font(), 1.6));
         cells += cell;
     }
     cells[timeColumn]->setData(swatch(brushOf(row.titleBackColour).color()), Qt::DecorationRole);

@@ -13,6 +13,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QStatusBar>
+#include <QStyledItemDelegate>
 #include <QToolBar>
 #include <QTreeView>
 
@@ -29,12 +30,24 @@ QString weekText(const firmcal::Span& week)
     return host::toQt(formatDate(week.from, "mmm d") + " \u2013 " + formatDate(week.to, "mmm d, yyyy"));
 }
 
+/// Gives the rows air, those of the days more than their items.
+class RowHeight : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        const QSize size = QStyledItemDelegate::sizeHint(option, index);
+        return {size.width(), size.height() + option.fontMetrics.height() * (index.parent().isValid() ? 1 : 2) / 3};
+    }
+};
+
 QTreeView* newView(AgendaModel& agenda, QWidget& parent)
 {
     auto* view = new QTreeView(&parent);
     view->setObjectName("agenda");
     view->setAccessibleName(QObject::tr("Agenda"));
     view->setModel(&agenda);
+    view->setItemDelegate(new RowHeight(view));
     view->setAllColumnsShowFocus(true);
     view->setRootIsDecorated(false);
     view->setItemsExpandable(false);

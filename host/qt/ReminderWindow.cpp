@@ -74,13 +74,15 @@ ReminderWindow::ReminderWindow(QWidget* parent)
     layout->addWidget(list_, 1);
     layout->addWidget(note_);
     layout->addLayout(answer);
-    resize(fontMetrics().averageCharWidth() * 100, fontMetrics().height() * 18);
+    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 18);
 
     dismiss_->setDefault(true);
     connect(dismiss_, &QPushButton::clicked, this, [this] { dismiss(chosen()); });
     connect(dismissAll_, &QPushButton::clicked, this, [this] { dismiss(reminders()); });
     connect(snooze_, &QPushButton::clicked, this, [this] { snooze(chosen()); });
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
+    // Rows are as high as their text, wrapped at the present width, needs.
+    connect(list_->header(), &QHeaderView::sectionResized, list_, &QTreeWidget::doItemsLayout, Qt::QueuedConnection);
     connect(list_, &QTreeWidget::itemSelectionChanged, this, [this] { showState(); });
     note({});
     showState();

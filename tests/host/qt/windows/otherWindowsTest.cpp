@@ -284,6 +284,19 @@ TEST_F(PlainWindowTest, ShowsEveryControlOfAFormWithoutAWindowClass)
     form.showModal();
 }
 
+TEST_F(PlainWindowTest, AFormWithoutControlsHasATitleToBeSeenAndIsClosedByItsBox)
+{
+    Form form("frmNothing");
+    form.caption("Nothing to see");
+    whenShown("frmNothing", [&](host::FormWindow& window) {
+        EXPECT_GE(window.width(), window.fontMetrics().horizontalAdvance(window.windowTitle()));
+        picture(window, "plain-empty");
+        window.close();
+        EXPECT_FALSE(window.isVisible());
+    });
+    form.showModal();
+}
+
 TEST_F(PlainWindowTest, AFormWithoutTheControlsOfItsWindowGetsAPlainOne)
 {
     Form form("frmApptStatusOptions");
