@@ -5,7 +5,10 @@
 #include "firmcal/ItemProperty.h"
 #include "firmcal/clientLookup.h"
 #include "firmcal/valueText.h"
+#include "services/saveItem.h"
+#include "utilities/text.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace qncal::firmcal {
@@ -29,6 +32,13 @@ void applyTimes(clsCalendarItem& item, const ItemChanges& changes)
             throw Failure("the item would end after midnight");
         item.TimeTo(end);
     }
+}
+
+bool assigns(const ItemChanges& changes, std::string_view property)
+{
+    return std::ranges::any_of(changes.assignments, [property](std::string_view assignment) {
+        return equalsNoCase(trimmed(assignment.substr(0, assignment.find('='))), property);
+    });
 }
 
 } // namespace
@@ -56,10 +66,8 @@ void apply(CommandContext& context, clsCalendarItem& item, const ItemChanges& ch
 {
     if (!changes.subject.empty())
         item.Subject(changes.subject);
-    if (!changes.date.empty()) {
+    if (!changes.date.empty())
         item.DateFrom(readDay(changes.date));
-        item.notifiedDate(item.DateFrom().addDays(-1));
-    }
     applyTimes(item, changes);
     if (!changes.company.empty())
         item.companyIDNum(clientID(context, ClientKind::company, changes.company));
@@ -69,6 +77,8 @@ void apply(CommandContext& context, clsCalendarItem& item, const ItemChanges& ch
         item.userIDNum(context.userNamed(changes.owner).id);
     for (const std::string& assignment : changes.assignments)
         applyAssignment(item, assignment);
+    if (!assigns(changes, "notifiedDate"))
+        host::notifyTheDayBefore(item);
 }
 
 } // namespace qncal::firmcal

@@ -216,6 +216,7 @@ void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemT
     context.throwIfComponentFailed();
     if (!found)
         throw Failure("no " + std::string(kindNoun(kind)) + " " + std::to_string(id));
+    host::notifyTheDayBefore(item);
 }
 
 void save(CommandContext& context, clsCalendarItem& item, std::string_view done)

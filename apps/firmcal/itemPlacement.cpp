@@ -3,6 +3,7 @@
 #include "firmcal/itemCommands.h"
 #include "firmcal/itemKind.h"
 #include "firmcal/valueText.h"
+#include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>
 
@@ -40,13 +41,19 @@ void placeBest(CommandContext& context, clsCalendarItem& item, Date day)
     refuseEndAfterMidnight(item);
 }
 
+void saveMoved(CommandContext& context, clsCalendarItem& item)
+{
+    host::notifyTheDayBefore(item);
+    save(context, item, "Moved");
+}
+
 void findBestTime(CommandContext& context, const BestTimeOptions& options)
 {
     clsCalendarItem item;
     load(context, item, options.item);
     placeBest(context, item, item.DateFrom());
     if (options.apply)
-        return save(context, item, "Moved");
+        return saveMoved(context, item);
     if (context.options().json)
         return context.printJson({{"kind", kindWord(item.calendarItemType())},
                                   {"itemID", item.itemID()},
@@ -68,7 +75,7 @@ void moveItem(CommandContext& context, const MoveOptions& options)
         context.throwIfComponentFailed();
         refuseEndAfterMidnight(item);
     }
-    save(context, item, "Moved");
+    saveMoved(context, item);
 }
 
 } // namespace

@@ -66,8 +66,16 @@ host::SmtpSettings readSettings(const std::string& file)
         } catch (const std::exception& error) {
             throw Failure(file + ": " + error.what());
         }
+        if (stream.bad())
+            throw Failure("the mail settings " + file + " cannot be read");
     }
-    host::readSmtpEnvironment(settings);
+    try {
+        host::readSmtpEnvironment(settings);
+        if (!file.empty() || !settings.server.empty())
+            host::checkSmtpSettings(settings);
+    } catch (const std::exception& error) {
+        throw Failure(std::string("the mail settings: ") + error.what());
+    }
     return settings;
 }
 
@@ -86,6 +94,17 @@ std::string itemText(const Delivery& delivery)
            + readableDay(delivery.item.start) + " " + timeText(delivery.item.start) + ": " + delivery.item.subject;
 }
 
+/// Null when the item is gone.
+nlohmann::ordered_json itemJson(const host::NotifiedItem& item)
+{
+    if (item.id < 0)
+        return nullptr;
+    return {{"kind", kindWord(item.kind)},
+            {"id", item.id},
+            {"subject", item.subject},
+            {"start", dayText(item.start) + "T" + timeText(item.start)}};
+}
+
 void printDeliveries(CommandContext& context, const std::vector<Delivery>& deliveries)
 {
     if (context.options().json) {
@@ -94,10 +113,7 @@ void printDeliveries(CommandContext& context, const std::vector<Delivery>& deliv
             json.push_back({{"id", delivery.id},
                             {"channel", host::channelName(delivery.channel)},
                             {"state", stepWord(delivery.step)},
-                            {"kind", kindWord(delivery.item.kind)},
-                            {"item", delivery.item.id},
-                            {"subject", delivery.item.subject},
-                            {"start", dayText(delivery.item.start) + "T" + timeText(delivery.item.start)},
+                            {"item", itemJson(delivery.item)},
                             {"client", delivery.client},
                             {"person", delivery.person},
                             {"to", delivery.recipient},
@@ -117,17 +133,35 @@ void printDeliveries(CommandContext& context, const std::vector<Delivery>& deliv
     table.print(context.out());
 }
 
+/// Nothing is noted unless all of it can be.
+void requireSettleable(const host::NotificationDelivery& delivery, const std::vector<std::int32_t>& ids)
+{
+    for (const std::int32_t id : ids) {
+        const std::string number = std::to_string(id);
+        switch (delivery.canSettle(id)) {
+        case host::Settlement::done:
+            break;
+        case host::Settlement::noSuch:
+            throw Failure("there is no notification " + number);
+        case host::Settlement::sentAlready:
+            throw Failure("notification " + number + " was sent already");
+        case host::Settlement::beingSent:
+            throw Failure("notification " + number + " is being sent at this moment");
+        }
+    }
+}
+
 void settle(CommandContext& context, host::NotificationDelivery& delivery, const NotifyOptions& options)
 {
+    requireSettleable(delivery, options.done);
+    requireSettleable(delivery, options.again);
     for (const std::int32_t id : options.done) {
-        if (!delivery.markSent(id))
-            throw Failure("no notification " + std::to_string(id) + " is waiting");
+        delivery.markSent(id);
         context.out() << "notification " << id << " is done\n";
     }
     for (const std::int32_t id : options.again) {
-        if (!delivery.tryAgain(id))
-            throw Failure("no notification " + std::to_string(id) + " is waiting");
-        context.out() << "notification " << id << " will be sent again\n";
+        delivery.tryAgain(id);
+        context.out() << "notification " << id << " will be tried again\n";
     }
 }
 
@@ -138,12 +172,22 @@ void complainAbout(const std::vector<Delivery>& deliveries)
     const auto unknown = count(DeliveryStep::unknown);
     std::string text;
     if (failed > 0)
-        text = std::to_string(failed) + " failed and will be tried again";
+        text = std::to_string(failed) + " failed and will be tried again; --again ID does so at once";
     if (unknown > 0)
         text += (text.empty() ? "" : "; ") + std::to_string(unknown)
                 + " may have been sent or not: settle with --done ID or --again ID";
     if (!text.empty())
         throw Failure(text);
+}
+
+std::vector<Delivery> deliver(CommandContext& context, host::NotificationDelivery& delivery)
+{
+    const auto lock = host::DeliveryLock::ofDatabase(context.options().database);
+    if (!lock.error().empty())
+        throw Failure("the lock of the notifications cannot be had: " + lock.error());
+    if (!lock.isHeld())
+        throw Failure("another 'firmcal notify --once' is at work on this database");
+    return delivery.run(lock);
 }
 
 void notify(CommandContext& context, const NotifyOptions& options)
@@ -152,23 +196,20 @@ void notify(CommandContext& context, const NotifyOptions& options)
     const host::SmtpSettings settings = readSettings(options.settings);
     host::SmtpTransport mail(settings);
     host::NotificationDelivery::Means means;
+    means.letterFolder = options.letters;
     if (!settings.server.empty()) {
-        host::checkSmtpSettings(settings);
-        means = {&mail, settings.from, options.letters};
-    } else {
-        means.letterFolder = options.letters;
+        means.mail = &mail;
+        means.sender = settings.from;
+        means.secureRecord = [&context] { context.database().idle(); };
     }
     host::NotificationDelivery delivery(context.sharedDatabase(), std::move(means));
     if (!options.done.empty() || !options.again.empty())
         return settle(context, delivery, options);
     if (!options.once)
         return printDeliveries(context, delivery.plan());
-    const host::DeliveryLock lock(context.options().database + "-notify");
-    if (!lock.isHeld())
-        throw Failure("another 'firmcal notify --once' is at work on this database");
-    const std::vector<Delivery> deliveries = delivery.run();
-    printDeliveries(context, deliveries);
+    const std::vector<Delivery> deliveries = deliver(context, delivery);
     context.database().flush();
+    printDeliveries(context, deliveries);
     complainAbout(deliveries);
 }
 
@@ -189,14 +230,17 @@ void addNotifyCommand(CLI::App& program, CommandContext& context)
     command->add_option("--letters", options->letters, "The folder where letters are written")->type_name("FOLDER");
     command->add_option("--done", options->done, "These were faxed, called, or did arrive")
         ->type_name("ID")
-        ->excludes(once);
-    command->add_option("--again", options->again, "Send these again, although they may have been sent")
+        ->excludes(once)
+        ->excludes(dryRun);
+    command->add_option("--again", options->again, "Try these again at once, also those that may have been sent")
         ->type_name("ID")
-        ->excludes(once);
-    command->footer("Exit status 1 while something failed or has to be looked at.\n"
+        ->excludes(once)
+        ->excludes(dryRun);
+    command->footer("Exit status 1 when something failed or has to be looked at.\n"
                     "The settings are lines 'name = value': server, port, security (starttls, tls, none), user,\n"
-                    "password, from, fromName, certificates, timeout. Variables FIRMCAL_SMTP_SERVER, _PASSWORD and so\n"
-                    "on go before them. A server is reached with STARTTLS unless security says otherwise.\n"
+                    "password, from, fromName, certificates, timeout (seconds). The variables FIRMCAL_SMTP_SERVER,\n"
+                    "_PORT, _SECURITY, _USER, _PASSWORD, _FROM, _FROM_NAME, _CERTIFICATES and _TIMEOUT go before\n"
+                    "them. A server is reached with STARTTLS unless security says otherwise.\n"
                     "Examples:\n"
                     "  firmcal notify\n"
                     "  firmcal notify --once --smtp mail.conf --letters letters\n"

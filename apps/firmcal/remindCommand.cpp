@@ -4,6 +4,7 @@
 #include "firmcal/valueText.h"
 #include "popups/ReminderLoop.h"
 #include "store/SqliteDatabase.h"
+#include "utilities/RunTimeError.h"
 
 #include <nlohmann/json.hpp>
 
@@ -23,9 +24,9 @@ struct RemindOptions {
     bool follow = false;
     int interval = 30;
     int sweeps = 0;
-    std::int32_t snooze = -1;
+    std::optional<std::int32_t> snooze;
     int minutes = 10;
-    std::int32_t dismiss = -1;
+    std::optional<std::int32_t> dismiss;
 };
 
 /// Prints reminders. As JSON they are collected for one sweep, or stand on a line each when they are followed.
@@ -36,6 +37,7 @@ public:
     Stay show(const host::Reminder& reminder) override
     {
         print(reminder, false);
+        requirePrinted();
         return Stay::gone;
     }
     Stay showMissed(const std::vector<host::Reminder>& reminders) override
@@ -44,6 +46,7 @@ public:
             context_.out() << "Missed meanwhile:\n";
         for (const host::Reminder& reminder : reminders)
             print(reminder, true);
+        requirePrinted();
         return Stay::gone;
     }
     /// Nothing printed can be taken away.
@@ -52,6 +55,12 @@ public:
     const Json& collected() const { return collected_; }
 
 private:
+    /// A reminder counts as shown when it has left the program.
+    void requirePrinted()
+    {
+        if (!context_.out().flush())
+            throw Failure("the reminders cannot be printed");
+    }
     void print(const host::Reminder& reminder, bool missed)
     {
         const std::string userName = context_.host().clients().getUserName(reminder.userID);
@@ -90,10 +99,14 @@ void answer(CommandContext& context, std::int32_t id, host::ReminderLoop::Outcom
 void follow(CommandContext& context, host::ReminderLoop& loop, const RemindOptions& options)
 {
     for (int sweep = 1;; ++sweep) {
-        loop.sweep();
-        // Nobody knows when this ends: what was shown is stored now.
-        context.database().flush();
-        context.out().flush();
+        try {
+            loop.sweep();
+            // Nobody knows when this ends: what was shown is stored now.
+            context.database().flush();
+        } catch (const RunTimeError& error) {
+            // Such as a database that another program keeps locked for long.
+            context.err() << "firmcal: " << error.what() << "; looking again" << std::endl;
+        }
         if (sweep == options.sweeps)
             return;
         std::this_thread::sleep_for(std::chrono::seconds(options.interval));
@@ -107,11 +120,11 @@ void remind(CommandContext& context, const RemindOptions& options)
     context.host();
     host::ReminderLoop loop(context.sharedDatabase(), display,
                             user ? std::optional(user->id) : std::optional<std::int32_t>());
-    if (options.snooze >= 0)
-        return answer(context, options.snooze, loop.snooze(options.snooze, options.minutes),
+    if (options.snooze)
+        return answer(context, *options.snooze, loop.snooze(*options.snooze, options.minutes),
                       "comes again in " + std::to_string(options.minutes) + " minutes");
-    if (options.dismiss >= 0)
-        return answer(context, options.dismiss, loop.dismiss(options.dismiss), "is done");
+    if (options.dismiss)
+        return answer(context, *options.dismiss, loop.dismiss(*options.dismiss), "is done");
     if (options.follow)
         return follow(context, loop, options);
     const std::size_t shown = loop.sweep();

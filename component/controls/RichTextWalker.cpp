@@ -39,9 +39,10 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 /// Destinations whose content is not visible.
 bool isHiddenDestination(std::string_view word)
 {
-    constexpr std::array<std::string_view, 14> hidden{"fonttbl",  "colortbl",  "stylesheet", "info",    "pict",
-                                                      "object",   "header",    "footer",     "fldinst", "listtable",
-                                                      "listtext", "themedata", "pntext",     "xmlnstbl"};
+    constexpr std::string_view hidden[] = {"fonttbl", "colortbl", "stylesheet", "info",     "pict",
+                                           "object",  "fldinst",  "listtable",  "listtext", "themedata",
+                                           "pntext",  "xmlnstbl", "header",     "headerl",  "headerr",
+                                           "headerf", "footer",   "footerl",    "footerr",  "footerf"};
     for (const std::string_view destination : hidden)
         if (word == destination)
             return true;

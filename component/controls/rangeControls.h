@@ -63,7 +63,7 @@ public:
     const char* kind() const override { return "ScrollBar"; }
     std::int32_t largeChange() const { return largeChange_; }
     void largeChange(std::int32_t step) { store(largeChange_, step); }
-    /// While the thumb is dragged; Change follows when it is let go.
+    /// While the thumb is dragged, behind each Change.
     std::function<void()> Scroll;
 
 private:

@@ -16,29 +16,31 @@ Service& inSlot(const std::shared_ptr<Service>& slot, const char* name)
     return *slot;
 }
 
-} // namespace
+/// This thread's registry once it was asked for. Trivial, so it can still be read when that registry is gone.
+thread_local ServiceRegistry* currentRegistry = nullptr;
 
-namespace {
-
-/// Trivially destructible, so it can still be read when the registry of its thread is gone.
-thread_local bool registryEnded = false;
+/// A static object of a host outlives its thread's registry; it meets empty slots.
+ServiceRegistry& emptyRegistry()
+{
+    static ServiceRegistry& empty = *new ServiceRegistry;
+    return empty;
+}
 
 struct ThreadRegistry {
     ServiceRegistry services;
-    ~ThreadRegistry() { registryEnded = true; }
+    ~ThreadRegistry() { currentRegistry = &emptyRegistry(); }
 };
+
+ServiceRegistry& startRegistry()
+{
+    thread_local ThreadRegistry registry;
+    currentRegistry = &registry.services;
+    return registry.services;
+}
 
 } // namespace
 
-ServiceRegistry& serviceRegistry()
-{
-    // A static object of a host outlives its thread's registry; it meets empty slots.
-    static ServiceRegistry& empty = *new ServiceRegistry;
-    if (registryEnded)
-        return empty;
-    thread_local ThreadRegistry registry;
-    return registry.services;
-}
+ServiceRegistry& serviceRegistry() { return currentRegistry ? *currentRegistry : startRegistry(); }
 
 void createComponentServices()
 {

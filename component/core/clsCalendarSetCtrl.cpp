@@ -2,30 +2,14 @@
 
 #include "core/FormRegistry.h"
 #include "core/ServiceRegistry.h"
-#include "core/calendarItemKinds.h"
 #include "core/forms.h"
+#include "core/openForKind.h"
 #include "core/registeredForm.h"
 #include "core/routineScope.h"
 
 // The labels of the openers keep the name that the library had before.
 
 namespace qncal {
-
-namespace {
-
-/// Views and kinds share their numbers.
-enumLocalCalendarItemType kindOfView(enumFormDayTimerType view) { return static_cast<enumLocalCalendarItemType>(view); }
-
-/// Creates the dialog and, for a known kind, hands it to `initialise`, which shows it.
-template <class CreateForm, class Initialise>
-void openForKind(enumFormDayTimerType view, CreateForm createForm, Initialise initialise)
-{
-    const auto form = createForm();
-    if (isKnownKind(kindOfView(view)))
-        initialise(*form, kindOfView(view));
-}
-
-} // namespace
 
 clsCalendarSetCtrl::clsCalendarSetCtrl()
 {
@@ -34,7 +18,12 @@ clsCalendarSetCtrl::clsCalendarSetCtrl()
 
 clsCalendarSetCtrl::~clsCalendarSetCtrl() { Terminate(); }
 
-void clsCalendarSetCtrl::Terminate() { releaseComponentServices(); }
+void clsCalendarSetCtrl::Terminate()
+{
+    routine("Vestrel.exe-clsCalendarSetCtrl-Terminate", [] { releaseComponentServices(); });
+    // Without an error control no routine runs; the slots are to be empty all the same.
+    releaseComponentServices();
+}
 
 void clsCalendarSetCtrl::openDayTimerSettingsForm(enumFormDayTimerType currentDayTimerTypeView, std::int32_t userIDNum,
                                                   std::int16_t goToTab)

@@ -23,21 +23,14 @@ FormRegistryEntry& currentEntry(FormRegistry& registry)
     return statement([&]() -> FormRegistryEntry& { return registry.currentEntry(); });
 }
 
-std::shared_ptr<Form> formOf(const FormRegistryEntry& entry)
-{
-    return statement([&] { return entry.form(); });
-}
-
 } // namespace
 
 FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<Form>()>& create)
 {
     const auto registry = statement([] { return formRegistry(); });
-    const bool registered = statement([&] { return registry->isRegistered(key); });
-    if (!registered || !formOf(currentEntry(*registry))) {
+    if (!statement([&] { return registry->isRegistered(key); })) {
         const auto form = create();
-        if (!registered)
-            statement([&] { registry->addKey(key); });
+        statement([&] { registry->addKey(key); });
         FormRegistryEntry& entry = currentEntry(*registry);
         statement([&] { entry.key(key); });
         statement([&] { entry.form(form); });

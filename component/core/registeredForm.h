@@ -11,8 +11,7 @@ namespace qncal {
 class Form;
 
 /// The registry's entry for a fixed form key, made current. The first call for a key creates the form, gives it
-/// to the registry and lets the entry initialise it; a later call reaches the form already there. A key that a
-/// failure left without a form gets one.
+/// to the registry and lets the entry initialise it; a later call reaches the form already there.
 /// Each call on the registry is a statement of the routine it stands in.
 FormRegistryEntry& registeredForm(std::int32_t key, const std::function<std::shared_ptr<Form>()>& create);
 

@@ -4,11 +4,11 @@
 #include "core/schema/calendarTables.h"
 #include "core/schema/clientTables.h"
 #include "core/schema/settingsTables.h"
-#include "utilities/text.h"
+#include "utilities/NameIndex.h"
 
 #include <array>
-#include <functional>
-#include <unordered_map>
+#include <optional>
+#include <vector>
 
 namespace qncal::schema {
 
@@ -29,33 +29,25 @@ consteval auto joined(const Table (&... lists)[Sizes])
 
 constexpr auto allTables = joined(calendarTables, settingsTables, clientTables, accountingTables);
 
-/// A table by its name, or a column by its table's first column and its name.
-struct Key {
-    const Column* owner;
-    std::string_view name;
+/// The places of all tables, and within each of its columns.
+struct Directory {
+    NameIndex tables;
+    std::vector<NameIndex> columns;
 
-    bool operator==(const Key& other) const { return owner == other.owner && equalsNoCase(name, other.name); }
-};
-
-struct KeyHash {
-    std::size_t operator()(const Key& key) const
+    Directory() : columns(allTables.size())
     {
-        // FNV-1a over the folded name: no copy of the name is made.
-        std::uint64_t hash = 14695981039346656037u;
-        for (const char c : key.name)
-            hash = (hash ^ static_cast<unsigned char>(lowerAscii(c))) * 1099511628211u;
-        return static_cast<std::size_t>(hash ^ std::hash<const Column*>()(key.owner));
+        for (std::size_t i = 0; i < allTables.size(); ++i) {
+            tables.add(allTables[i].name);
+            for (const Column& column : allTables[i].columns)
+                columns[i].add(column.name);
+        }
     }
 };
 
-template <class Value>
-using Directory = std::unordered_map<Key, const Value*, KeyHash>;
-
-template <class Value>
-const Value* find(const Directory<Value>& directory, const Key& key)
+const Directory& directory()
 {
-    const auto found = directory.find(key);
-    return found == directory.end() ? nullptr : found->second;
+    static const Directory all;
+    return all;
 }
 
 } // namespace
@@ -64,25 +56,15 @@ std::span<const Table> tables() { return allTables; }
 
 const Table* findTable(std::string_view name)
 {
-    static const auto directory = [] {
-        Directory<Table> all;
-        for (const Table& table : allTables)
-            all.emplace(Key{nullptr, table.name}, &table);
-        return all;
-    }();
-    return find(directory, {nullptr, name});
+    const auto place = directory().tables.find(name);
+    return place ? &allTables[*place] : nullptr;
 }
 
 const Column* findColumn(const Table& table, std::string_view name)
 {
-    static const auto directory = [] {
-        Directory<Column> all;
-        for (const Table& owner : allTables)
-            for (const Column& column : owner.columns)
-                all.emplace(Key{owner.columns.data(), column.name}, &column);
-        return all;
-    }();
-    return find(directory, {table.columns.data(), name});
+    const auto owner = directory().tables.find(table.name);
+    const auto place = owner ? directory().columns[*owner].find(name) : std::nullopt;
+    return place ? &table.columns[*place] : nullptr;
 }
 
 } // namespace qncal::schema

@@ -51,7 +51,7 @@ inline constexpr std::int32_t version = 2;
 
 /// In the order of their documentation; each table has exactly one key column, its first.
 std::span<const Table> tables();
-/// By name without regard to ASCII case, one hash look-up; none when unknown.
+/// By name without regard to ASCII case, through a hash index; none when unknown.
 const Table* findTable(std::string_view name);
 /// As `findTable`. The table must be one of `tables()` or a copy of one.
 const Column* findColumn(const Table& table, std::string_view name);

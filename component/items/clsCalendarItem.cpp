@@ -40,6 +40,8 @@ clsCalendarItem::~clsCalendarItem() { Terminate(); }
 void clsCalendarItem::Terminate()
 {
     routine("Vestrel.exe-clsCalendarItem-Terminate", [this] { kind_.reset(); });
+    // Without an error control no routine runs; the kind is to go all the same.
+    kind_.reset();
 }
 
 void clsCalendarItem::resetAllInformation()

@@ -1,7 +1,7 @@
 #include "items/frmSelectStartTime.h"
 
 #include "core/routineScope.h"
-#include "utilities/dateText.h"
+#include "utilities/Variant.h"
 
 namespace qncal {
 
@@ -53,7 +53,7 @@ void frmSelectStartTime::Initialize()
         caption(title);
         Label0.caption(title);
         loading_ = true;
-        dtpTime.value(timeSelected_.timeOnly());
+        dtpTime.value(timeSelected_);
         showTimeInField();
         loading_ = false;
         showModal();
@@ -76,8 +76,7 @@ void frmSelectStartTime::cboField_Click()
     if (loading_)
         return;
     routine("Vestrel.exe-frmSelectStartTime-cboField_Click", [&] {
-        if (const auto time = parseDate(cboField.text()))
-            dtpTime.value(time->timeOnly());
+        dtpTime.value(statement([&] { return Variant(cboField.text()).toDate(); }));
     });
 }
 

@@ -21,10 +21,11 @@ public:
     /// True when the user cancelled, also by the box in the corner.
     bool cancelFlag() const { return cancelFlag_; }
     void cancelFlag(bool cancelled) { cancelFlag_ = cancelled; }
-    /// The time shown at first, and then the one chosen.
+    /// The time shown at first, and then the one chosen; a date comes back with it as long as no quarter hour was
+    /// picked.
     Date TimeSelected() const { return timeSelected_; }
     void TimeSelected(Date time) { timeSelected_ = time; }
-    /// `startTime`; every other value asks for an end time.
+    /// `startTime`; every other value asks for an end time, also the 0 that nobody has set.
     std::int16_t TimeType() const { return timeType_; }
     void TimeType(std::int16_t type) { timeType_ = type; }
 
@@ -51,7 +52,7 @@ private:
     void showTimeInField();
 
     Date timeSelected_;
-    std::int16_t timeType_ = startTime;
+    std::int16_t timeType_ = 0;
     bool cancelFlag_ = false;
     bool loading_ = false;
 };

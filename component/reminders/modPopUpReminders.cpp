@@ -122,19 +122,18 @@ std::string clientNameOfSchedule(std::int32_t clientNum)
     return clientName(companyID, -1);
 }
 
+/// Most tasks have no schedule: the sentence then says what it can.
 std::string taskText(std::int32_t scheduleID, std::string period)
 {
     auto schedule = RecordSet::openReadOnly("SELECT Schedule.ScheduleID, Schedule.ClientNum, Schedule.ScheduleName "
                                             "FROM Schedule WHERE ScheduleID="
                                             + std::to_string(scheduleID) + ";");
-    if (!schedule.hasRecords()) {
-        schedule.close();
-        return {};
-    }
     std::string name;
     std::int32_t clientNum = -1;
-    schedule.read("ScheduleName", name);
-    schedule.read("ClientNum", clientNum);
+    if (schedule.hasRecords()) {
+        schedule.read("ScheduleName", name);
+        schedule.read("ClientNum", clientNum);
+    }
     schedule.close();
     if (period.empty())
         readFirstRow("SELECT Tasks.ScheduleIDNum, Tasks.ReminderPeriod FROM Tasks WHERE ScheduleIDNum="
@@ -152,20 +151,18 @@ std::string appointmentText(std::int32_t appointmentID)
                                        "Appointments.ReminderPeriod, Appointments.TimeFrom FROM Appointments "
                                        "WHERE AppointmentID="
                                        + std::to_string(appointmentID) + ";");
-    if (!row.hasRecords()) {
-        row.close();
-        return {};
-    }
     std::string subject;
     std::string period;
     std::int32_t companyID = -1;
     std::int32_t contactID = -1;
     Date timeFrom;
-    row.read("Subject", subject);
-    row.read("CompanyIDNum", companyID);
-    row.read("ContactIDNum", contactID);
-    row.read("ReminderPeriod", period);
-    row.read("TimeFrom", timeFrom);
+    if (row.hasRecords()) {
+        row.read("Subject", subject);
+        row.read("CompanyIDNum", companyID);
+        row.read("ContactIDNum", contactID);
+        row.read("ReminderPeriod", period);
+        row.read("TimeFrom", timeFrom);
+    }
     row.close();
     return appointmentReminderText(subject, clientName(companyID, contactID), reminderPeriod(period).appointmentWording,
                                    timeFrom);

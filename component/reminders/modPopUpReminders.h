@@ -51,7 +51,7 @@ bool deletePopUpReminder(std::int32_t& type, std::int32_t userID, ReminderIDs& i
 void getPopUpReminderTime(const std::string& period, Date& reminderDate, Date& reminderTime);
 
 /// The words of a reminder: on an appointment by its id, on a task by its schedule's id. `period` is a task's; when
-/// it is empty the task's own is read.
+/// it is empty the task's own is read. What the row lacks, or a row that is missing, leaves a gap in the sentence.
 std::string getPopUpReminderText(std::int32_t type, std::int32_t id, const std::string& period = {});
 
 /// The client's name as it stands in reminders; a company goes before a contact, empty for none.

@@ -170,7 +170,7 @@ public:
 
     /// Brings old field names up to date and renames the fields that differ by region to the firm's own.
     /// Names of a region are converted between « and » only.
-    std::string convertProvinceFields(std::string text);
+    std::string convertProvinceFields(const std::string& text);
     /// The two-letter form of a province, or the argument.
     std::string getAbbreviatedProvince(const std::string& province);
     /// The full name of a province, or the argument.

@@ -10,14 +10,14 @@
 
 namespace qncal {
 
-std::string clsInsertFieldsInRTB::convertProvinceFields(std::string text)
+std::string clsInsertFieldsInRTB::convertProvinceFields(const std::string& text)
 {
     return routine("Vestrel.exe-clsInsertFieldsInRTB-convertProvinceFields", std::string(), [&] {
         const std::int32_t country = currentCountry();
         const FieldRenamer& renamer = fieldRenamer(country, country == LocaleService::canada ? currentProvince() : 0);
         // One template is converted again and again: to be checked, to be merged, and merged for the next item.
         if (lastConversion_.renamer != &renamer || lastConversion_.text != text) {
-            lastConversion_ = {&renamer, text, std::move(text)};
+            lastConversion_ = {&renamer, text, text};
             renamer.apply(lastConversion_.converted);
         }
         return lastConversion_.converted;

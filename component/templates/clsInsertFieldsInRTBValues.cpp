@@ -30,8 +30,9 @@ std::string clsInsertFieldsInRTB::getDataFieldInfo(std::int32_t key, const std::
             return value;
         std::string text = mergeValueText(std::move(value), type, format);
         // Most values have no line breaks, and a routine for each would tell in a merge of many fields.
-        const bool converts = convertStrToRTF_ && text.find("\r\n") != std::string::npos;
-        return converts ? convertToRTF(std::move(text)) : text;
+        if (convertStrToRTF_ && text.find("\r\n") != std::string::npos)
+            return convertToRTF(std::move(text));
+        return text;
     });
 }
 
@@ -78,7 +79,9 @@ std::string clsInsertFieldsInRTB::getTodaysDate(const std::string& format)
         if (format.empty())
             return formatDate(today(), mergeDateFormat);
         std::string text = formatDate(today(), format);
-        return !text.empty() && convertStrToRTF_ ? convertToRTF(std::move(text)) : text;
+        if (!text.empty() && convertStrToRTF_)
+            return convertToRTF(std::move(text));
+        return text;
     });
 }
 

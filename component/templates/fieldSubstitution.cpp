@@ -6,7 +6,10 @@
 #include "utilities/text.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
 #include <limits>
+#include <memory_resource>
 #include <vector>
 
 namespace qncal {
@@ -48,6 +51,9 @@ struct Group {
     std::size_t first;
     std::size_t last;
 };
+
+constexpr std::size_t bytesOfUsualPass =
+    usualExpressions * (sizeof(Expression) + sizeof(std::uint32_t) + sizeof(Group) + sizeof(std::string));
 
 /// Rather than search the text for every row of the list, a round finds the expressions that stand in the text
 /// and takes them in the order of their rows. A round ends early where a replacement may have made an expression
@@ -93,10 +99,13 @@ private:
     const FieldValueSource& valueOf_;
     bool replaced_ = false;
 
-    std::vector<Expression> expressions_;
-    std::vector<std::uint32_t> byTurn_;
-    std::vector<Group> groups_;
-    std::vector<std::string> values_;
+    /// Room on the stack for the expressions of a usual template: a merge then allocates for its texts alone.
+    std::array<std::byte, bytesOfUsualPass> room_;
+    std::pmr::monotonic_buffer_resource memory_{room_.data(), room_.size()};
+    std::pmr::vector<Expression> expressions_{&memory_};
+    std::pmr::vector<std::uint32_t> byTurn_{&memory_};
+    std::pmr::vector<Group> groups_{&memory_};
+    std::pmr::vector<std::string> values_{&memory_};
     /// Taking an expression out may join what stands around it to a new one.
     bool fragile_ = false;
 };
@@ -262,7 +271,9 @@ char Pass::characterBefore(std::size_t expressionIndex) const
 
 bool Pass::mayMakeExpression(std::string_view value) const
 {
-    return findDelimiter(value, pair_, 0).at != npos || endsWithinDelimiter(value, pair_);
+    // Both halves of a pair begin with the same byte, which most values do not hold.
+    return value.find(pair_.open.front()) != npos
+           && (findDelimiter(value, pair_, 0).at != npos || endsWithinDelimiter(value, pair_));
 }
 
 void Pass::apply()

@@ -1,32 +1,17 @@
 #include "utilities/FieldListCollection.h"
 
 #include "utilities/RunTimeError.h"
+#include "utilities/hashNoCase.h"
 #include "utilities/text.h"
 
 #include <algorithm>
 #include <bit>
-#include <cstring>
 
 namespace qncal {
 
 namespace {
 
 constexpr std::int32_t freeSlot = -1;
-
-/// Eight bytes at a time; 0x20 makes the two cases of a letter one, and what else it makes one does no harm.
-std::size_t hashNoCase(std::string_view text)
-{
-    constexpr std::uint64_t lowerBits = 0x2020202020202020ULL;
-    constexpr std::uint64_t mixer = 0x9E3779B97F4A7C15ULL;
-    std::uint64_t hash = text.size();
-    for (std::size_t at = 0; at < text.size(); at += sizeof(std::uint64_t)) {
-        std::uint64_t bytes = 0;
-        std::memcpy(&bytes, text.data() + at, std::min(sizeof bytes, text.size() - at));
-        hash = (hash ^ (bytes | lowerBits)) * mixer;
-        hash ^= hash >> 32;
-    }
-    return static_cast<std::size_t>(hash);
-}
 
 bool holds(const FieldListRow& row, std::int16_t column, std::string_view value)
 {

@@ -70,6 +70,7 @@ void ItemWriter::fill(clsCalendarItem& item, const Row& row)
     fillFields(item, component);
     fillReminder(item, row);
     fillNotes(item, row);
+    notifyTheDayBefore(item);
 }
 
 void ItemWriter::fillFields(clsCalendarItem& item, const CalendarComponent& component)
@@ -139,9 +140,6 @@ void ItemWriter::save(clsCalendarItem& item)
 {
     const std::size_t errorsBefore = host_.errors().reportCount();
     const bool saved = saveItem(item);
-    // A save schedules the reminder of an appointment alone.
-    if (saved && item.calendarItemType() == enumLocalCalendarTaskItem)
-        item.schedulePopupReminderForItem();
     if (host_.errors().reportCount() != errorsBefore) {
         const ErrorState& error = host_.errors().reports().back().error;
         throw RunTimeError(error.number, error.text);

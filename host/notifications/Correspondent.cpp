@@ -69,11 +69,18 @@ Correspondent companyIn(const Rows& row)
     return company;
 }
 
-Correspondent readContact(DatabaseService& database, std::int32_t id)
+std::optional<Correspondent> readContact(DatabaseService& database, std::int32_t id)
 {
     const Rows row =
         Rows::read(database, "SELECT Contacts.* FROM Contacts WHERE ContactID=" + std::to_string(id) + ";");
-    return row.isEmpty() ? Correspondent() : contactIn(row);
+    return row.isEmpty() ? std::nullopt : std::optional(contactIn(row));
+}
+
+std::optional<Correspondent> readCompany(DatabaseService& database, std::int32_t id)
+{
+    const Rows row =
+        Rows::read(database, "SELECT Companies.* FROM Companies WHERE CompanyID=" + std::to_string(id) + ";");
+    return row.isEmpty() ? std::nullopt : std::optional(companyIn(row));
 }
 
 /// -1 for none.
@@ -92,26 +99,19 @@ void prefer(const std::string& better, std::string& text)
 
 } // namespace
 
-Correspondent readClient(DatabaseService& database, const ItemClient& client)
+std::optional<Correspondent> readClient(DatabaseService& database, const ItemClient& client)
 {
     if (client.companyID < 0)
-        return client.contactID < 0 ? Correspondent() : readContact(database, client.contactID);
-    Correspondent company;
-    {
-        const Rows row = Rows::read(
-            database, "SELECT Companies.* FROM Companies WHERE CompanyID=" + std::to_string(client.companyID) + ";");
-        if (row.isEmpty())
-            return company;
-        company = companyIn(row);
-    }
-    const std::int32_t contactID = defaultContactOf(database, client.companyID);
-    if (contactID < 0)
+        return readContact(database, client.contactID);
+    std::optional<Correspondent> company = readCompany(database, client.companyID);
+    if (!company)
         return company;
-    const Correspondent contact = readContact(database, contactID);
-    company.person = contact.name;
-    prefer(contact.email, company.email);
-    prefer(contact.fax, company.fax);
-    prefer(contact.phone, company.phone);
+    if (const auto contact = readContact(database, defaultContactOf(database, client.companyID))) {
+        company->person = contact->name;
+        prefer(contact->email, company->email);
+        prefer(contact->fax, company->fax);
+        prefer(contact->phone, company->phone);
+    }
     return company;
 }
 

@@ -3,6 +3,7 @@
 #include "core/DatabaseService.h"
 #include "services/notifiedItem.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,8 +22,8 @@ struct Correspondent {
 };
 
 /// The client's default address of each channel: of a company that of its default contact, where it has one, before
-/// the company's own.
-Correspondent readClient(DatabaseService& database, const ItemClient& client);
+/// the company's own. Nothing when the client has been deleted, or there is none.
+std::optional<Correspondent> readClient(DatabaseService& database, const ItemClient& client);
 
 /// The accounting firm itself.
 Correspondent readFirm(DatabaseService& database);

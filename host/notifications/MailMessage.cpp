@@ -2,6 +2,7 @@
 
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
+#include "utilities/utf8.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -37,10 +38,23 @@ bool isPlain(std::string_view text)
            && std::ranges::none_of(text, [](char c) { return static_cast<unsigned char>(c) >= 0x7F; });
 }
 
+/// What is no UTF-8 becomes U+FFFD: the message says that it is.
+std::string wellFormed(std::string_view text)
+{
+    constexpr std::string_view replacement = "\xEF\xBF\xBD";
+    std::string formed;
+    while (!text.empty()) {
+        const Utf8Character character = decodeUtf8(text);
+        formed += character.valid ? text.substr(0, character.length) : replacement;
+        text.remove_prefix(character.length);
+    }
+    return formed;
+}
+
 /// The header lines end where this system says, so no text may bring an end of its own.
 std::string onOneLine(std::string_view text)
 {
-    std::string line(text);
+    std::string line = wellFormed(text);
     std::ranges::replace_if(line, isControl, ' ');
     return line;
 }
@@ -112,15 +126,27 @@ std::string zoneText(Date date)
     return (parts.tm_gmtoff < 0 ? "-" : "+") + digits.substr(1);
 }
 
+/// Line ends of any kind become CR LF.
+std::string networkLines(std::string_view text)
+{
+    std::string lines;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n';
+        if (isPair)
+            ++i;
+        if (text[i] == '\r' || text[i] == '\n')
+            lines += lineEnd;
+        else
+            lines += text[i];
+    }
+    return lines;
+}
+
+/// In base64 no line is too long, none begins with a dot, and every byte arrives.
 std::string bodyText(const std::string& body)
 {
     constexpr std::size_t lineLength = 76;
-    std::string unixLines = body;
-    std::erase(unixLines, '\r');
-    std::string lines;
-    for (const char c : unixLines)
-        lines += c == '\n' ? std::string(lineEnd) : std::string(1, c);
-    const std::string encoded = base64(lines);
+    const std::string encoded = base64(networkLines(wellFormed(body)));
     std::string text;
     for (std::size_t i = 0; i < encoded.size(); i += lineLength)
         text += encoded.substr(i, lineLength) + std::string(lineEnd);

@@ -11,8 +11,9 @@ namespace qncal::host {
 struct MailResult {
     enum class Outcome : std::uint8_t {
         sent,
-        failed,  ///< certainly not sent: it may be tried again
-        unknown, ///< the connection broke when the message was out and the server's word on it was not in
+        failed,      ///< certainly not sent: it may be tried again
+        unreachable, ///< the same, and any other message would fare alike: the server was not there for us
+        unknown,     ///< the connection broke when the message was out and the server's word on it was not in
     };
     Outcome outcome = Outcome::failed;
     /// One line; empty for `sent`.

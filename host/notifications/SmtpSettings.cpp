@@ -3,6 +3,7 @@
 #include "utilities/RunTimeError.h"
 #include "utilities/text.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 #include <istream>
@@ -60,8 +61,8 @@ constexpr Setting knownSettings[] = {
      [](SmtpSettings& settings, const std::string& value) { settings.certificates = value; }},
     {"timeout", "FIRMCAL_SMTP_TIMEOUT",
      [](SmtpSettings& settings, const std::string& value) {
-         constexpr int longest = 3600;
-         settings.timeout = std::chrono::seconds(numberIn(value, longest));
+         settings.timeout =
+             std::chrono::seconds(numberIn(value, static_cast<int>(SmtpSettings::longestTimeout.count())));
      }},
 };
 
@@ -86,12 +87,25 @@ bool isThisMachine(const std::string& server)
     return server == "localhost" || server == "127.0.0.1" || server == "::1" || server == "[::1]";
 }
 
+/// "mail.firm.example", or an address; no part of a URL besides.
+bool isServerName(const std::string& server)
+{
+    const bool isIPv6 = std::ranges::count(server, ':') > 1;
+    return std::ranges::none_of(server, [&](char c) {
+        return static_cast<unsigned char>(c) <= ' ' || std::string_view("/@?#%\\\"<>").find(c) != std::string_view::npos
+               || (!isIPv6 && std::string_view("[]:").find(c) != std::string_view::npos);
+    });
+}
+
 } // namespace
 
 void readSmtpSettings(std::istream& file, SmtpSettings& settings)
 {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     std::string line;
     for (int number = 1; std::getline(file, line); ++number) {
+        if (number == 1 && line.starts_with(byteOrderMark))
+            line.erase(0, byteOrderMark.size());
         try {
             readLine(line, settings);
         } catch (const RunTimeError& error) {
@@ -117,12 +131,14 @@ void readSmtpEnvironment(SmtpSettings& settings)
 void checkSmtpSettings(const SmtpSettings& settings)
 {
     if (settings.server.empty())
-        refuse("no mail server is set");
-    if (settings.server.find_first_of("/@ \t\r\n") != std::string::npos)
-        refuse("'" + settings.server + "' is no name of a server");
+        refuse("no mail server is set (server)");
+    if (!isServerName(settings.server))
+        refuse("'" + settings.server + "' is no name of a server; the port is a setting of its own");
     if (!isMailAddress(settings.from.address))
-        refuse(settings.from.address.empty() ? "no sender's address is set"
+        refuse(settings.from.address.empty() ? "no sender's address is set (from)"
                                              : "the sender's '" + settings.from.address + "' is no e-mail address");
+    if (settings.user.empty() != settings.password.empty())
+        refuse(settings.user.empty() ? "there is a password, and no user" : "the user has no password (password)");
     if (!settings.password.empty() && settings.security == SmtpSettings::Security::none
         && !isThisMachine(settings.server))
         refuse("a password goes to " + settings.server + " with starttls or tls alone");

@@ -27,8 +27,12 @@ struct SmtpSettings {
     MailAddress from;
     /// Certificates to trust instead of the system's; empty for those.
     std::string certificates;
-    /// For the whole of an attempt.
-    std::chrono::milliseconds timeout{60000};
+    /// For the whole of an attempt; the server must bid welcome within half a minute. Servers may look at a message for
+    /// minutes before they take it, and one that is given up then has an unknown outcome.
+    std::chrono::milliseconds timeout = std::chrono::minutes(5);
+    /// With as much again for the farewell it is below the time after which an attempt counts as left behind, see
+    /// `isUnderWay`.
+    static constexpr std::chrono::seconds longestTimeout = std::chrono::minutes(7);
 };
 
 /// Takes the settings that a file states, one "name = value" a line, # before remarks: server, port,
@@ -40,8 +44,8 @@ void readSmtpSettings(std::istream& file, SmtpSettings& settings);
 /// _FROM, _FROM_NAME, _CERTIFICATES, _TIMEOUT. Throws `RunTimeError` 5 that names the variable.
 void readSmtpEnvironment(SmtpSettings& settings);
 
-/// Throws `RunTimeError` 5 that says what is missing or wrong: no server, no sender, a password that would cross a
-/// network in the clear.
+/// Throws `RunTimeError` 5 that says what is missing or wrong: no server, no sender, a user without a password or the
+/// other way round, a password that would cross a network in the clear.
 void checkSmtpSettings(const SmtpSettings& settings);
 
 } // namespace qncal::host

@@ -36,7 +36,8 @@ public:
     virtual Stay show(const Reminder& reminder) = 0;
     /// Those whose moment passed while nobody looked, oldest first and at least one, to be shown as one digest.
     virtual Stay showMissed(const std::vector<Reminder>& reminders) = 0;
-    /// A reminder on the screen was deleted, as happens with its item.
+    /// A reminder on the screen does not hold any more: it was deleted or moved, as happens with its item. A moved one
+    /// comes again at its new moment.
     virtual void withdraw(std::int32_t reminderID) = 0;
 };
 

@@ -49,7 +49,7 @@ std::size_t ReminderLoop::sweep()
 {
     if (!database_->isConnected())
         return 0;
-    withdrawDeleted();
+    withdrawOutdated();
     const Date moment = now();
     rearmMoved(moment);
     std::vector<Reminder> due = dueAt(moment);
@@ -94,39 +94,43 @@ void ReminderLoop::present(const std::vector<Reminder>& reminders, Show show)
     }
 }
 
+template <class Write>
+ReminderLoop::Outcome ReminderLoop::answer(std::int32_t reminderID, Write write)
+{
+    Rows row = Rows::change(*database_, byKey(reminderID));
+    const Outcome outcome = row.isEmpty() ? Outcome::deleted : Outcome::done;
+    const auto shown = onScreen_.find(reminderID);
+    if (outcome == Outcome::done && (shown == onScreen_.end() || shown->second == momentOf(row)))
+        write(row);
+    row.close();
+    onScreen_.erase(reminderID);
+    return outcome;
+}
+
 ReminderLoop::Outcome ReminderLoop::snooze(std::int32_t reminderID, int minutes)
 {
     if (minutes < 1)
         throw RunTimeError(errorNumber::invalidProcedureCall, "A reminder is put off by one minute or more");
-    onScreen_.erase(reminderID);
-    Rows row = Rows::change(*database_, byKey(reminderID));
-    if (row.isEmpty())
-        return Outcome::deleted;
-    const Date again = now().addSeconds(minutes * secondsPerMinute);
-    row.set("ReminderDate", defaultDateText(again.dateOnly()));
-    row.set("ReminderTime", clockTime(again));
-    markCompleted(row, false);
-    row.close();
-    return Outcome::done;
+    return answer(reminderID, [&](Rows& row) {
+        const Date again = now().addSeconds(minutes * secondsPerMinute);
+        row.set("ReminderDate", defaultDateText(again.dateOnly()));
+        row.set("ReminderTime", clockTime(again));
+        markCompleted(row, false);
+    });
 }
 
 ReminderLoop::Outcome ReminderLoop::dismiss(std::int32_t reminderID)
 {
-    onScreen_.erase(reminderID);
-    Rows row = Rows::change(*database_, byKey(reminderID));
-    if (row.isEmpty())
-        return Outcome::deleted;
-    markCompleted(row, true);
-    row.close();
-    return Outcome::done;
+    return answer(reminderID, [](Rows& row) { markCompleted(row, true); });
 }
 
-/// Two statements, each a range of the index of the due rows; one with "or" would read all open reminders.
+/// Three statements, each a range of the index of the due rows; one with "or" would read all open reminders.
 std::vector<Reminder> ReminderLoop::dueAt(Date moment) const
 {
     const std::string today = "#" + database_->getSQLDate(moment.dateOnly()) + "#";
     std::vector<Reminder> due;
     readDue("ReminderDate < " + today, due);
+    readDue("ReminderDate = " + today + " AND ReminderTime IS NULL", due);
     readDue("ReminderDate = " + today + " AND ReminderTime <= #" + clockTime(moment) + "#", due);
     return due;
 }
@@ -163,30 +167,41 @@ void ReminderLoop::complete(const Reminder& reminder)
     row.close();
 }
 
-/// An item that moves takes its reminder along but leaves the row's mark.
+/// An item that moves takes its reminder along but leaves the row's mark. Read from the latest moment backwards: all
+/// that moved ahead lie before the first that did not, for at that one's moment the others had not moved yet.
+/// Whose they are does not matter: what is open again is shown to its own user.
 void ReminderLoop::rearmMoved(Date moment)
 {
-    const std::string today = "#" + database_->getSQLDate(moment.dateOnly()) + "#";
-    for (const std::string& later :
-         {"ReminderDate > " + today, "ReminderDate = " + today + " AND ReminderTime > #" + clockTime(moment) + "#"}) {
-        for (Rows row = Rows::change(*database_, "SELECT Reminders.* FROM Reminders WHERE Completed = True AND " + later
-                                                     + ofUser() + " ORDER BY ReminderDate, ReminderTime;");
-             !row.atEnd(); row.moveNext()) {
+    constexpr int growth = 8;
+    for (int count = 1;; count *= growth) {
+        int read = 0;
+        for (Rows row =
+                 Rows::change(*database_, "SELECT TOP " + std::to_string(count)
+                                              + " Reminders.* FROM Reminders WHERE Completed = True"
+                                                " ORDER BY ReminderDate DESC, ReminderTime DESC, ReminderID DESC;");
+             !row.atEnd(); row.moveNext(), ++read) {
+            const Date due = momentOf(row);
             const Variant shownFor = row.field("ShownFor");
-            if (!shownFor.isNull() && shownFor.toDate() != momentOf(row))
+            const bool isMoved = !shownFor.isNull() && shownFor.toDate() != due;
+            if (due <= moment && !(isMoved && shownFor.toDate() < due))
+                return;
+            if (isMoved)
                 markCompleted(row, false);
         }
+        if (read < count)
+            return;
     }
 }
 
-void ReminderLoop::withdrawDeleted()
+void ReminderLoop::withdrawOutdated()
 {
-    std::vector<std::int32_t> deleted;
+    std::vector<std::int32_t> outdated;
     for (const auto& [id, due] : onScreen_) {
-        if (Rows::read(*database_, byKey(id)).isEmpty())
-            deleted.push_back(id);
+        const Rows row = Rows::read(*database_, byKey(id));
+        if (row.isEmpty() || momentOf(row) != due)
+            outdated.push_back(id);
     }
-    for (const std::int32_t id : deleted) {
+    for (const std::int32_t id : outdated) {
         onScreen_.erase(id);
         display_.withdraw(id);
     }

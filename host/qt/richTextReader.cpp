@@ -43,7 +43,8 @@ struct ParagraphState {
     std::vector<int> tabStops;
 };
 
-enum class Destination { text, fonts, colours };
+/// A font's entry stands in the table itself or in a group of its own; what lies deeper is not its name.
+enum class Destination { text, fontTable, font, ignored, colours, listText };
 
 struct GroupState {
     CharacterState character;
@@ -57,7 +58,7 @@ public:
     void read();
 
 protected:
-    void groupOpened() override { groups_.push_back(groups_.back()); }
+    void groupOpened() override;
     void groupClosed() override;
     void controlWord(std::string_view word, std::optional<int> parameter) override;
     bool visibleCharacter(char32_t character, std::size_t offset) override;
@@ -70,6 +71,7 @@ private:
     CharacterState& characters() { return groups_.back().character; }
     ParagraphState& paragraph() { return groups_.back().paragraph; }
     void bulletForParagraph();
+    void fontNumber(int font);
     void endFontName();
     void endColour();
 
@@ -83,6 +85,8 @@ private:
     QTextCursor cursor_;
     std::vector<GroupState> groups_{{}};
     std::unordered_map<int, QString> fonts_;
+    /// The font of characters that name none.
+    int defaultFont_ = -1;
     int namedFont_ = 0;
     QString fontName_;
     std::vector<QColor> colours_;
@@ -105,21 +109,29 @@ int twips(int value) { return std::clamp(value, -widestTwips, widestTwips); }
 /// The words that format; a missing parameter reads as 1, which is what a bare "\b" means.
 const std::unordered_map<std::string_view, Reader::Apply>& Reader::words()
 {
+    // A line of any shape is shown as a plain one.
+    constexpr Apply underline = [](Reader& r, int on) { r.characters().underline = on != 0; };
+    constexpr Apply highlight = [](Reader& r, int colour) { r.characters().highlight = colour; };
     static const std::unordered_map<std::string_view, Apply> table{
         {"plain", [](Reader& r, int) { r.characters() = {}; }},
         {"b", [](Reader& r, int on) { r.characters().bold = on != 0; }},
         {"i", [](Reader& r, int on) { r.characters().italic = on != 0; }},
-        {"ul", [](Reader& r, int on) { r.characters().underline = on != 0; }},
+        {"ul", underline},
+        {"uld", underline},
+        {"uldash", underline},
+        {"uldb", underline},
+        {"ulth", underline},
+        {"ulw", underline},
+        {"ulwave", underline},
         {"ulnone", [](Reader& r, int) { r.characters().underline = false; }},
         {"strike", [](Reader& r, int on) { r.characters().strikeOut = on != 0; }},
-        {"f",
-         [](Reader& r, int font) {
-             r.characters().font = font;
-             r.namedFont_ = font;
-         }},
+        {"deff", [](Reader& r, int font) { r.defaultFont_ = font; }},
+        {"f", [](Reader& r, int font) { r.fontNumber(font); }},
         {"fs", [](Reader& r, int size) { r.characters().halfPoints = std::clamp(size, 0, largestHalfPoints); }},
         {"cf", [](Reader& r, int colour) { r.characters().colour = colour; }},
-        {"highlight", [](Reader& r, int colour) { r.characters().highlight = colour; }},
+        {"highlight", highlight},
+        {"cb", highlight},
+        {"chcbpat", highlight},
         {"pard", [](Reader& r, int) { r.paragraph() = {}; }},
         {"ql", [](Reader& r, int) { r.paragraph().alignment = Qt::AlignLeft; }},
         {"qc", [](Reader& r, int) { r.paragraph().alignment = Qt::AlignHCenter; }},
@@ -134,7 +146,8 @@ const std::unordered_map<std::string_view, Reader::Apply>& Reader::words()
                  r.paragraph().tabStops.push_back(twips(position));
          }},
         {"pnlvlblt", [](Reader& r, int) { r.bulletForParagraph(); }},
-        {"fonttbl", [](Reader& r, int) { r.groups_.back().destination = Destination::fonts; }},
+        {"listtext", [](Reader& r, int) { r.groups_.back().destination = Destination::listText; }},
+        {"fonttbl", [](Reader& r, int) { r.groups_.back().destination = Destination::fontTable; }},
         {"colortbl", [](Reader& r, int) { r.groups_.back().destination = Destination::colours; }},
         {"red",
          [](Reader& r, int part) {
@@ -155,9 +168,20 @@ void Reader::read()
         formatParagraph(lastParagraph_);
 }
 
+void Reader::groupOpened()
+{
+    groups_.push_back(groups_.back());
+    Destination& destination = groups_.back().destination;
+    if (destination == Destination::fontTable)
+        destination = Destination::font;
+    else if (destination == Destination::font)
+        destination = Destination::ignored;
+}
+
 void Reader::groupClosed()
 {
-    if (groups_.back().destination == Destination::fonts)
+    const Destination destination = groups_.back().destination;
+    if (destination == Destination::font || destination == Destination::fontTable)
         endFontName();
     groups_.pop_back();
     formatChanged_ = true;
@@ -180,10 +204,23 @@ void Reader::bulletForParagraph()
         groups_[level].paragraph.bullet = true;
 }
 
+void Reader::fontNumber(int font)
+{
+    if (groups_.back().destination == Destination::text)
+        characters().font = font;
+    else
+        namedFont_ = font;
+}
+
 void Reader::hiddenCharacter(char32_t character)
 {
     const Destination destination = groups_.back().destination;
-    if (destination == Destination::fonts) {
+    if (destination == Destination::listText) {
+        // The other list texts are numbers; they are lost, as the numbering of a list that is not kept would be wrong.
+        constexpr std::u32string_view bullets = U"\u00B7\u2022\u25AA\u25CF\uF0A7\uF0B7";
+        if (bullets.find(character) != std::u32string_view::npos)
+            bulletForParagraph();
+    } else if (destination == Destination::font || destination == Destination::fontTable) {
         if (character == ';')
             endFontName();
         else if (character > 0x20 || (character == 0x20 && !fontName_.isEmpty()))
@@ -290,7 +327,7 @@ QTextCharFormat Reader::characterFormat() const
 {
     const CharacterState& state = groups_.back().character;
     QTextCharFormat format;
-    if (const auto font = fonts_.find(state.font); font != fonts_.end())
+    if (const auto font = fonts_.find(state.font < 0 ? defaultFont_ : state.font); font != fonts_.end())
         format.setFontFamilies({font->second});
     if (state.halfPoints > 0)
         format.setFontPointSize(state.halfPoints / 2.0);

@@ -1,37 +1,40 @@
 #include "services/NotificationLedger.h"
 
+#include "items/modHolidayCtrl.h"
 #include "services/DeliveryState.h"
 #include "services/Rows.h"
 #include "services/notifiedItem.h"
+#include "utilities/dateText.h"
 
 namespace qncal::host {
 
 namespace {
 
-std::string rowByKey(std::int32_t notificationID)
+NotifiedItem itemOf(DatabaseService& database, std::int16_t kind, std::int32_t itemID)
 {
-    return "SELECT ClientNotification.* FROM ClientNotification WHERE ClientNotificationID="
-           + std::to_string(notificationID) + ";";
+    return readNotifiedItem(database, static_cast<enumLocalCalendarItemType>(kind), itemID).value_or(NotifiedItem{});
 }
 
-ItemClient clientOfItem(DatabaseService& database, std::int16_t kind, std::int32_t itemID)
-{
-    const auto item = readNotifiedItem(database, static_cast<enumLocalCalendarItemType>(kind), itemID);
-    return item ? item->client : ItemClient{};
-}
-
-bool mayHaveBeenSent(const Rows& row)
-{
-    const auto state = static_cast<DeliveryState>(row.integer("DeliveryState", 0));
-    return row.boolean("NotificationSent") || state == DeliveryState::sending || state == DeliveryState::unknown;
-}
+bool mayHaveBeenSent(const Rows& row) { return row.boolean("NotificationSent"); }
 
 /// A row that came too late, or whose item had gone, gets its chance anew with every save of the item.
 void rearm(Rows& row)
 {
-    const auto state = static_cast<DeliveryState>(row.integer("DeliveryState", 0));
-    if (state == DeliveryState::tooLate || state == DeliveryState::cancelled)
-        row.set("DeliveryState", std::to_string(static_cast<std::int32_t>(DeliveryState::waiting)));
+    const DeliveryState state = deliveryStateOf(row);
+    if (state != DeliveryState::tooLate && state != DeliveryState::cancelled)
+        return;
+    setDeliveryState(row, DeliveryState::waiting);
+    row.set("LastError", {});
+}
+
+/// An item that moves to before the day of its notification takes it along, to the last working day before it.
+void keepAhead(Rows& row, const NotifiedItem& item)
+{
+    const Variant date = row.field("NotificationDate");
+    if (item.id < 0 || item.start == noDate || date.isNull() || date.toDate() <= item.start)
+        return;
+    const Date dayBefore = item.start.dateOnly().addDays(-1);
+    row.set("NotificationDate", defaultDateText(modHolidayCtrl::adjustDateToFridayIfWeekendOrHoliday(dayBefore)));
 }
 
 void setClient(Rows& row, const ItemClient& client)
@@ -51,7 +54,7 @@ bool NotificationLedger::notificationExists(std::int16_t kind, std::int32_t item
 std::int32_t NotificationLedger::getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
 {
     const std::string column(itemColumn(kind));
-    const ItemClient client = clientOfItem(*database_, kind, itemID);
+    const ItemClient client = itemOf(*database_, kind, itemID).client;
     std::int32_t found = -1;
     for (Rows row = Rows::read(*database_, "SELECT ClientNotification.* FROM ClientNotification WHERE " + column + "="
                                                + std::to_string(itemID) + " AND NotificationType="
@@ -94,13 +97,15 @@ std::int32_t NotificationLedger::createLetterNotification(std::int16_t kind, std
 void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notificationID, std::int32_t itemID)
 {
     const std::string_view column = itemColumn(kind);
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (row.isEmpty())
         return;
     row.set(column, std::to_string(itemID));
     if (mayHaveBeenSent(row))
         return;
-    setClient(row, clientOfItem(*database_, kind, itemID));
+    const NotifiedItem item = itemOf(*database_, kind, itemID);
+    setClient(row, item.client);
+    keepAhead(row, item);
     rearm(row);
     row.close();
 }
@@ -131,7 +136,7 @@ void NotificationLedger::setLetterNotificationDate(std::int16_t, std::int16_t, s
 
 void NotificationLedger::deleteNotification(std::int32_t notificationID)
 {
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (!row.isEmpty() && !mayHaveBeenSent(row))
         row.deleteCurrent();
     row.close();
@@ -140,7 +145,7 @@ void NotificationLedger::deleteNotification(std::int32_t notificationID)
 std::int32_t NotificationLedger::create(std::int16_t kind, std::int32_t itemID, std::uint8_t channel, Date date)
 {
     const std::string_view column = itemColumn(kind);
-    const ItemClient client = clientOfItem(*database_, kind, itemID);
+    const ItemClient client = itemOf(*database_, kind, itemID).client;
     return addRow(*database_, "ClientNotification",
                   {{column, std::to_string(itemID)},
                    {"NotificationType", std::to_string(channel)},
@@ -152,7 +157,7 @@ std::int32_t NotificationLedger::create(std::int16_t kind, std::int32_t itemID, 
 
 void NotificationLedger::setDate(std::int32_t notificationID, Date date)
 {
-    Rows row = Rows::change(*database_, rowByKey(notificationID));
+    Rows row = Rows::change(*database_, notificationByKey(notificationID));
     if (row.isEmpty())
         return;
     row.set("NotificationDate", defaultDateText(date));

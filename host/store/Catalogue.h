@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/NameIndex.h"
 #include "store/StoreTable.h"
+#include "utilities/NameIndex.h"
 
 #include <memory>
 #include <span>

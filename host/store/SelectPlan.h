@@ -2,9 +2,9 @@
 
 #include "core/schema.h"
 #include "store/Catalogue.h"
-#include "store/NameIndex.h"
 #include "store/SqliteConnection.h"
 #include "store/dialect/shape.h"
+#include "utilities/NameIndex.h"
 
 #include <cstddef>
 #include <cstdint>

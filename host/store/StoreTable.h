@@ -1,9 +1,9 @@
 #pragma once
 
 #include "core/schema.h"
-#include "store/NameIndex.h"
 #include "store/Row.h"
 #include "store/SqliteConnection.h"
+#include "utilities/NameIndex.h"
 
 #include <cstdint>
 #include <string>

@@ -1,7 +1,7 @@
 #include "store/ddl.h"
 
-#include "store/NameIndex.h"
 #include "store/storeError.h"
+#include "utilities/NameIndex.h"
 
 namespace qncal::host {
 

@@ -4,6 +4,7 @@
 #include "core/forwarding/ForwardingClientDropDownService.h"
 #include "core/forwarding/ForwardingDatabaseService.h"
 #include "core/forwarding/ForwardingErrorControlService.h"
+#include "core/forwarding/ForwardingFormRegistry.h"
 #include "core/forwarding/ForwardingLocaleService.h"
 #include "core/forwarding/ForwardingMessageDialogService.h"
 #include "utilities/RunTimeError.h"
@@ -24,9 +25,30 @@ public:
 
 protected:
     void beforeCall(std::string_view operation) override { count_->step(operation); }
+    const SharedCount& count() const { return count_; }
 
 private:
     SharedCount count_;
+};
+
+/// Its registry of windows fails as well.
+class FaultyClientDropDown : public Faulty<ForwardingClientDropDownService> {
+public:
+    using Faulty::Faulty;
+
+    std::shared_ptr<FormRegistry> getFormRegistry() override
+    {
+        auto registry = Faulty::getFormRegistry();
+        if (!registry)
+            return nullptr;
+        // Kept, because its entries are used after the registry was let go.
+        if (!windows_ || windows_->target() != registry)
+            windows_ = std::make_shared<Faulty<ForwardingFormRegistry>>(std::move(registry), count());
+        return windows_;
+    }
+
+private:
+    std::shared_ptr<Faulty<ForwardingFormRegistry>> windows_;
 };
 
 /// The routine stack is asked to push and pop; a host that cannot pop has nothing that a test could expect of it,
@@ -152,7 +174,7 @@ FaultInjector::FaultInjector() : original_(serviceRegistry())
     wrap<Faulty<ForwardingDatabaseService>>(registry.database, count_);
     wrap<Faulty<ForwardingMessageDialogService>>(registry.messageDialogs, count_);
     wrap<Faulty<ForwardingLocaleService>>(registry.locale, count_);
-    wrap<Faulty<ForwardingClientDropDownService>>(registry.clientDropDown, count_);
+    wrap<FaultyClientDropDown>(registry.clientDropDown, count_);
     wrap<Faulty<ForwardingAutoNotifyService>>(registry.autoNotify, count_);
     if (registry.utility)
         registry.utility = std::make_shared<FaultyUtility>(count_);

@@ -8,8 +8,8 @@
 namespace qncal::test {
 
 /// Makes one service call fail. While it lives, the services in the registry are wrapped: database, error control
-/// (only `enterRoutine`), messages, locale, client lists, notifications, utility and date-time service. A call that
-/// fails throws run-time error 5 and does nothing else.
+/// (only `enterRoutine`), messages, locale, client lists with the registry of windows, notifications, utility and
+/// date-time service. A call that fails throws run-time error 5 and does nothing else.
 ///
 /// To be made after the objects under test, since creating one of those replaces the component's own services.
 class FaultInjector {

@@ -23,6 +23,15 @@ std::vector<std::string> labelsSince(const TestWorld& world, std::size_t first)
     return {labels.begin() + static_cast<std::ptrdiff_t>(first), labels.end()};
 }
 
+/// All that the services were made to keep.
+std::string rowsOf(TestWorld& world)
+{
+    std::string text = world.allRows();
+    for (const std::string& call : world.autoNotify->calls)
+        text += call + "\n";
+    return text;
+}
+
 Outcome runWithoutFault(const SweptRoutine& routine)
 {
     TestWorld world;
@@ -34,7 +43,7 @@ Outcome runWithoutFault(const SweptRoutine& routine)
     outcome.result = run();
     outcome.calls = faults.calls();
     outcome.labels = labelsSince(world, before);
-    outcome.rows = world.allRows();
+    outcome.rows = rowsOf(world);
     return outcome;
 }
 
@@ -100,7 +109,7 @@ void expectFaultsRetry(const SweptRoutine& routine)
         EXPECT_LE(world.errors->takeErrors().size(), 1u) << where;
         EXPECT_EQ(result, clean.result) << where;
         EXPECT_EQ(labelsSince(world, before), clean.labels) << where;
-        EXPECT_EQ(world.allRows(), clean.rows) << where;
+        EXPECT_EQ(rowsOf(world), clean.rows) << where;
         // A read is the field and its null test, and runs again as a whole.
         EXPECT_LE(faults.calls(), clean.calls + 2) << where << ": something was done twice";
     }
@@ -108,8 +117,9 @@ void expectFaultsRetry(const SweptRoutine& routine)
 
 void expectEmptySlotsLeave(const SweptRoutine& routine)
 {
-    enum class Slot { errorControl, database, utility, dateTime, clientDropDown };
-    for (const Slot slot : {Slot::errorControl, Slot::database, Slot::utility, Slot::dateTime, Slot::clientDropDown}) {
+    enum class Slot { errorControl, database, utility, dateTime, clientDropDown, autoNotify };
+    for (const Slot slot :
+         {Slot::errorControl, Slot::database, Slot::utility, Slot::dateTime, Slot::clientDropDown, Slot::autoNotify}) {
         TestWorld world;
         const auto run = routine.prepare(world);
         const ServiceRegistry full = serviceRegistry();
@@ -129,6 +139,9 @@ void expectEmptySlotsLeave(const SweptRoutine& routine)
             break;
         case Slot::clientDropDown:
             registry.clientDropDown.reset();
+            break;
+        case Slot::autoNotify:
+            registry.autoNotify.reset();
             break;
         }
         std::string result;

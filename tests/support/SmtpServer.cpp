@@ -15,6 +15,13 @@ namespace {
 /// The interpreter that the system's packages belong to.
 constexpr const char* interpreter = "/usr/bin/python3";
 
+/// Empty when there is no such file.
+std::string contentOf(const std::filesystem::path& path)
+{
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
 /// What the process prints on its first line.
 std::string firstLine(int descriptor)
 {
@@ -76,11 +83,13 @@ std::vector<std::string> SmtpServer::messages() const
 {
     std::vector<std::string> all;
     for (int number = 1;; ++number) {
-        std::ifstream file(folder_ / (std::to_string(number) + ".eml"), std::ios::binary);
-        if (!file)
+        std::string message = contentOf(folder_ / (std::to_string(number) + ".eml"));
+        if (message.empty())
             return all;
-        all.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
+        all.push_back(std::move(message));
     }
 }
+
+std::string SmtpServer::commands() const { return contentOf(folder_ / "commands"); }
 
 } // namespace qncal::test

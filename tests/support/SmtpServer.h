@@ -22,6 +22,8 @@ public:
     std::uint16_t port() const { return port_; }
     /// The messages received so far as they came, after a line with the sender and the recipients of the envelope.
     std::vector<std::string> messages() const;
+    /// The commands that a bad server got, a line each.
+    std::string commands() const;
 
 private:
     void start(std::vector<std::string> arguments);

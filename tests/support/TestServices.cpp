@@ -15,6 +15,8 @@ void TestFormRegistry::Entry::initialize()
 
 void TestFormRegistry::Entry::show(bool modal)
 {
+    if (!form_)
+        throw RunTimeError(errorNumber::objectNotSet, "the window has no form");
     ++(modal ? shownModal : shownModeless);
     if (modal)
         form_->showModal();
@@ -75,7 +77,7 @@ Variant TestClientDropDown::getClientListField(ClientKind kind, std::int32_t id,
     return field == client->second.end() ? Variant() : field->second;
 }
 
-std::int32_t TestAutoNotify::getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
+std::int32_t TestAutoNotify::find(std::int16_t kind, std::int32_t itemID, std::uint8_t channel) const
 {
     const auto found = std::ranges::find_if(notifications, [&](const Notification& entry) {
         return entry.kind == kind && entry.itemID == itemID && entry.channel == channel;
@@ -83,92 +85,98 @@ std::int32_t TestAutoNotify::getNotificationID(std::int16_t kind, std::int32_t i
     return found == notifications.end() ? -1 : found->id;
 }
 
+std::int32_t TestAutoNotify::getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
+{
+    record("getNotificationID", kind, itemID, channel);
+    return find(kind, itemID, channel);
+}
+
 bool TestAutoNotify::notificationExists(std::int16_t kind, std::int32_t itemID, std::uint8_t channel)
 {
-    return getNotificationID(kind, itemID, channel) >= 0;
+    record("notificationExists", kind, itemID, channel);
+    return find(kind, itemID, channel) >= 0;
 }
 
 std::int32_t TestAutoNotify::create(const char* operation, std::uint8_t channel, std::int16_t kind, std::int32_t itemID,
-                                    Date date)
+                                    Date date, const Fixed& fixed)
 {
-    notifications.push_back({++lastID_, kind, itemID, channel, date});
-    calls.push_back(std::string(operation) + " " + std::to_string(kind) + " " + std::to_string(itemID) + " "
-                    + defaultDateText(date));
-    return lastID_;
+    notifications.push_back({nextID, kind, itemID, channel, date});
+    record(operation + (" " + std::to_string(kind) + " " + std::to_string(itemID) + " " + defaultDateText(date)),
+           fixed.first, fixed.second, fixed.third);
+    return nextID++;
 }
 
-std::int32_t TestAutoNotify::createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                     std::int32_t, std::int32_t)
+std::int32_t TestAutoNotify::createEmailNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                     std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3)
 {
-    return create("createEmailNotification", email, kind, itemID, date);
+    return create("createEmailNotification", email, kind, itemID, date, {fixed1, fixed2, fixed3});
 }
 
-std::int32_t TestAutoNotify::createFaxNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                   std::int32_t, std::int32_t)
+std::int32_t TestAutoNotify::createFaxNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                   std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3)
 {
-    return create("createFaxNotification", fax, kind, itemID, date);
+    return create("createFaxNotification", fax, kind, itemID, date, {fixed1, fixed2, fixed3});
 }
 
-std::int32_t TestAutoNotify::createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                     std::int32_t, std::int32_t)
+std::int32_t TestAutoNotify::createPhoneNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                     std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3)
 {
-    return create("createPhoneNotification", phone, kind, itemID, date);
+    return create("createPhoneNotification", phone, kind, itemID, date, {fixed1, fixed2, fixed3});
 }
 
-std::int32_t TestAutoNotify::createLetterNotification(std::int16_t kind, std::int32_t itemID, Date date, std::int32_t,
-                                                      std::int32_t, std::int32_t)
+std::int32_t TestAutoNotify::createLetterNotification(std::int16_t kind, std::int32_t itemID, Date date,
+                                                      std::int32_t fixed1, std::int32_t fixed2, std::int32_t fixed3)
 {
-    return create("createLetterNotification", letter, kind, itemID, date);
+    return create("createLetterNotification", letter, kind, itemID, date, {fixed1, fixed2, fixed3});
 }
 
 void TestAutoNotify::linkNotification(std::int16_t kind, std::int32_t notificationID, std::int32_t itemID)
 {
-    calls.push_back("linkNotification " + std::to_string(kind) + " " + std::to_string(notificationID) + " "
-                    + std::to_string(itemID));
+    record("linkNotification", kind, notificationID, itemID);
 }
 
-void TestAutoNotify::moveTo(const char* operation, std::int16_t kind, std::int16_t itemCode, std::int32_t id, Date date)
+void TestAutoNotify::moveTo(const char* operation, std::int16_t kind, std::int16_t itemCode, std::int32_t id, Date date,
+                            std::int32_t flag)
 {
     for (Notification& entry : notifications)
         if (entry.id == id)
             entry.date = date;
-    calls.push_back(std::string(operation) + " " + std::to_string(kind) + " " + std::to_string(itemCode) + " "
-                    + std::to_string(id) + " " + defaultDateText(date));
+    record(operation
+               + (" " + std::to_string(kind) + " " + std::to_string(itemCode) + " " + std::to_string(id) + " "
+                  + defaultDateText(date)),
+           flag);
 }
 
 void TestAutoNotify::setEmailNotificationDate(std::int16_t kind, std::int16_t itemCode, std::int32_t notificationID,
-                                              Date date, std::int32_t)
+                                              Date date, std::int32_t flag)
 {
-    moveTo("setEmailNotificationDate", kind, itemCode, notificationID, date);
+    moveTo("setEmailNotificationDate", kind, itemCode, notificationID, date, flag);
 }
 
 void TestAutoNotify::setFaxNotificationDate(std::int16_t kind, std::int16_t itemCode, std::int32_t notificationID,
-                                            Date date, std::int32_t)
+                                            Date date, std::int32_t flag)
 {
-    moveTo("setFaxNotificationDate", kind, itemCode, notificationID, date);
+    moveTo("setFaxNotificationDate", kind, itemCode, notificationID, date, flag);
 }
 
 void TestAutoNotify::setPhoneNotificationDate(std::int16_t kind, std::int16_t itemCode, std::int32_t notificationID,
-                                              Date date, std::int32_t)
+                                              Date date, std::int32_t flag)
 {
-    moveTo("setPhoneNotificationDate", kind, itemCode, notificationID, date);
+    moveTo("setPhoneNotificationDate", kind, itemCode, notificationID, date, flag);
 }
 
 void TestAutoNotify::setLetterNotificationDate(std::int16_t kind, std::int16_t itemCode, std::int32_t notificationID,
-                                               Date date, std::int32_t)
+                                               Date date, std::int32_t flag)
 {
-    moveTo("setLetterNotificationDate", kind, itemCode, notificationID, date);
+    moveTo("setLetterNotificationDate", kind, itemCode, notificationID, date, flag);
 }
 
-void TestAutoNotify::refreshNotification(std::int16_t kind)
-{
-    calls.push_back("refreshNotification " + std::to_string(kind));
-}
+void TestAutoNotify::refreshNotification(std::int16_t kind) { record("refreshNotification", kind); }
 
 void TestAutoNotify::deleteNotification(std::int32_t notificationID)
 {
     std::erase_if(notifications, [&](const Notification& entry) { return entry.id == notificationID; });
-    calls.push_back("deleteNotification " + std::to_string(notificationID));
+    record("deleteNotification", notificationID);
 }
 
 } // namespace qncal::test

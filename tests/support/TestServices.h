@@ -85,7 +85,7 @@ public:
     Variant getClientListField(ClientKind kind, std::int32_t id, std::string_view fieldName) override;
 };
 
-/// Keeps the notifications that it was asked for, and writes down every call that changes something.
+/// Keeps the notifications that it was asked for, and writes down every call.
 class TestAutoNotify : public AutoNotifyService {
 public:
     struct Notification {
@@ -96,8 +96,10 @@ public:
         Date date;
     };
     std::vector<Notification> notifications;
-    /// "createEmailNotification 0 17 2026-03-30" and the like, in order.
+    /// Each call with all its arguments, in order: "createEmailNotification 0 17 2026-03-30 -1 -1 -1".
     std::vector<std::string> calls;
+    /// The id of the next notification.
+    std::int32_t nextID = 1;
 
     bool notificationExists(std::int16_t kind, std::int32_t itemID, std::uint8_t channel) override;
     std::int32_t getNotificationID(std::int16_t kind, std::int32_t itemID, std::uint8_t channel) override;
@@ -122,10 +124,22 @@ public:
     void deleteNotification(std::int32_t notificationID) override;
 
 private:
-    std::int32_t create(const char* operation, std::uint8_t channel, std::int16_t kind, std::int32_t itemID, Date date);
-    void moveTo(const char* operation, std::int16_t kind, std::int16_t itemCode, std::int32_t id, Date date);
-
-    std::int32_t lastID_ = 0;
+    struct Fixed {
+        std::int32_t first;
+        std::int32_t second;
+        std::int32_t third;
+    };
+    std::int32_t create(const char* operation, std::uint8_t channel, std::int16_t kind, std::int32_t itemID, Date date,
+                        const Fixed& fixed);
+    void moveTo(const char* operation, std::int16_t kind, std::int16_t itemCode, std::int32_t id, Date date,
+                std::int32_t flag);
+    std::int32_t find(std::int16_t kind, std::int32_t itemID, std::uint8_t channel) const;
+    template <class... Numbers>
+    void record(std::string call, Numbers... numbers)
+    {
+        ((call += ' ', call += std::to_string(numbers)), ...);
+        calls.push_back(std::move(call));
+    }
 };
 
 } // namespace qncal::test

@@ -2,11 +2,13 @@
 
 usage: smtpServer.py MODE FOLDER [CERTIFICATE KEY]
 
-Prints its port, then serves until it is ended. A well-behaved server (good, auth, startTls) keeps each message as
-FOLDER/1.eml, 2.eml and so on; startTls takes no message before the connection is encrypted.
+Prints its port, then serves until it is ended. A well-behaved server (good, auth, startTls, tls) keeps each message as
+FOLDER/1.eml, 2.eml and so on; startTls takes no message before the connection is encrypted, tls is from the first byte.
+A bad one writes the commands that it gets into FOLDER/commands.
 """
 
 import asyncio
+import base64
 import socket
 import ssl
 import sys
@@ -28,44 +30,82 @@ class Keeper:
 
 
 def known(server, session, envelope, mechanism, data):
-    return AuthResult(success=data.login == b"firm" and data.password == b"secret")
+    # What is not "handled" here the server answers itself.
+    return AuthResult(success=data.login == b"firm" and data.password == b"secret", handled=False)
+
+
+def ownCertificate():
+    context = ssl.create_default_context(ssl.Purpose.CLIENT_AUTH)
+    context.load_cert_chain(*sys.argv[3:5])
+    return context
 
 
 def options():
-    if mode == "auth":
-        return {"authenticator": known, "auth_required": True, "auth_require_tls": False}
+    signIn = {"authenticator": known, "auth_required": True}
+    if mode in ("auth", "tls"):
+        return {**signIn, "auth_require_tls": False}
     if mode == "startTls":
-        context = ssl.create_default_context(ssl.Purpose.CLIENT_AUTH)
-        context.load_cert_chain(*sys.argv[3:5])
-        return {"tls_context": context, "require_starttls": True}
+        return {**signIn, "tls_context": ownCertificate(), "require_starttls": True}
     return {}
 
 
 async def serve():
     loop = asyncio.get_running_loop()
-    server = await loop.create_server(lambda: SMTP(Keeper(), **options()), "127.0.0.1", 0)
+    encryption = ownCertificate() if mode == "tls" else None
+    server = await loop.create_server(lambda: SMTP(Keeper(), **options()), "127.0.0.1", 0, ssl=encryption)
     print(server.sockets[0].getsockname()[1], flush=True)
     await server.serve_forever()
 
 
 def converse(connection):
-    if mode == "hang":
-        return connection.recv(1)
-    if mode == "garbage":
-        connection.sendall(b"\x00\xff what is this\r\n" * 20)
-        return connection.recv(1)
-    lines = connection.makefile("rb")
+    """Misbehaves at the point that the mode names, and is well behaved up to there."""
 
     def say(text):
         connection.sendall(text.encode() + b"\r\n")
 
+    def talkGarbage():
+        connection.sendall(b"\x00\xff what is this\r\n" * 20)
+
+    def waitUntilTheOtherEnds():
+        while connection.recv(4096):
+            pass
+
+    if mode == "hang":
+        return waitUntilTheOtherEnds()
+    if mode == "close":
+        return
+    if mode == "garbage":
+        talkGarbage()
+        return waitUntilTheOtherEnds()
+    if mode == "refuse":
+        say("554 5.3.2 no mail here")
+        return waitUntilTheOtherEnds()
+    lines = connection.makefile("rb")
     say("220 test")
     while line := lines.readline():
+        with open(f"{folder}/commands", "ab") as commands:
+            commands.write(line)
         command = line[:4].upper()
-        if command == b"RCPT" and mode == "refuseRecipient":
+        if command == b"EHLO" and mode == "tellPassword":
+            say("250-test")
+            say("250 AUTH PLAIN")
+        elif command == b"AUTH" and mode == "tellPassword":
+            say("334 ")
+            secret = lines.readline().strip()
+            say(f"535 5.7.8 no good: {secret.decode()}{base64.b64decode(secret).decode()}".replace("\0", " "))
+        elif command == b"RCPT" and mode == "refuseRecipient":
             say("550 5.1.1 nobody of that name")
         elif command == b"RCPT" and mode == "busy":
             say("451 4.7.1 come back later")
+        elif command == b"RCPT" and mode == "hangAtRecipient":
+            return waitUntilTheOtherEnds()
+        elif command == b"RCPT" and mode == "garbageAtRecipient":
+            talkGarbage()
+            return waitUntilTheOtherEnds()
+        elif command == b"DATA" and mode == "closeBeforeMessage":
+            return
+        elif command == b"DATA" and mode == "refuseData":
+            say("452 4.3.1 no room")
         elif command == b"DATA":
             say("354 go on")
             if mode == "closeInMessage":
@@ -76,13 +116,20 @@ def converse(connection):
             if mode == "closeAfterMessage":
                 return
             if mode == "silentAfterMessage":
-                connection.recv(1)
-                return
-            say("554 5.7.1 not this one" if mode == "refuseMessage" else "250 kept")
+                return waitUntilTheOtherEnds()
+            if mode == "garbageAfterMessage":
+                talkGarbage()
+                return waitUntilTheOtherEnds()
+            say(answersToMessage.get(mode, "250 kept"))
+        elif command == b"QUIT" and mode == "hangAtFarewell":
+            return waitUntilTheOtherEnds()
         elif command == b"QUIT":
             return say("221 bye")
         else:
             say("250 test")
+
+
+answersToMessage = {"refuseMessage": "554 5.7.1 not this one", "postponeMessage": "451 4.3.0 try again"}
 
 
 def serveBadly():
@@ -97,7 +144,7 @@ def serveBadly():
                 pass
 
 
-if mode in ("good", "auth", "startTls"):
+if mode in ("good", "auth", "startTls", "tls"):
     asyncio.run(serve())
 else:
     serveBadly()

@@ -8,19 +8,33 @@
 #include <QListWidget>
 #include <QTreeWidget>
 
+#include <algorithm>
+
 namespace qncal::host {
 
 namespace {
 
 constexpr int itemDataRole = Qt::UserRole;
 
+/// The model's row that a row of the widget shows, -1 when it has gone: the widget may be a turn of the event loop
+/// behind, so that the rows need not have the same places.
+template <class Row, class IsShown>
+std::int32_t modelRow(const std::vector<Row>& rows, int place, IsShown isShown)
+{
+    if (place >= 0 && place < std::ssize(rows) && isShown(rows[static_cast<std::size_t>(place)]))
+        return place;
+    const auto found = std::find_if(rows.begin(), rows.end(), isShown);
+    return found == rows.end() ? -1 : static_cast<std::int32_t>(found - rows.begin());
+}
+
 class ListBoxBinding : public BindingOf<ListBox, QListWidget> {
 public:
     ListBoxBinding(ListBox& control, QListWidget& widget) : BindingOf(control, widget)
     {
         watch(*widget.viewport());
-        connect(&widget, &QListWidget::currentRowChanged, this,
-                [this](int row) { fromUser([=, this] { model().listIndex(row); }); });
+        connect(&widget, &QListWidget::currentItemChanged, this, [this](const QListWidgetItem* item) {
+            fromUser([=, this] { model().listIndex(item ? rowOf(*item) : -1); });
+        });
         start(When::nextTurn);
     }
 
@@ -47,6 +61,14 @@ protected:
         if (model().DblClick)
             model().DblClick();
     }
+
+private:
+    std::int32_t rowOf(const QListWidgetItem& item) const
+    {
+        return modelRow(model().rows(), view().row(&item), [&](const ListRow& row) {
+            return row.itemData == item.data(itemDataRole).toInt() && toQt(row.text) == item.text();
+        });
+    }
 };
 
 class ListViewBinding : public BindingOf<ListView, QTreeWidget> {
@@ -62,12 +84,12 @@ public:
         connect(&header, &QHeaderView::sectionClicked, this,
                 [this](int column) { fromUser([=, this] { model().clickColumn(column); }); });
         connect(&widget, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-            fromUser([=, this] { model().selectedRow(view().indexOfTopLevelItem(item)); });
+            fromUser([=, this] { model().selectedRow(item ? rowOf(*item) : -1); });
         });
         connect(&widget, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* item, int column) {
             fromUser([=, this] {
                 if (column == 0 && model().hasCheckBoxes())
-                    model().checked(view().indexOfTopLevelItem(item), item->checkState(0) == Qt::Checked);
+                    model().checked(rowOf(*item), item->checkState(0) == Qt::Checked);
             });
         });
         // A double click on the heading sorts twice; only one on a row is a DblClick.
@@ -98,6 +120,14 @@ protected:
     }
 
 private:
+    std::int32_t rowOf(QTreeWidgetItem& item) const
+    {
+        return modelRow(model().rows(), view().indexOfTopLevelItem(&item), [&](const ListView::Row& row) {
+            return row.itemData == item.data(0, itemDataRole).toInt()
+                   && (row.cells.empty() ? QString() : toQt(row.cells.front())) == item.text(0);
+        });
+    }
+
     void showColumns()
     {
         QTreeWidget& tree = view();

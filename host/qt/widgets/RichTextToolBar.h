@@ -1,25 +1,35 @@
 #pragma once
 
+#include "qt/widgets/RichTextActions.h"
+
 #include <QToolBar>
 
 class QComboBox;
+class QTextEdit;
 
 namespace qncal::host {
 
 class RichTextEdit;
 
-/// The formats of a rich text: bold, italic, underlined, colour, bullets and the size of the font. Shown only while
-/// the text can be edited.
+/// The formats of a rich text: font and size, styles, colour, alignment, bullets and indents. Shown only while the
+/// text can be edited. The Tab key passes it by, since every button has a key of its own; Ctrl+Shift+F goes to the
+/// fonts and Ctrl+Shift+P to the sizes.
 class RichTextToolBar : public QToolBar {
+    Q_OBJECT
+
 public:
     explicit RichTextToolBar(RichTextEdit& edit, QWidget* parent = nullptr);
 
 private:
-    void addSizes();
-    void showSize();
+    void addButton(RichTextActions::Format format, const QString& face);
+    void addButton(RichTextActions::Format format, const QIcon& icon);
+    QToolButton* buttonOf(QAction* action);
+    QComboBox* addList(const QString& name, const QString& title, const QKeySequence& keys);
+    void showFont();
 
     RichTextEdit* edit_;
-    QComboBox* sizes_ = nullptr;
+    QComboBox* fonts_;
+    QComboBox* sizes_;
 };
 
 } // namespace qncal::host

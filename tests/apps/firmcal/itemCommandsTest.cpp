@@ -92,22 +92,6 @@ TEST_F(ItemCommandsTest, ChangesWhatDoesNotMarkTheItemDirty)
     EXPECT_EQ(item("1")["notifyType"], 5);
 }
 
-TEST_F(ItemCommandsTest, TheClientIsNotifiedTheDayBeforeTheNewDate)
-{
-    succeed({"item", "add", "Call", "--date", "2026-03-20", "--contact", "1", "--set", "notifyType=1"});
-    EXPECT_EQ(rows("SELECT AppointmentNum, NotificationType, NotificationDate FROM ClientNotification"),
-              "{\"AppointmentNum\":1,\"NotificationType\":1,\"NotificationDate\":\"2026-03-19\"}\n");
-}
-
-TEST_F(ItemCommandsTest, AReminderComesAndGoesWithItsItem)
-{
-    succeed({"item", "add", "Call", "--date", "2026-03-20", "--set", "Remind=yes", "--set", "reminderPeriod=1 Hr"});
-    EXPECT_EQ(rows("SELECT AppointmentIDNum, ReminderDate, ReminderTime FROM Reminders"),
-              "{\"AppointmentIDNum\":1,\"ReminderDate\":\"2026-03-20\",\"ReminderTime\":\"08:00:00\"}\n");
-    succeed({"item", "set", "1", "--set", "Remind=no"});
-    EXPECT_EQ(rows("SELECT * FROM Reminders"), "");
-}
-
 TEST_F(ItemCommandsTest, ListsTheFieldsWithWhatTheyTake)
 {
     const std::string fields = output({"item", "fields"});

@@ -78,7 +78,7 @@ TEST_F(NotifyCommandTest, SendsAndWritesOnceAndListsTheCalls)
     EXPECT_EQ(first[1]["state"], "to do");
     EXPECT_EQ(first[1]["channel"], "phone");
     EXPECT_EQ(first[2]["state"], "sent");
-    EXPECT_EQ(first[2]["start"], "2026-03-04T09:30");
+    EXPECT_EQ(first[2]["item"]["start"], "2026-03-04T09:30");
     EXPECT_TRUE(std::filesystem::exists(first[2]["to"].get<std::string>()));
 
     const auto second = nlohmann::ordered_json::parse(output(command));
@@ -91,11 +91,19 @@ TEST_F(NotifyCommandTest, SendsAndWritesOnceAndListsTheCalls)
 TEST_F(NotifyCommandTest, SettlesByHand)
 {
     EXPECT_EQ(output({"notify", "--done", "2", "3"}), "notification 2 is done\nnotification 3 is done\n");
-    EXPECT_EQ(output({"notify", "--again", "1"}), "notification 1 will be sent again\n");
+    EXPECT_EQ(output({"notify", "--again", "1"}), "notification 1 will be tried again\n");
     EXPECT_THAT(nlohmann::ordered_json::parse(output({"notify", "--json"})), SizeIs(1));
     const Outcome twice = run({"notify", "--done", "2"});
     EXPECT_EQ(twice.status, 1);
-    EXPECT_EQ(twice.err, "firmcal: no notification 2 is waiting\n");
+    EXPECT_EQ(twice.err, "firmcal: notification 2 was sent already\n");
+    EXPECT_EQ(run({"notify", "--again", "1", "99"}).err, "firmcal: there is no notification 99\n");
+    EXPECT_EQ(run({"notify", "--dry-run", "--done", "1"}).status, 2);
+}
+
+TEST_F(NotifyCommandTest, SettlesAllOrNothing)
+{
+    EXPECT_EQ(run({"notify", "--done", "2", "99"}).err, "firmcal: there is no notification 99\n");
+    EXPECT_EQ(sent(), noneSent);
 }
 
 TEST_F(NotifyCommandTest, FailsWhileSomethingFailed)
@@ -103,7 +111,7 @@ TEST_F(NotifyCommandTest, FailsWhileSomethingFailed)
     const SmtpServer server("busy", folder() / "mails");
     const Outcome outcome = run({"notify", "--once", "--smtp", settingsFor(server)});
     EXPECT_EQ(outcome.status, 1);
-    EXPECT_EQ(outcome.err, "firmcal: 1 failed and will be tried again\n");
+    EXPECT_EQ(outcome.err, "firmcal: 1 failed and will be tried again; --again ID does so at once\n");
     EXPECT_THAT(outcome.out, HasSubstr("451"));
     const Outcome soon = run({"notify", "--once", "--smtp", settingsFor(server)});
     EXPECT_EQ(soon.status, 0) << "it waits for its next attempt";
@@ -139,17 +147,39 @@ TEST_F(NotifyCommandTest, SaysWhatIsWrongWithTheSettings)
         return text;
     };
     EXPECT_EQ(errorOf("server\n"), "firmcal: FILE: line 1: a line is 'name = value'\n");
-    EXPECT_EQ(errorOf("server = 127.0.0.1\n"), "firmcal: no sender's address is set\n");
+    EXPECT_EQ(errorOf("server = 127.0.0.1\n"), "firmcal: the mail settings: no sender's address is set (from)\n");
+    EXPECT_EQ(errorOf("# nothing\n"), "firmcal: the mail settings: no mail server is set (server)\n");
     EXPECT_EQ(run({"notify", "--smtp", "/none"}).err, "firmcal: the mail settings /none cannot be read\n");
+    EXPECT_EQ(run({"notify", "--smtp", "/"}).err, "firmcal: the mail settings / cannot be read\n");
     EXPECT_EQ(run({"notify", "--once", "--dry-run"}).status, 2);
 }
 
 TEST_F(NotifyCommandTest, LeavesADatabaseAloneThatAnotherDelivers)
 {
-    const host::DeliveryLock lock(database() + "-notify");
+    const auto lock = host::DeliveryLock::ofDatabase(database());
     ASSERT_TRUE(lock.isHeld());
     EXPECT_EQ(run({"notify", "--once"}).err, "firmcal: another 'firmcal notify --once' is at work on this database\n");
     EXPECT_EQ(run({"notify"}).status, 0);
+    EXPECT_EQ(sent(), noneSent);
+}
+
+TEST_F(NotifyCommandTest, SaysWhenTheLockCannotBeHad)
+{
+    std::filesystem::create_directory(database() + "-notify");
+    EXPECT_THAT(run({"notify", "--once"}).err, HasSubstr("the lock of the notifications cannot be had: "));
+    EXPECT_EQ(sent(), noneSent);
+}
+
+TEST_F(NotifyCommandTest, AnItemThatIsGoneIsNullInJson)
+{
+    {
+        const auto store = host::SqliteDatabase::open(database());
+        host::Rows::change(*store, "SELECT Appointments.* FROM Appointments;").deleteCurrent();
+    }
+    const auto json = nlohmann::ordered_json::parse(output({"notify", "--json"}));
+    ASSERT_THAT(json, SizeIs(3));
+    EXPECT_TRUE(json[0]["item"].is_null());
+    EXPECT_EQ(json[0]["reason"], "the item is gone");
 }
 
 } // namespace

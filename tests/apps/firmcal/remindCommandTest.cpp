@@ -3,6 +3,7 @@
 #include "services/Rows.h"
 #include "store/SqliteDatabase.h"
 
+#include <gmock/gmock.h>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -65,6 +66,19 @@ TEST_F(RemindCommandTest, FollowsUntilItsLastSweep)
     EXPECT_EQ(output({"remind", "--follow", "--sweeps", "1"}), "");
 }
 
+TEST_F(RemindCommandTest, FollowsOnWhenTheDatabaseIsLockedForLong)
+{
+    const auto other = host::SqliteDatabase::open(database());
+    auto locking = host::Rows::change(*other, "SELECT * FROM AccountantEmployeeInfo WHERE ContactID=1;");
+    locking.set("DisplayName", "Maya S.");
+    const Outcome outcome = run({"remind", "--follow", "--sweeps", "1", "--user", "leo roy"});
+    EXPECT_EQ(outcome.status, 0);
+    EXPECT_THAT(outcome.err, testing::MatchesRegex("firmcal: .*locked.*; looking again\n"));
+    locking.close();
+    other->close();
+    EXPECT_EQ(output({"remind", "--user", "leo roy"}), outcome.out) << "what could not be marked comes again";
+}
+
 TEST_F(RemindCommandTest, FollowsWithAJsonLineForEach)
 {
     const std::string lines = output({"remind", "--follow", "--sweeps", "1", "--json"});
@@ -87,6 +101,8 @@ TEST_F(RemindCommandTest, SaysWhatIsWrong)
     const Outcome gone = run({"remind", "--snooze", "99"});
     EXPECT_EQ(gone.status, 1);
     EXPECT_EQ(gone.err, "firmcal: there is no reminder 99; it goes with its item\n");
+    EXPECT_EQ(run({"remind", "--snooze", "-1"}).status, 1);
+    EXPECT_EQ(run({"remind", "--dismiss", "0"}).err, "firmcal: there is no reminder 0; it goes with its item\n");
     EXPECT_EQ(run({"remind", "--minutes", "5"}).status, 2);
     EXPECT_EQ(run({"remind", "--once", "--follow"}).status, 2);
     EXPECT_EQ(run({"remind", "--snooze", "1", "--minutes", "0"}).status, 2);

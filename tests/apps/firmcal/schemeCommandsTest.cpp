@@ -74,5 +74,17 @@ TEST_F(SchemeCommandsTest, FindsASchemeByAnUnambiguousName)
               "firmcal: no colour scheme 'none'; 'firmcal scheme list' shows them\n");
 }
 
+TEST_F(SchemeCommandsTest, ASchemeDeletedInUseLeavesItsItemsAsTheyAre)
+{
+    succeed(
+        {"item", "add", "Filing", "--kind", "task", "--date", "today", "--start", "9:30", "--set", "ColourSchemeID=1"});
+    const std::string before = rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;");
+    succeed({"scheme", "delete", "Urgent", "--kind", "task", "--yes"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    succeed({"item", "set", "1", "--kind", "task", "--subject", "Filing of papers"});
+    EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
+    EXPECT_EQ(before, "{\"SchemeID\":1,\"TitleBackColour\":204,\"ForeColour\":197121}\n");
+}
+
 } // namespace
 } // namespace qncal::firmcal::test

@@ -67,44 +67,30 @@ TEST_F(clsCalendarSetCtrlTest, AViewOutsideOfTheThreeOpensNothing)
         control.openChangeApptStatusFieldsForm(static_cast<enumFormDayTimerType>(view));
     }
     EXPECT_TRUE(dialogs->shownForms().empty());
+    for (const std::string& label : errors->labels())
+        EXPECT_TRUE(label.starts_with("qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-")) << label;
 }
 
-TEST_F(clsCalendarSetCtrlTest, OpensTheDuplicatesWindowOnceAndBringsItToTheFrontAgain)
+TEST_F(clsCalendarSetCtrlTest, TerminateEmptiesItsThreeSlotsAlone)
 {
-    dialogs->whenAnyShown([](host::Hand&) {});
-    control.openDuplicateAppointmentsForm();
-    auto& entry = clientDropDown->formRegistry->entries.at(29);
-    const auto form = entry.form();
-    ASSERT_NE(form, nullptr);
-    EXPECT_EQ(entry.key(), 29);
-
-    control.openDuplicateAppointmentsForm();
-    EXPECT_EQ(entry.form(), form);
-    EXPECT_EQ(clientDropDown->formRegistry->entries.size(), 1u);
-    EXPECT_EQ(entry.initialized, 1);
-    EXPECT_EQ(entry.shownModeless, 2);
-    EXPECT_EQ(entry.shownModal, 0);
-    EXPECT_EQ(entry.broughtToFront, 2);
-    EXPECT_EQ(openerLabel(), "qnCalendarSettingsCtrl.dll-clsCalendarSetCtrl-openDuplicateAppointmentsForm");
+    const ServiceRegistry before = serviceRegistry();
+    control.Terminate();
+    EXPECT_EQ(openerLabel(), "Vestrel.exe-clsCalendarSetCtrl-Terminate");
+    EXPECT_EQ(serviceRegistry().file, nullptr);
+    EXPECT_EQ(serviceRegistry().utility, nullptr);
+    EXPECT_EQ(serviceRegistry().dateTime, nullptr);
+    EXPECT_EQ(serviceRegistry().errorControl, before.errorControl);
+    EXPECT_EQ(serviceRegistry().database, before.database);
+    EXPECT_EQ(serviceRegistry().clientDropDown, before.clientDropDown);
 }
 
-TEST_F(clsCalendarSetCtrlTest, WithoutAClientServiceTheDuplicatesWindowIsReportedAndNotOpened)
+TEST_F(clsCalendarSetCtrlTest, TerminateWorksWithoutAnErrorControl)
 {
-    serviceRegistry().clientDropDown.reset();
-    control.openDuplicateAppointmentsForm();
-    const auto reported = errors->takeErrors();
-    ASSERT_EQ(reported.size(), 1u);
-    EXPECT_EQ(reported[0].number, 91);
-    EXPECT_TRUE(dialogs->shownForms().empty());
-}
-
-TEST_F(clsCalendarSetCtrlTest, AFormRegistryThatIsMissingIsReported)
-{
-    clientDropDown->formRegistry.reset();
-    control.openDuplicateAppointmentsForm();
-    const auto reported = errors->takeErrors();
-    ASSERT_EQ(reported.size(), 1u);
-    EXPECT_EQ(reported[0].number, 91);
+    serviceRegistry().errorControl.reset();
+    control.Terminate();
+    EXPECT_EQ(serviceRegistry().file, nullptr);
+    EXPECT_EQ(serviceRegistry().utility, nullptr);
+    EXPECT_EQ(serviceRegistry().dateTime, nullptr);
 }
 
 TEST_F(clsCalendarSetCtrlTest, RaisesExitProgramToItsSubscribers)
@@ -113,15 +99,6 @@ TEST_F(clsCalendarSetCtrlTest, RaisesExitProgramToItsSubscribers)
     control.ExitProgram.subscribe([&] { ++raised; });
     control.raiseExitProgram();
     EXPECT_EQ(raised, 1);
-}
-
-TEST_F(clsCalendarSetCtrlTest, AKeyThatAFailureLeftWithoutAFormGetsOne)
-{
-    clientDropDown->formRegistry->addKey(29);
-    dialogs->whenAnyShown([](host::Hand&) {});
-    control.openDuplicateAppointmentsForm();
-    EXPECT_NE(clientDropDown->formRegistry->entries.at(29).form(), nullptr);
-    EXPECT_EQ(clientDropDown->formRegistry->entries.at(29).initialized, 1);
 }
 
 } // namespace

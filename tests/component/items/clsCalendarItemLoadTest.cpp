@@ -1,5 +1,7 @@
 #include "component/items/StoredItemTest.h"
+#include "controls/mousePointer.h"
 #include "core/RecordSet.h"
+#include "support/FaultInjector.h"
 
 namespace qncal {
 namespace {
@@ -229,6 +231,83 @@ TEST_F(clsCalendarItemLoadTest, ALoadResetsTheArchiveStatusAndSoReadsTheLivingTa
     EXPECT_EQ(item.CalendarItemArchiveStatus(), CalendarItemArchiveStatus_Normal);
 }
 
+/// Loads while the reset that a load begins with cannot push its label: the item keeps its archive status.
+bool loadWithoutReset(clsCalendarItem& item, std::int32_t tempRST = -1)
+{
+    test::FaultInjector faults;
+    faults.failCall(2);
+    const bool loaded = item.loadCalendarItem(tempRST);
+    EXPECT_EQ(faults.failedOperation(), "enterRoutine");
+    return loaded;
+}
+
+TEST_F(clsCalendarItemLoadTest, AnArchivedTaskThatCouldNotBeResetIsReadFromTheArchive)
+{
+    addRow("archiveTasks", {{"oldTaskID", "77"}, {"Subject", "archived"}, {"SeriesNum", "4"}});
+    useKind(enumLocalCalendarTaskItem);
+    item.itemID(77);
+    item.CalendarItemArchiveStatus(CalendarItemArchiveStatus_Archived);
+    ASSERT_TRUE(loadWithoutReset(item));
+    EXPECT_EQ(errorsSeen(), 1u);
+    EXPECT_EQ(recording->opened, (std::vector<std::pair<std::string, std::int32_t>>{
+                                     {"SELECT archiveTasks.* FROM archiveTasks WHERE oldTaskID=77;", 1}}));
+    EXPECT_EQ(item.itemID(), 77);
+    EXPECT_EQ(item.Subject(), "archived");
+    EXPECT_EQ(item.SeriesNum(), 4);
+    EXPECT_EQ(item.CalendarItemArchiveStatus(), CalendarItemArchiveStatus_Archived);
+    EXPECT_TRUE(item.IsSaved());
+    EXPECT_FALSE(item.IsDirty());
+    EXPECT_TRUE(recording->open.empty());
+}
+
+TEST_F(clsCalendarItemLoadTest, AnArchivedTaskThatTheArchiveLacksIsNotSoughtAmongTheLiving)
+{
+    const std::int32_t id = addRow("Tasks", {{"Subject", "living"}});
+    useKind(enumLocalCalendarTaskItem);
+    item.itemID(id);
+    item.CalendarItemArchiveStatus(CalendarItemArchiveStatus_Archived);
+    EXPECT_FALSE(loadWithoutReset(item));
+    EXPECT_EQ(errorsSeen(), 1u);
+    EXPECT_EQ(recording->openedSql(),
+              std::vector<std::string>{"SELECT archiveTasks.* FROM archiveTasks WHERE oldTaskID=" + std::to_string(id)
+                                       + ";"});
+    EXPECT_EQ(item.CalendarItemArchiveStatus(), CalendarItemArchiveStatus_Archived);
+    EXPECT_FALSE(item.IsSaved());
+    EXPECT_TRUE(recording->open.empty());
+}
+
+TEST_F(clsCalendarItemLoadTest, AnArchivedTaskInACallersSetIsTakenFromThere)
+{
+    const std::int32_t id = addRow("Tasks", {{"Subject", "living"}});
+    useKind(enumLocalCalendarTaskItem);
+    item.itemID(id);
+    item.CalendarItemArchiveStatus(CalendarItemArchiveStatus_Archived);
+    auto rst = RecordSet::openReadOnly("SELECT Tasks.* FROM Tasks;");
+    startRecording();
+    EXPECT_TRUE(loadWithoutReset(item, rst.handle()));
+    EXPECT_EQ(errorsSeen(), 1u);
+    EXPECT_EQ(item.Subject(), "living");
+    EXPECT_EQ(item.CalendarItemArchiveStatus(), CalendarItemArchiveStatus_Archived);
+    EXPECT_TRUE(recording->opened.empty());
+    rst.close();
+}
+
+TEST_F(clsCalendarItemLoadTest, OnlyTasksAreReadFromAnArchive)
+{
+    for (const auto& [kind, table, key] : {test::kindRows[0], test::kindRows[2]}) {
+        const std::int32_t id = addRow(table, {{"Subject", "living"}});
+        useKind(kind);
+        item.itemID(id);
+        item.CalendarItemArchiveStatus(CalendarItemArchiveStatus_Archived);
+        EXPECT_TRUE(loadWithoutReset(item)) << table;
+        EXPECT_EQ(errorsSeen(), 1u);
+        EXPECT_EQ(recording->openedSql(),
+                  std::vector<std::string>{"SELECT " + table + ".* FROM " + table + " WHERE " + table + "." + key + "="
+                                           + std::to_string(id) + ";"});
+        EXPECT_EQ(item.CalendarItemArchiveStatus(), CalendarItemArchiveStatus_Normal) << table;
+    }
+}
+
 TEST_F(clsCalendarItemLoadTest, AFaultWhileLoadingGivesFalse)
 {
     item.itemID(addRow("Appointments", {{"Subject", "x"}}));
@@ -240,7 +319,30 @@ TEST_F(clsCalendarItemLoadTest, AFaultWhileLoadingGivesFalse)
     EXPECT_TRUE(recording->open.empty());
 }
 
-TEST_F(clsCalendarItemLoadTest, ThePointerIsTheHourglassWhileWorkingAndThenAsItWas)
+TEST_F(clsCalendarItemLoadTest, ThePointerIsTheHourglassWhileLoadingAndThenAsItWas)
+{
+    class PointerAtEachCall : public ForwardingDatabaseService {
+    public:
+        using ForwardingDatabaseService::ForwardingDatabaseService;
+        std::vector<std::pair<std::string, MousePointer>> pointers;
+
+    protected:
+        void beforeCall(std::string_view operation) override { pointers.emplace_back(operation, mousePointer()); }
+    };
+    item.itemID(addRow("Appointments", {{"Subject", "x"}}));
+    useKind(enumLocalCalendarAppointmentItem);
+    const auto watched = std::make_shared<PointerAtEachCall>(database);
+    serviceRegistry().database = watched;
+    dialogs->mousePointer(static_cast<MousePointer>(2));
+    ASSERT_TRUE(item.loadCalendarItem());
+    EXPECT_EQ(watched->pointers.front().first, "isConnected");
+    EXPECT_EQ(watched->pointers.back().first, "closeRecordset");
+    for (const auto& [operation, pointer] : watched->pointers)
+        EXPECT_EQ(pointer, MousePointer::hourglass) << operation;
+    EXPECT_EQ(dialogs->mousePointer(), static_cast<MousePointer>(2));
+}
+
+TEST_F(clsCalendarItemLoadTest, ThePointerIsTheHourglassWhileSavingAndThenAsItWas)
 {
     std::vector<MousePointer> whileSaving;
     item.refreshedTitleBarText.subscribe([&](std::string&) { whileSaving.push_back(dialogs->mousePointer()); });

@@ -91,6 +91,19 @@ TEST_F(clsCalendarItemLookupsTest, OtherKindsHaveNoArchive)
     EXPECT_EQ(clsCalendarItem().getScheduleIDFromTaskID(), -1);
 }
 
+TEST_F(clsCalendarItemLookupsTest, EveryLookupOpensToReadOnly)
+{
+    addRow("archiveTasks", {{"oldTaskID", "77"}, {"ScheduleIDNum", "40"}});
+    item.getTaskIDFromScheduleID(40);
+    item.getScheduleIDFromTaskID();
+    item.getColourSchemeNameFromColourSchemeID();
+    item.populateColourSchemeColours();
+    ASSERT_EQ(recording->opened.size(), 6u);
+    for (const auto& [sql, lock] : recording->opened)
+        EXPECT_EQ(lock, DatabaseService::readOnly) << sql;
+    EXPECT_TRUE(recording->open.empty());
+}
+
 TEST_F(clsCalendarItemLookupsTest, WithoutAConnectionNothingIsFound)
 {
     addRow("Tasks", {{"ScheduleIDNum", "40"}});

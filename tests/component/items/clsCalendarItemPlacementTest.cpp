@@ -1,6 +1,5 @@
 #include "items/clsCalendarItem.h"
 
-#include "controls/rangeControls.h"
 #include "core/forwarding/ForwardingDatabaseService.h"
 #include "support/ComponentTest.h"
 #include "support/rowName.h"
@@ -298,59 +297,6 @@ TEST_F(PlacementTest, AMoveToTheBestTimeTakesTheNewDay)
     item.TimeFrom(Date::timeOf(8));
     item.moveCalendarItemToNewDateAndBestTimeInCalendar(noDate);
     EXPECT_EQ(timeText(item.TimeFrom()), "08:00:00");
-}
-
-TEST_F(PlacementTest, ThePromptTakesTheTimeChosen)
-{
-    dialogs->whenShown("frmSelectStartTime", [](host::Hand& hand) {
-        EXPECT_EQ(hand.form().caption(), "Select Start Time");
-        hand.pickDate("dtpTime", Date::timeOf(14, 20));
-        hand.click("cmdOpts(0)");
-    });
-    EXPECT_TRUE(item.promptFormToChangeStartTime());
-    EXPECT_EQ(timeText(item.TimeFrom()), "14:20:00");
-
-    dialogs->whenShown("frmSelectStartTime", [](host::Hand& hand) {
-        EXPECT_EQ(hand.form().caption(), "Select End Time");
-        hand.pickDate("dtpTime", Date::timeOf(16));
-        hand.click("cmdOpts(0)");
-    });
-    EXPECT_TRUE(item.promptFormToChangeEndTime());
-    EXPECT_EQ(timeText(item.TimeTo()), "16:00:00");
-}
-
-TEST_F(PlacementTest, ThePromptBeginsWithTheItemsTimeAndSetsTheChosenOneAsAUserWould)
-{
-    item.TimeFrom(Date::timeOf(8, 5));
-    item.TimeTo(Date::timeOf(10, 35));
-    ASSERT_TRUE(item.saveCalendarItem());
-    const auto choose = [&](Date shown, Date chosen) {
-        dialogs->whenShown("frmSelectStartTime", [shown, chosen](host::Hand& hand) {
-            EXPECT_EQ(hand.as<DateTimePicker>("dtpTime").value(), shown);
-            hand.pickDate("dtpTime", chosen);
-            hand.click("cmdOpts(0)");
-        });
-    };
-    choose(Date::timeOf(8, 5), Date::timeOf(9, 5));
-    item.promptFormToChangeStartTime();
-    EXPECT_TRUE(item.IsDirty());
-    choose(Date::timeOf(10, 35), Date::timeOf(11, 5));
-    item.promptFormToChangeEndTime();
-    EXPECT_FLOAT_EQ(item.timeduration(), 2);
-}
-
-TEST_F(PlacementTest, ACancelledPromptChangesNothing)
-{
-    for (const auto& leave :
-         {+[](host::Hand& hand) { hand.click("cmdOpts(1)"); }, +[](host::Hand& hand) { hand.closeByBox(); },
-          +[](host::Hand& hand) { hand.pressEscape(); }}) {
-        dialogs->whenShown("frmSelectStartTime", [&](host::Hand& hand) {
-            hand.pickDate("dtpTime", Date::timeOf(14, 20));
-            leave(hand);
-        });
-        EXPECT_FALSE(item.promptFormToChangeStartTime());
-        EXPECT_EQ(timeText(item.TimeFrom()), "09:00:00");
-    }
 }
 
 } // namespace

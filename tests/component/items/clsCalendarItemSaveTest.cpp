@@ -3,6 +3,7 @@
 #include "utilities/RunTimeError.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qncal {
 namespace {
@@ -83,6 +84,21 @@ TEST_P(clsCalendarItemSaveKindTest, ANewItemAddsARowAndTakesItsId)
     EXPECT_EQ(openedOn(table),
               (std::vector<std::pair<std::string, std::int32_t>>{{"SELECT " + table + ".* FROM " + table + ";", 3}}));
     EXPECT_EQ(recording->written.front(), "Subject=New " + item.CalendarItemTypeClassRef()->TypeName());
+    EXPECT_TRUE(recording->open.empty());
+}
+
+TEST_P(clsCalendarItemSaveKindTest, ARowThatIsThereIsOpenedByItsKeyToBeWritten)
+{
+    const auto& [kind, table, key] = GetParam();
+    const std::int32_t id = addRow(table, {});
+    useKind(kind);
+    item.itemID(id);
+    ASSERT_TRUE(item.saveCalendarItem());
+    EXPECT_EQ(openedOn(table), (std::vector<std::pair<std::string, std::int32_t>>{
+                                   {"SELECT " + table + ".* FROM " + table + " WHERE " + table + "." + key + "="
+                                        + std::to_string(id) + ";",
+                                    3}}));
+    EXPECT_EQ(std::ranges::count(recording->operations, "update"), 0);
     EXPECT_TRUE(recording->open.empty());
 }
 
@@ -244,6 +260,49 @@ TEST_F(clsCalendarItemSaveTest, AFaultInTheMiddleOfASaveLeavesTheRowHalfWritten)
     EXPECT_EQ(errorsSeen(), 1u);
     EXPECT_EQ(cell("Appointments", id, "Subject"), "new");
     EXPECT_EQ(cell("Appointments", id, "Custom1"), "old");
+}
+
+/// A database in which a new record cannot be stored: `update` throws, or only says so.
+class RefusedUpdate : public ForwardingDatabaseService {
+public:
+    RefusedUpdate(std::shared_ptr<DatabaseService> target, bool throws)
+        : ForwardingDatabaseService(std::move(target)), throws_(throws)
+    {
+    }
+    bool update(std::int32_t) override
+    {
+        if (throws_)
+            throw RunTimeError(errorNumber::invalidProcedureCall, "no");
+        return false;
+    }
+
+private:
+    bool throws_;
+};
+
+TEST_F(clsCalendarItemSaveTest, ANewRowThatCannotBeStoredIsNotSavedAndCancelsNothing)
+{
+    useKind(enumLocalCalendarAppointmentItem);
+    item.Subject("new");
+    serviceRegistry().database = std::make_shared<RefusedUpdate>(recording, true);
+    EXPECT_FALSE(item.saveCalendarItem());
+    EXPECT_EQ(errorsSeen(), 1u);
+    EXPECT_TRUE(item.IsDirty());
+    EXPECT_TRUE(item.IsSaved()) << "it is marked before the row is stored";
+    EXPECT_EQ(rowCount("Appointments"), 0);
+    EXPECT_TRUE(openedOn("Reminders").empty());
+    EXPECT_TRUE(recording->open.empty());
+    EXPECT_EQ(dialogs->mousePointer(), MousePointer::hourglass);
+}
+
+TEST_F(clsCalendarItemSaveTest, WhatUpdateGivesDoesNotChangeTheResult)
+{
+    useKind(enumLocalCalendarTaskItem);
+    item.Subject("new");
+    serviceRegistry().database = std::make_shared<RefusedUpdate>(recording, false);
+    EXPECT_TRUE(item.saveCalendarItem());
+    EXPECT_FALSE(item.IsDirty());
+    EXPECT_EQ(rowCount("Tasks"), 0);
 }
 
 TEST_F(clsCalendarItemSaveTest, AlwaysAllowsTheSave) { EXPECT_TRUE(item.checkOKToSave()); }

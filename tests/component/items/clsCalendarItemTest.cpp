@@ -54,6 +54,13 @@ TEST_F(clsCalendarItemTest, TerminateDropsTheKindObjectAlone)
     EXPECT_EQ(reported[0].number, 91);
 }
 
+TEST_F(clsCalendarItemTest, TerminateWorksWithoutAnErrorControl)
+{
+    serviceRegistry().errorControl.reset();
+    item.Terminate();
+    EXPECT_EQ(item.CalendarItemTypeClassRef(), nullptr);
+}
+
 TEST_F(clsCalendarItemTest, OpensTheEditorWithTheItemAndGivesItsAnswer)
 {
     bool modal = false;

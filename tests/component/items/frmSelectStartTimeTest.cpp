@@ -2,6 +2,7 @@
 
 #include "support/ComponentTest.h"
 #include "support/rowName.h"
+#include "utilities/RunTimeError.h"
 
 #include <gtest/gtest.h>
 
@@ -44,14 +45,59 @@ protected:
 
 TEST_F(SelectStartTimeTest, TitlesFollowTheTimeType)
 {
-    for (const auto& [type, title] :
-         {std::pair<int, std::string>{1, "Select Start Time"}, {2, "Select End Time"}, {0, "Select End Time"}}) {
-        form.TimeType(static_cast<std::int16_t>(type));
-        show([&title = title](host::Hand& hand) {
-            EXPECT_EQ(hand.form().caption(), title);
-            EXPECT_EQ(hand.as<Label>("Label0").caption(), title);
+    const auto titles = [&] {
+        std::string shown;
+        show([&](host::Hand& hand) {
+            EXPECT_TRUE(hand.form().isModal());
+            shown = hand.form().caption() + ", " + hand.as<Label>("Label0").caption();
         });
-    }
+        return shown;
+    };
+    EXPECT_EQ(titles(), "Select End Time, Select End Time") << "a type that nobody has set";
+    form.TimeType(1);
+    EXPECT_EQ(titles(), "Select Start Time, Select Start Time");
+    form.TimeType(2);
+    EXPECT_EQ(titles(), "Select End Time, Select End Time");
+}
+
+TEST_F(SelectStartTimeTest, TheDateComesBackWithTheTime)
+{
+    const Date moment = Date::of(2026, 4, 2, 9, 44);
+    form.TimeSelected(moment);
+    show([&](host::Hand& hand) {
+        EXPECT_EQ(form.dtpTime.value(), moment);
+        EXPECT_EQ(form.cboField.text(), "9:30 AM");
+        hand.click("cmdOpts(0)");
+    });
+    EXPECT_EQ(form.TimeSelected(), moment);
+}
+
+TEST_F(SelectStartTimeTest, TheFieldIsNotTakenWhileItIsFilled)
+{
+    // As with a list that clicks by itself whenever its text changes.
+    form.cboField.Change = [&] { form.cboField_Click(); };
+    form.TimeSelected(Date::timeOf(9, 44));
+    show([&](host::Hand& hand) {
+        EXPECT_EQ(form.cboField.text(), "9:30 AM");
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(9, 44));
+        hand.pickDate("dtpTime", Date::timeOf(10, 50));
+        hand.tabAway();
+        EXPECT_EQ(form.cboField.text(), "10:45 AM");
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(10, 50));
+    });
+}
+
+TEST_F(SelectStartTimeTest, ATextThatIsNoTimeIsReportedAndNotTaken)
+{
+    form.TimeSelected(Date::timeOf(9));
+    show([&](host::Hand&) {
+        form.cboField.text("soon");
+        form.cboField_Click();
+        EXPECT_EQ(form.dtpTime.value(), Date::timeOf(9));
+    });
+    const auto reported = errors->takeErrors();
+    ASSERT_EQ(reported.size(), 1u);
+    EXPECT_EQ(reported[0].number, errorNumber::typeMismatch);
 }
 
 TEST_F(SelectStartTimeTest, AQuarterHourPickedGoesIntoThePicker)

@@ -1,6 +1,7 @@
 #include "core/clsCalendarItemType.h"
 #include "items/clsCalendarItem.h"
 #include "items/modDatabaseFunctions.h"
+#include "lookups/modDatabaseClientFunctions.h"
 #include "support/RoutineSweep.h"
 #include "support/rowName.h"
 
@@ -118,6 +119,39 @@ SweptRoutine onText(const char* name, std::function<std::string(clsCalendarItem&
     return routine;
 }
 
+/// A routine that needs no database.
+SweptRoutine withoutDatabase(SweptRoutine routine)
+{
+    routine.needsDatabase = false;
+    return routine;
+}
+
+/// An item's routine without a result; the item's subject and start tell what it did.
+SweptRoutine onMemory(const char* name, std::function<void(clsCalendarItem&)> call)
+{
+    return withoutDatabase({name, "Budget 09:00:00", [call](TestWorld&) -> Run {
+                                auto item = std::make_shared<clsCalendarItem>();
+                                item->Subject("Budget");
+                                item->TimeTo(Date::timeOf(8));
+                                return [item, call] {
+                                    call(*item);
+                                    return item->Subject() + " " + defaultDateText(item->TimeFrom());
+                                };
+                            }});
+}
+
+/// A routine that shows a dialog, which the script works on.
+SweptRoutine onDialog(const char* name, std::function<void(host::Hand&)> hand,
+                      std::function<std::string(clsCalendarItem&)> call)
+{
+    return withoutDatabase({name, "False", [hand, call](TestWorld& world) -> Run {
+                                world.dialogs->whenAnyShown(hand);
+                                auto item = std::make_shared<clsCalendarItem>();
+                                item->calendarItemType(enumLocalCalendarAppointmentItem);
+                                return [item, call] { return call(*item); };
+                            }});
+}
+
 constexpr auto appointment = enumLocalCalendarAppointmentItem;
 constexpr auto task = enumLocalCalendarTaskItem;
 
@@ -195,7 +229,6 @@ std::vector<SweptRoutine> routines()
                              [](std::int32_t) { return mod::getAppointmentRepeatUniqueID(appointment); }),
         onRows<std::int32_t>("FreeGroupNumber", 0, appointmentWithDependents,
                              [](std::int32_t) { return mod::getAppointmentGroupUniqueID(appointment); }),
-        onRows<std::int32_t>("ClientOfAppointment", -1, appointmentWithDependents, mod::getCompanyIDFromAppointmentID),
         onRows<std::int32_t>("ModuleTaskFromSchedule", -1, archivedTask,
                              [](std::int32_t) { return mod::getTaskIDFromScheduleID(41); }),
         onRows<bool>("IndependentScheduleEntry", false, taskOfSchedule,
@@ -234,21 +267,86 @@ std::vector<SweptRoutine> routines()
              };
          }},
     };
-    SweptRoutine validID{"ValidID", "False",
-                         [](TestWorld&) -> Run { return [] { return asText(mod::validTaskID("12")); }; }};
-    validID.needsDatabase = false;
-    all.push_back(validID);
-    SweptRoutine endTime{"EndTimeFromDuration", "10:00:00", [](TestWorld&) -> Run {
-                             auto item = std::make_shared<clsCalendarItem>();
-                             item->timeduration(3);
-                             return [item] {
-                                 item->determineEndTimeFromTimeDuration();
-                                 return defaultDateText(item->TimeTo());
-                             };
-                         }};
-    endTime.needsDatabase = false;
-    all.push_back(endTime);
+    all.push_back(withoutDatabase(
+        {"ValidID", "False", [](TestWorld&) -> Run { return [] { return asText(mod::validTaskID("12")); }; }}));
+    all.push_back(withoutDatabase({"EndTimeFromDuration", "10:00:00", [](TestWorld&) -> Run {
+                                       auto item = std::make_shared<clsCalendarItem>();
+                                       item->timeduration(3);
+                                       return [item] {
+                                           item->determineEndTimeFromTimeDuration();
+                                           return defaultDateText(item->TimeTo());
+                                       };
+                                   }}));
     return all;
+}
+
+/// Routines that look into the database for one answer.
+std::vector<SweptRoutine> lookups()
+{
+    struct ClientLookup {
+        const char* name;
+        std::int32_t (*lookUp)(std::int32_t id);
+        const char* table;
+        const char* column;
+    };
+    constexpr ClientLookup clients[] = {
+        {"CompanyOfTask", mod::getCompanyIDFromTaskID, "Tasks", "CompanyIDNum"},
+        {"ContactOfTask", mod::getContactIDFromTaskID, "Tasks", "ContactIDNum"},
+        {"CompanyOfAppointment", mod::getCompanyIDFromAppointmentID, "Appointments", "CompanyIDNum"},
+        {"ContactOfAppointment", mod::getContactIDFromAppointmentID, "Appointments", "ContactIDNum"},
+        {"CompanyOfMissingInfo", mod::getCompanyIDFromMissingInfoID, "MissingInfo", "CompanyIDNum"},
+        {"ContactOfMissingInfo", mod::getContactIDFromMissingInfoID, "MissingInfo", "ContactIDNum"},
+        {"CompanyOfLog", mod::getCompanyIDFromCommunicationLogID, "CommunicationLog", "CompanyIDNum"},
+        {"ContactOfLog", mod::getContactIDFromCommunicationLogID, "CommunicationLog", "ContactIDNum"},
+    };
+    std::vector<SweptRoutine> all;
+    for (const ClientLookup& lookup : clients)
+        all.push_back(onRows<std::int32_t>(
+            lookup.name, -1,
+            [=](TestWorld& world) {
+                return world.addRow(lookup.table, {{lookup.column, "31"}});
+            },
+            lookup.lookUp));
+    all.push_back(onRows<std::int32_t>(
+        "DefaultContactOfCompany", -1,
+        [](TestWorld& world) {
+            world.addRow("ContactLinks", {{"CompanyNum", "4"}, {"ContactIDNum", "3"}, {"DefaultContact", "True"}});
+            return 4;
+        },
+        modDatabaseClientFunctions::getDefaultContactIDFromCompanyID));
+    all.push_back(onRows<std::string>("DeleteClientNotifications", "", appointmentWithDependents, [](std::int32_t id) {
+        mod::deleteAppointmentClientNotifications(id, true);
+        return std::string();
+    }));
+    return all;
+}
+
+/// Routines that work on the item alone, or show a dialog.
+std::vector<SweptRoutine> routinesWithoutRows()
+{
+    const auto pickAfternoon = [](host::Hand& hand) {
+        hand.pickDate("dtpTime", Date::timeOf(14, 20));
+        hand.click("cmdOpts(0)");
+    };
+    return {
+        onMemory("ResetAllInformation", [](clsCalendarItem& item) { item.resetAllInformation(); }),
+        onMemory("AddNewItem", [](clsCalendarItem& item) { item.addNewItem(); }),
+        onMemory("OverlapModeUsers", [](clsCalendarItem& item) { item.getOverlapModeUsersList(); }),
+        onMemory("OrderOfStartAndEnd", [](clsCalendarItem& item) { item.verifyStartAndEndTime(); }),
+        onMemory("CheckOKToSave", [](clsCalendarItem& item) { item.checkOKToSave(); }),
+        onDialog("ChangeStartTime", pickAfternoon,
+                 [](clsCalendarItem& item) { return asText(item.promptFormToChangeStartTime()); }),
+        onDialog("ChangeEndTime", pickAfternoon,
+                 [](clsCalendarItem& item) { return asText(item.promptFormToChangeEndTime()); }),
+        onDialog(
+            "OpenTheEditor", [](host::Hand&) {}, [](clsCalendarItem& item) { return asText(item.openApptForm(true)); }),
+        onDialog(
+            "OpenTheCustomFields", [](host::Hand& hand) { hand.click("cmdOK"); },
+            [](clsCalendarItem& item) {
+                item.openApptCustomFieldsForm();
+                return asText(false);
+            }),
+    };
 }
 
 class itemsFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
@@ -258,6 +356,8 @@ TEST_P(itemsFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(
 TEST_P(itemsFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(Routines, itemsFaultSweepTest, testing::ValuesIn(routines()), test::rowName);
+INSTANTIATE_TEST_SUITE_P(Lookups, itemsFaultSweepTest, testing::ValuesIn(lookups()), test::rowName);
+INSTANTIATE_TEST_SUITE_P(WithoutRows, itemsFaultSweepTest, testing::ValuesIn(routinesWithoutRows()), test::rowName);
 
 } // namespace
 } // namespace qncal

@@ -172,6 +172,16 @@ TEST_P(TieTest, TheFreeNumberOfAnEmptyTableIsZero)
     EXPECT_TRUE(recording->open.empty());
 }
 
+TEST_P(TieTest, EveryQuestionOpensToReadOnly)
+{
+    GetParam().isTied(enumLocalCalendarDocketItem, 1);
+    GetParam().number(enumLocalCalendarDocketItem, 1);
+    GetParam().freeNumber(enumLocalCalendarDocketItem);
+    ASSERT_EQ(recording->opened.size(), 3u);
+    for (const auto& [sql, lock] : recording->opened)
+        EXPECT_EQ(lock, DatabaseService::readOnly) << sql;
+}
+
 TEST_P(TieTest, ZeroIsFreeWhenOnlyLaterOnesAreUsed)
 {
     useNumbers({4, 1, 2, 2});
@@ -251,6 +261,17 @@ TEST_F(modDatabaseFunctionsTest, FindsTheTaskOfAScheduleRow)
     EXPECT_EQ(mod::getTaskIDFromScheduleID(40), -1);
 }
 
+TEST_F(modDatabaseFunctionsTest, TheTaskOfAScheduleRowIsSoughtAmongTheLivingFirst)
+{
+    mod::getTaskIDFromScheduleID(41);
+    EXPECT_EQ(recording->opened, (std::vector<std::pair<std::string, std::int32_t>>{
+                                     {"SELECT Tasks.TaskID, Tasks.ScheduleIDNum FROM Tasks WHERE ScheduleIDNum=41;", 1},
+                                     {"SELECT archiveTasks.oldTaskID, archiveTasks.ScheduleIDNum FROM archiveTasks "
+                                      "WHERE ScheduleIDNum=41;",
+                                      1}}));
+    EXPECT_TRUE(recording->open.empty());
+}
+
 TEST_F(modDatabaseFunctionsTest, AnIndependentScheduleEntryHasItsTwoMarkers)
 {
     const std::tuple<const char*, const char*, bool> entries[] = {
@@ -260,8 +281,14 @@ TEST_F(modDatabaseFunctionsTest, AnIndependentScheduleEntryHasItsTwoMarkers)
         const std::int32_t task = addRow("Tasks", {{"ScheduleIDNum", std::to_string(schedule)}});
         EXPECT_EQ(mod::isThisTaskAssociatedWithIndependentScheduleEntry(task), independent) << total << " " << step;
     }
-    EXPECT_EQ(recording->openedSql()[1],
-              "SELECT Schedule.ScheduleID, Schedule.scheduleNum, Schedule.totalNum FROM Schedule WHERE ScheduleID=1;");
+    recording->opened.resize(2);
+    EXPECT_EQ(recording->opened,
+              (std::vector<std::pair<std::string, std::int32_t>>{
+                  {"SELECT Tasks.TaskID, Tasks.ScheduleIDNum FROM Tasks WHERE TaskID=1;", 1},
+                  {"SELECT Schedule.ScheduleID, Schedule.scheduleNum, Schedule.totalNum FROM Schedule "
+                   "WHERE ScheduleID=1;",
+                   1}}));
+    EXPECT_TRUE(recording->open.empty());
 }
 
 TEST_F(modDatabaseFunctionsTest, ATaskWithoutAScheduleRowIsNotIndependent)
@@ -302,6 +329,57 @@ TEST_F(modDatabaseFunctionsTest, DeletesAnAppointmentWithEverything)
     addRow("ClientNotification", {{"AppointmentNum", std::to_string(id)}, {"NotificationSent", "True"}});
     EXPECT_TRUE(mod::deleteAppointment(id, false));
     EXPECT_EQ(rowCount("Reminders") + rowCount("ClientNotification") + rowCount("Appointments"), 0);
+}
+
+TEST_F(modDatabaseFunctionsTest, AnAppointmentIsDeletedAfterItsRemindersAndNotifications)
+{
+    const std::string number = std::to_string(addRow("Appointments", {}));
+    EXPECT_TRUE(mod::deleteAppointment(1, false));
+    EXPECT_EQ(
+        recording->opened,
+        (std::vector<std::pair<std::string, std::int32_t>>{
+            {"SELECT Appointments.AppointmentID FROM Appointments WHERE Appointments.AppointmentID=" + number + ";", 3},
+            {"SELECT Reminders.AppointmentIDNum, Reminders.Completed FROM Reminders WHERE AppointmentIDNum = " + number
+                 + ";",
+             3},
+            {"SELECT ClientNotification.AppointmentNum, ClientNotification.NotificationSent "
+             "FROM ClientNotification WHERE AppointmentNum = "
+                 + number + ";",
+             3}}));
+    EXPECT_EQ(recording->operations,
+              (std::vector<std::string>{"isConnected", "openRecordset", "hasRecords",                   //
+                                        "openRecordset", "hasRecords", "closeRecordset",                // reminders
+                                        "getPosition",                                                  //
+                                        "isConnected", "openRecordset", "hasRecords", "closeRecordset", // notifications
+                                        "setPosition", "deleteRecord", "closeRecordset"}));
+}
+
+TEST_F(modDatabaseFunctionsTest, TheAppointmentsRecordIsMadeCurrentAgainAndItsDeletionIsTheResult)
+{
+    class RefusedDeletion : public ForwardingDatabaseService {
+    public:
+        using ForwardingDatabaseService::ForwardingDatabaseService;
+        std::vector<std::pair<std::int32_t, std::int32_t>> positions; // a handle and a position
+        std::int32_t getPosition(std::int32_t handle) override
+        {
+            positions.emplace_back(handle, 71);
+            return 71;
+        }
+        bool setPosition(std::int32_t handle, std::int32_t position) override
+        {
+            positions.emplace_back(handle, position);
+            return true;
+        }
+        bool deleteRecord(std::int32_t) override { return false; }
+    };
+    const std::int32_t id = addRow("Appointments", {});
+    const auto refusing = std::make_shared<RefusedDeletion>(recording);
+    serviceRegistry().database = refusing;
+    EXPECT_FALSE(mod::deleteAppointment(id, false));
+    ASSERT_EQ(refusing->positions.size(), 2u);
+    EXPECT_EQ(refusing->positions[1], refusing->positions[0]);
+    EXPECT_EQ(rowCount("Appointments"), 1);
+    EXPECT_TRUE(recording->open.empty());
 }
 
 TEST_F(modDatabaseFunctionsTest, NoAppointmentNoDeletion)

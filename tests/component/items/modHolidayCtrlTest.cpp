@@ -145,6 +145,22 @@ TEST_P(HolidaySweep, FaultsRetry) { test::expectFaultsRetry(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(Routines, HolidaySweep, testing::ValuesIn(sweptRoutines), test::rowName);
 
+/// After a failure these two give the date as far as they came, so that only a retry has one answer.
+TEST(HolidayFaults, RetryingGivesTheSameDay)
+{
+    const auto onHoliday = [](const char* name, std::function<Date()> call) {
+        return test::SweptRoutine{name, "", [call](test::TestWorld& world) {
+                                      addHoliday(world, monday, "1");
+                                      return [call] { return defaultDateText(call()); };
+                                  }};
+    };
+    test::expectFaultsRetry(
+        onHoliday("adjustDateToFridayIfWeekendOrHoliday", [] { return adjustDateToFridayIfWeekendOrHoliday(monday); }));
+    test::expectFaultsRetry(onHoliday("dateAddBusinessDaysWithoutWeekendsAndHolidays", [] {
+        return dateAddBusinessDaysWithoutWeekendsAndHolidays(2, monday.addDays(-3));
+    }));
+}
+
 TEST_F(HolidayTest, AFaultGivesTheDateAsReachedSoFar)
 {
     serviceRegistry().dateTime.reset();

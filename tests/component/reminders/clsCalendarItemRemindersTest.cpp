@@ -1,12 +1,19 @@
 #include "items/clsCalendarItem.h"
 
 #include "support/ComponentTest.h"
+#include "support/RecordingDatabase.h"
 #include "support/rowName.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
+
+// The reminders that an item makes, cancels and puts into words.
 
 namespace qncal {
 namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::Pair;
 
 /// Tomorrow at 9:30, a reminder 15 minutes ahead.
 class ItemReminderTest : public test::ComponentTest {
@@ -23,6 +30,13 @@ protected:
         filled.TimeFrom(Date::timeOf(9, 30));
         filled.TimeTo(Date::timeOf(10));
         filled.Remind(true);
+    }
+    std::int32_t addReminder(const char* type, const char* completed, const char* user = "1")
+    {
+        return addRow("Reminders", {{"UserIDNum", user},
+                                    {"AppointmentIDNum", std::to_string(item.itemID())},
+                                    {"ReminderType", type},
+                                    {"Completed", completed}});
     }
 
     clsCalendarItem item;
@@ -43,24 +57,58 @@ TEST_F(ItemReminderTest, SavingAnAppointmentMakesItsReminderAndSavingAgainMovesI
     EXPECT_EQ(cell("Reminders", 1, "ReminderDate"), "2026-03-25");
 }
 
-TEST_F(ItemReminderTest, TurningTheReminderOffKeepsTheCompletedOnes)
+TEST_F(ItemReminderTest, SavingWithTheReminderOffKeepsTheCompletedOnes)
 {
     ASSERT_TRUE(item.saveCalendarItem());
-    addRow("Reminders", {{"AppointmentIDNum", std::to_string(item.itemID())}, {"Completed", "True"}});
+    const auto completed = addReminder("3", "True");
     item.Remind(false);
     ASSERT_TRUE(item.saveCalendarItem());
     EXPECT_EQ(rowCount("Reminders"), 1);
-    EXPECT_EQ(cell("Reminders", 2, "Completed"), "True");
+    EXPECT_EQ(cell("Reminders", completed, "Completed"), "True");
+}
+
+TEST_F(ItemReminderTest, SchedulingWithTheReminderOffDeletesTheUsersCompletedOnesToo)
+{
+    ASSERT_TRUE(item.saveCalendarItem());
+    addReminder("3", "True");
+    const auto otherUser = addReminder("3", "False", "2");
+    const auto otherType = addReminder("5", "False");
+    item.Remind(false);
+    item.schedulePopupReminderForItem();
+    EXPECT_EQ(rowCount("Reminders"), 2);
+    EXPECT_EQ(cell("Reminders", otherUser, "UserIDNum"), "2");
+    EXPECT_EQ(cell("Reminders", otherType, "ReminderType"), "5");
 }
 
 TEST_F(ItemReminderTest, CancelledPopupsKeepTheCompletedOnesOnlyWhenAskedTo)
 {
     ASSERT_TRUE(item.saveCalendarItem());
-    addRow("Reminders", {{"AppointmentIDNum", std::to_string(item.itemID())}, {"Completed", "True"}});
+    addReminder("3", "True");
     item.checkToCancelPopups(true);
     EXPECT_EQ(rowCount("Reminders"), 1);
     item.checkToCancelPopups(false);
     EXPECT_EQ(rowCount("Reminders"), 0);
+}
+
+TEST_F(ItemReminderTest, CancellingFindsTheItemsRowsToDelete)
+{
+    const auto recording = std::make_shared<test::RecordingDatabase>(database);
+    serviceRegistry().database = recording;
+    item.itemID(17);
+    for (const auto kind : {enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem, enumLocalCalendarDocketItem}) {
+        item.calendarItemType(kind);
+        recording->opened.clear();
+        item.checkToCancelPopups(true);
+        if (kind == enumLocalCalendarDocketItem) {
+            EXPECT_THAT(recording->opened, IsEmpty());
+            continue;
+        }
+        const std::string column = kind == enumLocalCalendarTaskItem ? "TaskIDNum" : "AppointmentIDNum";
+        EXPECT_THAT(recording->opened,
+                    ElementsAre(Pair("SELECT Reminders." + column + ", Reminders.Completed FROM Reminders WHERE "
+                                         + column + " = 17;",
+                                     DatabaseService::updatable)));
+    }
 }
 
 TEST_F(ItemReminderTest, ATaskSchedulesWhenTheHostAsksAndHangsOnTheTask)
@@ -80,6 +128,15 @@ TEST_F(ItemReminderTest, ATaskSchedulesWhenTheHostAsksAndHangsOnTheTask)
     EXPECT_EQ(rowCount("Reminders"), 0);
 }
 
+TEST_F(ItemReminderTest, ATaskWithoutAScheduleIsToldAllTheSame)
+{
+    clsCalendarItem task;
+    fill(task, enumLocalCalendarTaskItem);
+    ASSERT_TRUE(task.saveCalendarItem());
+    task.schedulePopupReminderForItem();
+    EXPECT_EQ(cell("Reminders", 1, "TextBody"), "Your upcoming  task is due in 15 minutes");
+}
+
 TEST_F(ItemReminderTest, ATimeEntryHasNoReminders)
 {
     clsCalendarItem entry;
@@ -87,66 +144,78 @@ TEST_F(ItemReminderTest, ATimeEntryHasNoReminders)
     ASSERT_TRUE(entry.saveCalendarItem());
     entry.schedulePopupReminderForItem();
     EXPECT_EQ(rowCount("Reminders"), 0);
-    EXPECT_EQ(entry.getPopupReminderCurrentStatusText(), "");
     EXPECT_EQ(entry.getPopUpReminderPopupText(), "");
 }
 
-TEST_F(ItemReminderTest, TheStoredStatusFollowsTheRow)
+TEST_F(ItemReminderTest, WithoutAConnectionNothingIsOpened)
 {
-    ASSERT_TRUE(item.saveCalendarItem());
-    EXPECT_EQ(item.getPopupReminderCurrentStatusText(), "You will be notified on Apr 1 26 at 9:15 am");
-    setCell("Reminders", 1, "ReminderDate", defaultDateText(today()));
-    EXPECT_EQ(item.getPopupReminderCurrentStatusText(), "This reminder was scheduled for Mar 31 26 at 9:15 am");
-    setCell("Reminders", 1, "Completed", "True");
-    EXPECT_EQ(item.getPopupReminderCurrentStatusText(), "This reminder has already occured");
-    item.userIDNum(2);
-    EXPECT_EQ(item.getPopupReminderCurrentStatusText(), "") << "another user has none";
+    const auto recording = std::make_shared<test::RecordingDatabase>(database);
+    recording->connected = false;
+    serviceRegistry().database = recording;
+    for (const auto kind : {enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem}) {
+        item.calendarItemType(kind);
+        recording->opened.clear(); // the kind's templates
+        for (const bool remind : {true, false}) {
+            item.Remind(remind);
+            item.schedulePopupReminderForItem();
+        }
+        item.checkToCancelPopups(false);
+        EXPECT_EQ(item.getPopupReminderCurrentStatusText(), "");
+        EXPECT_THAT(recording->opened, IsEmpty());
+    }
 }
 
-struct PlannedRow {
+constexpr auto appointment = enumLocalCalendarAppointmentItem;
+constexpr auto task = enumLocalCalendarTaskItem;
+
+struct PopupRow {
     const char* name;
-    Date start;
+    enumLocalCalendarItemType kind;
+    bool hasClient;
+    const char* period;
     const char* text;
 };
 
-class PlannedReminderTest : public test::ComponentTestWith<PlannedRow> {};
+class ItemPopupTextTest : public test::ComponentTestWith<PopupRow> {};
 
-TEST_P(PlannedReminderTest, IsToldFromTheItemAlone)
-{
-    clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.DateFrom(GetParam().start.dateOnly());
-    item.TimeFrom(GetParam().start.timeOnly());
-    EXPECT_EQ(item.getPopupReminderCurrentStatusText(false), GetParam().text);
-}
-
-/// The clock stands at 8:30 on 31 March 2026, the reminder 15 minutes ahead of the start.
-INSTANTIATE_TEST_SUITE_P(
-    Starts, PlannedReminderTest,
-    testing::Values(PlannedRow{"Yesterday", Date::of(2026, 3, 30, 9), "This reminder has already occured"},
-                    PlannedRow{"EarlierToday", Date::of(2026, 3, 31, 8), "This reminder has already occured"},
-                    PlannedRow{"JustNow", Date::of(2026, 3, 31, 8, 45), "This reminder has already occured"},
-                    PlannedRow{"LaterToday", Date::of(2026, 3, 31, 13), "You will be notified today at 12:45 pm"},
-                    PlannedRow{"Tomorrow", Date::of(2026, 4, 1, 9), "You will be notified on Apr 1 26 at 8:45 am"}),
-    test::rowName);
-
-TEST_F(ItemReminderTest, AnItemPutsItsOwnReminderIntoWords)
+TEST_P(ItemPopupTextTest, IsToldFromTheItemsOwnFields)
 {
     clientDropDown->contacts[5] = {{"DisplayName", "Ann Reed"}};
-    EXPECT_EQ(item.getPopUpReminderPopupText(),
-              "Appointment: Year end\r\nYou have an appointment in 15 minutes at 9:30 am.");
-    item.contactIDNum(5);
-    item.reminderPeriod("5 Days");
-    EXPECT_EQ(item.getPopUpReminderPopupText(),
-              "Appointment: Year end\r\nYou have an appointment with Ann Reed at 9:30 am.")
-        << "this period has no words here";
-
-    clsCalendarItem task;
-    fill(task, enumLocalCalendarTaskItem);
-    EXPECT_EQ(task.getPopUpReminderPopupText(), "Task: Year end\r\nYour task is due in 15 minutes");
-    task.contactIDNum(5);
-    EXPECT_EQ(task.getPopUpReminderPopupText(), "Task: Year end\r\nYour task for Ann Reed is due in 15 minutes");
+    clsCalendarItem item;
+    item.calendarItemType(GetParam().kind);
+    item.Subject("Year end");
+    item.TimeFrom(Date::timeOf(9, 30));
+    item.reminderPeriod(GetParam().period);
+    if (GetParam().hasClient)
+        item.contactIDNum(5);
+    EXPECT_EQ(item.getPopUpReminderPopupText(), GetParam().text);
 }
+
+/// Three periods have no words for an appointment here, and a task without a client borrows the appointment's.
+INSTANTIATE_TEST_SUITE_P(
+    Items, ItemPopupTextTest,
+    testing::Values(
+        PopupRow{"Appointment", appointment, false, "15 Min",
+                 "Appointment: Year end\r\nYou have an appointment in 15 minutes at 9:30 am."},
+        PopupRow{"AppointmentOfAClient", appointment, true, "15 Min",
+                 "Appointment: Year end\r\nYou have an appointment with Ann Reed in 15 minutes at 9:30 am."},
+        PopupRow{"AppointmentIn5Days", appointment, true, "5 Days",
+                 "Appointment: Year end\r\nYou have an appointment with Ann Reed at 9:30 am."},
+        PopupRow{"AppointmentIn10Days", appointment, false, "10 Days",
+                 "Appointment: Year end\r\nYou have an appointment at 9:30 am."},
+        PopupRow{"AppointmentIn5Weeks", appointment, false, "5 Weeks",
+                 "Appointment: Year end\r\nYou have an appointment at 9:30 am."},
+        PopupRow{"AppointmentOutsideOfTheTable", appointment, false, "4 Min",
+                 "Appointment: Year end\r\nYou have an appointment at 9:30 am."},
+        PopupRow{"Task", task, false, "15 Min", "Task: Year end\r\nYour task is due in 15 minutes"},
+        PopupRow{"TaskOfAClient", task, true, "15 Min",
+                 "Task: Year end\r\nYour task for Ann Reed is due in 15 minutes"},
+        PopupRow{"TaskIn5Days", task, false, "5 Days", "Task: Year end\r\nYour task is due in 5 days"},
+        PopupRow{"TaskOfAClientIn5Days", task, true, "5 Days",
+                 "Task: Year end\r\nYour task for Ann Reed is due in 5 days"},
+        PopupRow{"TaskOutsideOfTheTable", task, false, "4 Min", "Task: Year end\r\nYour task is due"},
+        PopupRow{"TaskOfAClientOutsideOfTheTable", task, true, "4 Min", "Task: Year end\r\nYour task for Ann Reed"}),
+    test::rowName);
 
 } // namespace
 } // namespace qncal

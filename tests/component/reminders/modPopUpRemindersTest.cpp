@@ -1,10 +1,11 @@
 #include "reminders/modPopUpReminders.h"
 
 #include "support/ComponentTest.h"
-#include "support/RoutineSweep.h"
 #include "support/rowName.h"
 
 #include <gtest/gtest.h>
+
+// What becomes of the rows: made, moved, found again and deleted.
 
 namespace qncal {
 namespace {
@@ -20,6 +21,7 @@ protected:
     {
         return createPopUpReminder(type, 1, reminderDay, reminderTime, text, ids);
     }
+    static bool remove(std::int32_t type, ReminderIDs ids) { return deletePopUpReminder(type, 1, ids); }
     std::string reminder(std::int32_t key, std::string_view column) { return cell("Reminders", key, column); }
 };
 
@@ -39,6 +41,7 @@ TEST_P(PopUpReminderTypeTest, HangsOnItsRecordAndIsMovedWhenMadeAgain)
     std::int32_t type = GetParam().type;
     ASSERT_TRUE(createPopUpReminder(type, 1, reminderDay, reminderTime, "first", ids));
     EXPECT_EQ(cell("Reminders", 1, GetParam().column), "17");
+    EXPECT_EQ(cell("Reminders", 1, "ReminderType"), std::to_string(GetParam().type));
     EXPECT_EQ(cell("Reminders", 1, "UserIDNum"), "1");
     EXPECT_EQ(cell("Reminders", 1, "ReminderDate"), "2026-03-30");
     EXPECT_EQ(cell("Reminders", 1, "ReminderTime"), "09:15:00");
@@ -51,6 +54,22 @@ TEST_P(PopUpReminderTypeTest, HangsOnItsRecordAndIsMovedWhenMadeAgain)
     EXPECT_TRUE(deletePopUpReminder(type, 1, ids));
     EXPECT_EQ(rowCount("Reminders"), 1);
     EXPECT_FALSE(deletePopUpReminder(type, 1, ids)) << "nothing is left";
+}
+
+TEST_P(PopUpReminderTypeTest, LeavesTheReminderOfAnotherTypeAlone)
+{
+    const std::string otherType = GetParam().type == reminderType::task ? "3" : "5";
+    const auto other =
+        addRow("Reminders", {{"UserIDNum", "1"}, {GetParam().column, "17"}, {"ReminderType", otherType}});
+    ReminderIDs ids;
+    ids.*GetParam().id = 17;
+    std::int32_t type = GetParam().type;
+    ASSERT_TRUE(createPopUpReminder(type, 1, reminderDay, reminderTime, "words", ids));
+    EXPECT_EQ(rowCount("Reminders"), 2);
+    EXPECT_EQ(cell("Reminders", other, "TextBody"), "Null");
+    EXPECT_TRUE(deletePopUpReminder(type, 1, ids));
+    EXPECT_EQ(rowCount("Reminders"), 1);
+    EXPECT_EQ(cell("Reminders", other, "ReminderType"), otherType);
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -68,10 +87,27 @@ TEST_F(PopUpReminderTest, TypesOneAndSixAlwaysMakeANewRow)
     for (const std::int32_t type : {1, 6, 1, 6})
         EXPECT_TRUE(create(type, {}));
     EXPECT_EQ(rowCount("Reminders"), 4);
-    std::int32_t type = 1;
-    ReminderIDs ids;
-    EXPECT_FALSE(deletePopUpReminder(type, 1, ids));
+    for (std::int32_t key = 1; key <= 4; ++key)
+        EXPECT_EQ(reminder(key, "ReminderType"), key % 2 == 1 ? "1" : "6");
+    EXPECT_FALSE(remove(1, {}));
     EXPECT_EQ(rowCount("Reminders"), 4);
+}
+
+TEST_F(PopUpReminderTest, AToDosReminderIsFoundByItsColumnButMadeWithoutIt)
+{
+    ReminderIDs ids;
+    ids.toDoID = 17;
+    ASSERT_TRUE(create(reminderType::toDo, ids));
+    EXPECT_EQ(reminder(1, "ToDoIDNum"), "Null");
+    EXPECT_EQ(reminder(1, "ReminderType"), "4");
+    const auto found = addRow("Reminders", {{"UserIDNum", "1"}, {"ToDoIDNum", "17"}, {"ReminderType", "4"}});
+    ASSERT_TRUE(create(reminderType::toDo, ids, "moved"));
+    EXPECT_EQ(rowCount("Reminders"), 2);
+    EXPECT_EQ(reminder(found, "TextBody"), "moved");
+    EXPECT_EQ(reminder(found, "ToDoIDNum"), "17");
+    EXPECT_TRUE(remove(reminderType::toDo, ids));
+    EXPECT_EQ(rowCount("Reminders"), 1);
+    EXPECT_EQ(reminder(found, "TextBody"), "no row");
 }
 
 TEST_F(PopUpReminderTest, ATypeTwoBecomesATaskByItsSchedule)
@@ -85,7 +121,21 @@ TEST_F(PopUpReminderTest, ATypeTwoBecomesATaskByItsSchedule)
     EXPECT_EQ(ids.taskID, task);
     EXPECT_EQ(reminder(1, "ReminderType"), "5");
     EXPECT_EQ(reminder(1, "TaskIDNum"), std::to_string(task));
+    EXPECT_EQ(reminder(1, "AppointmentIDNum"), "Null") << "the schedule's id is none";
     EXPECT_EQ(reminder(1, "CompanyIDNum"), "8") << "the task's client";
+}
+
+TEST_F(PopUpReminderTest, ATypeTwoIsDeletedAsATask)
+{
+    const auto task = addRow("Tasks", {{"ScheduleIDNum", "31"}});
+    addRow("Reminders", {{"UserIDNum", "1"}, {"TaskIDNum", std::to_string(task)}, {"ReminderType", "5"}});
+    std::int32_t type = reminderType::schedule;
+    ReminderIDs ids;
+    ids.appointmentOrScheduleID = 31;
+    EXPECT_TRUE(deletePopUpReminder(type, 1, ids));
+    EXPECT_EQ(rowCount("Reminders"), 0);
+    EXPECT_EQ(type, reminderType::task);
+    EXPECT_EQ(ids.taskID, task);
 }
 
 TEST_F(PopUpReminderTest, ATypeTwoWithAnUnknownScheduleKeepsTheLookupsDefault)
@@ -96,28 +146,65 @@ TEST_F(PopUpReminderTest, ATypeTwoWithAnUnknownScheduleKeepsTheLookupsDefault)
     EXPECT_EQ(reminder(1, "TaskIDNum"), "-1");
 }
 
-TEST_F(PopUpReminderTest, TheClientIsFilledInOnlyWhenNoneIsGiven)
+TEST_F(PopUpReminderTest, EveryRowFoundIsDeleted)
 {
-    const auto appointment = addRow("Appointments", {{"CompanyIDNum", "8"}});
+    for (const char* user : {"1", "2", "1"})
+        addRow("Reminders", {{"UserIDNum", user}, {"AppointmentIDNum", "17"}, {"ReminderType", "3"}});
     ReminderIDs ids;
-    ids.appointmentOrScheduleID = appointment;
-    create(reminderType::appointment, ids);
-    EXPECT_EQ(reminder(1, "CompanyIDNum"), "8");
-    EXPECT_EQ(reminder(1, "ContactIDNum"), "Null");
-    ids.contactID = 5;
-    create(reminderType::appointment, ids);
-    EXPECT_EQ(reminder(1, "ContactIDNum"), "5");
+    ids.appointmentOrScheduleID = 17;
+    EXPECT_TRUE(remove(reminderType::appointment, ids));
+    EXPECT_EQ(rowCount("Reminders"), 1);
+    EXPECT_EQ(reminder(2, "UserIDNum"), "2");
 }
 
-TEST_F(PopUpReminderTest, WithoutAConnectionNothingIsWritten)
+TEST_F(PopUpReminderTest, FurtherIdsAreStoredWhateverTheType)
 {
-    database->close();
-    EXPECT_FALSE(create(reminderType::newRow, {}));
-    std::int32_t type = reminderType::appointment;
     ReminderIDs ids;
-    EXPECT_FALSE(deletePopUpReminder(type, 1, ids));
-    EXPECT_EQ(getPopUpReminderText(reminderType::appointment, 1), "");
+    ids.communicationLogID = 4;
+    ids.companyProjectID = 0;
+    ASSERT_TRUE(create(reminderType::appointment, ids));
+    EXPECT_EQ(reminder(1, "AppointmentIDNum"), "-1") << "an appointment's id is stored even when it is none";
+    EXPECT_EQ(reminder(1, "CommunicationLogIDNum"), "4");
+    EXPECT_EQ(reminder(1, "CompanyProjectIDNum"), "0");
+    EXPECT_EQ(reminder(1, "MissingInfoIDNum"), "Null");
+    EXPECT_EQ(reminder(1, "CompanyProjectStepIDNum"), "Null");
 }
+
+struct ClientRow {
+    const char* name;
+    std::int32_t type;
+    const char* table;
+    std::int32_t ReminderIDs::*id;
+};
+
+class PopUpReminderClientTest : public test::ComponentTestWith<ClientRow> {};
+
+TEST_P(PopUpReminderClientTest, IsFilledInFromTheRecordOnlyWhenNoneIsGiven)
+{
+    const auto record = addRow(GetParam().table, {{"CompanyIDNum", "8"}, {"ContactIDNum", "5"}});
+    const auto createFor = [&](std::int32_t companyID, std::int32_t contactID) {
+        std::int32_t type = GetParam().type;
+        ReminderIDs ids;
+        ids.companyID = companyID;
+        ids.contactID = contactID;
+        ids.*GetParam().id = record;
+        // A user for each, so that each gets a row of its own.
+        const std::int32_t user = rowCount("Reminders") + 1;
+        EXPECT_TRUE(createPopUpReminder(type, user, reminderDay, reminderTime, "words", ids));
+        return cell("Reminders", user, "CompanyIDNum") + " " + cell("Reminders", user, "ContactIDNum");
+    };
+    EXPECT_EQ(createFor(-1, -1), "8 5");
+    EXPECT_EQ(createFor(0, -1), "0 Null");
+    EXPECT_EQ(createFor(-1, 6), "Null 6");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Types, PopUpReminderClientTest,
+    testing::Values(ClientRow{"Appointment", 3, "Appointments", &ReminderIDs::appointmentOrScheduleID},
+                    ClientRow{"Task", 5, "Tasks", &ReminderIDs::taskID},
+                    ClientRow{"MissingInfo", 7, "MissingInfo", &ReminderIDs::missingInfoID},
+                    ClientRow{"CommunicationLog", 8, "CommunicationLog", &ReminderIDs::communicationLogID}),
+    test::rowName);
 
 struct MomentRow {
     const char* name;
@@ -152,68 +239,6 @@ INSTANTIATE_TEST_SUITE_P(
         MomentRow{"SecondsAreCut", "5 Min", Date::of(2026, 3, 31, 9, 30, 59), Date::of(2026, 3, 31),
                   Date::timeOf(9, 25)}),
     test::rowName);
-
-TEST_F(PopUpReminderTest, AnAppointmentIsToldWithItsClientAndTime)
-{
-    clientDropDown->companies[8] = {{"CompanyName", "Maple Leaf Bakery"}};
-    const auto appointment =
-        addRow("Appointments",
-               {{"Subject", "Year end"}, {"CompanyIDNum", "8"}, {"ReminderPeriod", "5 Days"}, {"TimeFrom", "14:05"}});
-    EXPECT_EQ(getPopUpReminderText(reminderType::appointment, appointment),
-              "Appointment: Year end\r\nYou have an appointment with Maple Leaf Bakery in 5 days at 2:05 pm.");
-    setCell("Appointments", appointment, "CompanyIDNum", "");
-    EXPECT_EQ(getPopUpReminderText(reminderType::appointment, appointment),
-              "Appointment: Year end\r\nYou have an appointment in 5 days at 2:05 pm.");
-    EXPECT_EQ(getPopUpReminderText(reminderType::appointment, 999), "");
-}
-
-TEST_F(PopUpReminderTest, ATaskIsToldByItsSchedule)
-{
-    clientDropDown->companies[8] = {{"CompanyName", "Maple Leaf Bakery"}};
-    const auto client = addRow("Clients", {{"CompanyIDNum", "8"}});
-    const auto schedule = addRow("Schedule", {{"ScheduleName", "Payroll"}, {"ClientNum", std::to_string(client)}});
-    EXPECT_EQ(getPopUpReminderText(reminderType::task, schedule, "1 Day"),
-              "Your upcoming Payroll task for Maple Leaf Bakery is due in 1 day");
-    addRow("Tasks", {{"ScheduleIDNum", std::to_string(schedule)}, {"ReminderPeriod", "2 Weeks"}});
-    setCell("Schedule", schedule, "ClientNum", "");
-    EXPECT_EQ(getPopUpReminderText(reminderType::task, schedule), "Your upcoming Payroll task is due in 2 weeks");
-}
-
-const test::SweptRoutine sweptRoutines[] = {
-    {"createPopUpReminder", "False",
-     [](test::TestWorld& world) {
-         const auto appointment = world.addRow("Appointments", {{"CompanyIDNum", "8"}});
-         return [appointment] {
-             std::int32_t type = reminderType::appointment;
-             ReminderIDs ids;
-             ids.appointmentOrScheduleID = appointment;
-             return std::string(booleanText(createPopUpReminder(type, 1, reminderDay, reminderTime, "words", ids)));
-         };
-     }},
-    {"deletePopUpReminder", "False",
-     [](test::TestWorld& world) {
-         world.addRow("Reminders", {{"UserIDNum", "1"}, {"TaskIDNum", "4"}, {"ReminderType", "5"}});
-         return [] {
-             std::int32_t type = reminderType::task;
-             ReminderIDs ids;
-             ids.taskID = 4;
-             return std::string(booleanText(deletePopUpReminder(type, 1, ids)));
-         };
-     }},
-    {"getPopUpReminderText", "",
-     [](test::TestWorld& world) {
-         const auto appointment = world.addRow("Appointments", {{"Subject", "Year end"}, {"CompanyIDNum", "8"}});
-         return [appointment] { return getPopUpReminderText(reminderType::appointment, appointment); };
-     }},
-};
-
-class PopUpReminderSweep : public testing::TestWithParam<test::SweptRoutine> {};
-
-TEST_P(PopUpReminderSweep, FaultsLeave) { test::expectFaultsLeave(GetParam()); }
-TEST_P(PopUpReminderSweep, FaultsRetry) { test::expectFaultsRetry(GetParam()); }
-TEST_P(PopUpReminderSweep, EmptySlotsLeave) { test::expectEmptySlotsLeave(GetParam()); }
-
-INSTANTIATE_TEST_SUITE_P(Routines, PopUpReminderSweep, testing::ValuesIn(sweptRoutines), test::rowName);
 
 } // namespace
 } // namespace qncal

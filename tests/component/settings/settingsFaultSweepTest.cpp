@@ -1,3 +1,4 @@
+#include "core/clsCalendarSetCtrl.h"
 #include "settings/ColourSchemePage.h"
 #include "settings/colourSchemes.h"
 #include "settings/frmApptCustomFields.h"
@@ -8,7 +9,7 @@
 
 #include <gtest/gtest.h>
 
-// Every routine of the settings dialogs, with every service call in it failing once.
+// The settings dialogs under a user's hand, with every service call in them failing once.
 
 namespace qncal {
 namespace {
@@ -16,128 +17,148 @@ namespace {
 using test::SweptRoutine;
 using test::TestWorld;
 using Run = std::function<std::string()>;
+using Script = std::function<void(host::Hand&)>;
 
-void addSchemes(TestWorld& world)
+/// A dialog that `open` shows; the script is the user's hand on it, each time it is shown.
+SweptRoutine dialog(const char* name, Script hand, std::function<void()> open, bool withDefinitions = true)
 {
-    for (const char* name : {"Amber", "Blue"})
-        world.addRow("ColourSchemes",
-                     {{"SchemeName", name}, {"SchemeType", "0"}, {"TitleBackColour", "1"}, {"ForeColour", "4"}});
-}
-
-/// The page of a dialog, with the first of two schemes on it.
-struct Page {
-    Form form{"frmDayTimerSettings"};
-    ColourSchemePage page{form};
-    explicit Page(TestWorld& world)
-    {
-        addSchemes(world);
-        page.setup(enumLocalCalendarAppointmentItem);
-        page.cpBackColour(1).colour(123);
-    }
-};
-
-SweptRoutine onPage(const char* name, std::function<void(ColourSchemePage&)> call)
-{
-    return {name, "", [call](TestWorld& world) -> Run {
-                return [call, page = std::make_shared<Page>(world)] {
-                    call(page->page);
+    return {name, "", [=](TestWorld& world) -> Run {
+                if (withDefinitions)
+                    world.addRow("CustomFields", {{"TaskStatusName1", "Done"},
+                                                  {"TaskUseStatusIcon1", "True"},
+                                                  {"TaskStatusIcon1", "7"},
+                                                  {"TaskCustomName1", "Room"}});
+                world.dialogs->whenAnyShown(hand);
+                return [open] {
+                    open();
                     return std::string();
                 };
             }};
 }
 
-template <class Names>
-SweptRoutine onNames(const char* name, void (*call)(Names&))
+void nameAField(host::Hand& hand)
 {
-    return {name, "", [call](TestWorld& world) -> Run {
-                world.addRow("CustomFields", {{"TaskStatusName1", "Done"}, {"TaskCustomName1", "Room"}});
-                world.dialogs->whenAnyShown([](host::Hand&) {});
-                auto form = std::make_shared<Names>();
-                form->Initialize(enumLocalCalendarTaskItem);
-                form->txtField(3).text("New");
-                return [form, call] {
-                    call(*form);
-                    return std::string();
+    hand.type("txtField(2)", "Late");
+    hand.click("cmdApply");
+    hand.type("txtField(3)", "Lost");
+    hand.click("cmdOK");
+}
+
+void defineAStatus(host::Hand& hand)
+{
+    hand.check("chkField(0)", true);
+    hand.check("chkSample(9)", true);
+    hand.click("cmdOK");
+}
+
+/// A page of colour schemes with two of them in the database, and what the user does there.
+SweptRoutine onColourSchemes(const char* name, std::function<std::string(ColourSchemePage&)> act,
+                             const char* defaultResult = "")
+{
+    return {name, defaultResult, [act](TestWorld& world) -> Run {
+                for (const char* scheme : {"Amber", "Blue"})
+                    world.addRow("ColourSchemes", {{"SchemeName", scheme}, {"SchemeType", "1"}, {"BackColour", "9"}});
+                struct Page {
+                    Form form{"frmDayTimerSettings"};
+                    ColourSchemePage page{form};
                 };
+                auto shown = std::make_shared<Page>();
+                shown->page.setup(enumLocalCalendarTaskItem);
+                return [shown, act] { return act(shown->page); };
             }};
 }
 
-SweptRoutine onOptions(const char* name, std::function<std::string(frmApptStatusOptions&)> call,
-                       const std::string& defaultResult = {})
+SweptRoutine clickOnColourSchemes(const char* name, void (ColourSchemePage::*routine)())
 {
-    return {name, defaultResult, [call](TestWorld& world) -> Run {
-                world.addRow("CustomFields", {{"ApptUseStatusColour2", "True"},
-                                              {"ApptStatusColour2", "255"},
-                                              {"ApptUseStatusIcon2", "True"},
-                                              {"ApptStatusIcon2", "7"}});
-                world.dialogs->whenAnyShown([](host::Hand&) {});
-                auto form = std::make_shared<frmApptStatusOptions>();
-                form->Initialize(enumLocalCalendarAppointmentItem, "Done", 2);
-                return [form, call] { return call(*form); };
-            }};
+    return onColourSchemes(name, [routine](ColourSchemePage& page) {
+        page.txtSchemeName.text("Coral");
+        (page.*routine)();
+        return std::string();
+    });
 }
 
 std::vector<SweptRoutine> routines()
 {
+    const auto openStatusFields = [] { frmChangeApptStatusFields().Initialize(enumLocalCalendarTaskItem); };
+    const auto openStatusOptions = [] { frmApptStatusOptions().Initialize(enumLocalCalendarTaskItem, "Done", 1); };
     return {
-        onPage("PopulateSchemes", [](ColourSchemePage& page) { page.populateColourSchemes(); }),
-        onPage("PopulateScheme", [](ColourSchemePage& page) { page.populateSchemeInformation(); }),
-        {"SaveScheme", "False",
+        dialog("NameTheStatusFields", nameAField, openStatusFields),
+        dialog("NameTheStatusFieldsForTheFirstTime", nameAField, openStatusFields, false),
+        dialog("NameTheCustomFields", nameAField, [] { frmApptCustomFields().Initialize(enumLocalCalendarTaskItem); }),
+        dialog(
+            "CancelTheNames", [](host::Hand& hand) { hand.click("cmdCancel"); }, openStatusFields),
+        dialog("DefineAStatus", defineAStatus, openStatusOptions),
+        dialog("DefineAStatusForTheFirstTime", defineAStatus, openStatusOptions, false),
+        dialog(
+            "CancelAStatus", [](host::Hand& hand) { hand.click("cmdCancel"); }, openStatusOptions),
+        clickOnColourSchemes("AddAScheme", &ColourSchemePage::cmdAddScheme_Click),
+        clickOnColourSchemes("DeleteAScheme", &ColourSchemePage::cmdDeleteScheme_Click),
+        clickOnColourSchemes("SaveAScheme", &ColourSchemePage::cmdSaveScheme_Click),
+        clickOnColourSchemes("FillTheSchemes", &ColourSchemePage::populateColourSchemes),
+        clickOnColourSchemes("ShowAScheme", &ColourSchemePage::populateSchemeInformation),
+        onColourSchemes("PickAScheme",
+                        [](ColourSchemePage& page) {
+                            page.lvSchemes.selectedRow(1);
+                            return std::string();
+                        }),
+        onColourSchemes(
+            "TellWhetherASchemeWasSaved",
+            [](ColourSchemePage& page) {
+                bool saved = false;
+                page.saveSchemeChanges(saved);
+                return std::string(booleanText(saved));
+            },
+            "False"),
+        {"ListSchemesInAnotherDialog", "",
          [](TestWorld& world) -> Run {
-             return [page = std::make_shared<Page>(world)] {
-                 bool saved = true;
-                 page->page.saveSchemeChanges(saved);
-                 return std::string(saved ? "True" : "False");
-             };
-         }},
-        onPage("AddScheme", [](ColourSchemePage& page) { page.cmdAddScheme_Click(); }),
-        onPage("DeleteScheme", [](ColourSchemePage& page) { page.cmdDeleteScheme_Click(); }),
-        onPage("SaveClick", [](ColourSchemePage& page) { page.cmdSaveScheme_Click(); }),
-        onPage("PickAnotherScheme", [](ColourSchemePage& page) { page.lvSchemes.selectedRow(1); }),
-        onPage("NameTheScheme", [](ColourSchemePage& page) { page.txtSchemeName.text("Coral"); }),
-        {"SchemesOfOtherDialogs", "",
-         [](TestWorld& world) -> Run {
-             addSchemes(world);
-             auto form = std::make_shared<Form>("frmAppt");
-             auto combo = std::make_shared<ComboBox>(*form, "cboScheme");
-             return [form, combo] {
-                 modColourSchemes::populateColourSchemes(*combo, 0);
+             world.addRow("ColourSchemes", {{"SchemeName", "Amber"}, {"SchemeType", "1"}});
+             return [] {
+                 Form form("frmOther");
+                 ComboBox combo(form, "cboScheme");
+                 modColourSchemes::populateColourSchemes(combo, 1);
                  return std::string();
              };
          }},
-        onNames<frmChangeApptStatusFields>("OpenStatusNames",
-                                           [](auto& form) { form.Initialize(enumLocalCalendarTaskItem); }),
-        onNames<frmChangeApptStatusFields>("ApplyStatusNames", [](auto& form) { form.cmdApply_Click(); }),
-        onNames<frmChangeApptStatusFields>("AdvancedOptions", [](auto& form) { form.cmdAdvancedOptions_Click(1); }),
-        onNames<frmApptCustomFields>("OkCustomNames", [](auto& form) { form.cmdOK_Click(); }),
-        onOptions("OpenOptions",
-                  [](frmApptStatusOptions& form) {
-                      form.Initialize(enumLocalCalendarAppointmentItem, "Done", 2);
-                      return std::string();
-                  }),
-        onOptions(
-            "SaveOptions",
-            [](frmApptStatusOptions& form) {
-                bool ok = true;
-                form.saveFields(ok);
-                return std::string(ok ? "True" : "False");
-            },
-            "False"),
-        onOptions("OkOptions",
-                  [](frmApptStatusOptions& form) {
-                      form.cmdOK_Click();
-                      return std::string();
-                  }),
     };
 }
 
-class SettingsFaultSweep : public testing::TestWithParam<SweptRoutine> {};
+/// The openers of the entry class, down to the rows that their dialogs write.
+std::vector<SweptRoutine> openers()
+{
+    const auto opener = [](const char* name, Script hand, std::function<void(clsCalendarSetCtrl&)> open) {
+        SweptRoutine routine = dialog(name, hand, [] {});
+        const auto prepareDialog = routine.prepare;
+        routine.prepare = [prepareDialog, open](TestWorld& world) -> Run {
+            prepareDialog(world);
+            return [control = std::make_shared<clsCalendarSetCtrl>(), open] {
+                open(*control);
+                return std::string();
+            };
+        };
+        return routine;
+    };
+    return {
+        opener("OpenStatusFields", nameAField,
+               [](clsCalendarSetCtrl& control) { control.openChangeApptStatusFieldsForm(enumFormShowTasks); }),
+        opener("OpenStatusOptions", defineAStatus,
+               [](clsCalendarSetCtrl& control) { control.openApptStatusOptionsForm(enumFormShowTasks, "Done", 1); }),
+        opener(
+            "OpenSettings", [](host::Hand&) {},
+            [](clsCalendarSetCtrl& control) { control.openDayTimerSettingsForm(enumFormShowTasks, 1, 1); }),
+        opener(
+            "OpenDuplicates", [](host::Hand&) {},
+            [](clsCalendarSetCtrl& control) { control.openDuplicateAppointmentsForm(); }),
+    };
+}
 
-TEST_P(SettingsFaultSweep, EveryFaultLeavesTheRoutine) { test::expectFaultsLeave(GetParam()); }
-TEST_P(SettingsFaultSweep, EveryFaultCanBeRetriedAlone) { test::expectFaultsRetry(GetParam()); }
-TEST_P(SettingsFaultSweep, AnEmptySlotLeavesTheRoutine) { test::expectEmptySlotsLeave(GetParam()); }
+class settingsFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
-INSTANTIATE_TEST_SUITE_P(Routines, SettingsFaultSweep, testing::ValuesIn(routines()), test::rowName);
+TEST_P(settingsFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(settingsFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
+TEST_P(settingsFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
+
+INSTANTIATE_TEST_SUITE_P(Routines, settingsFaultSweepTest, testing::ValuesIn(routines()), test::rowName);
+INSTANTIATE_TEST_SUITE_P(Openers, settingsFaultSweepTest, testing::ValuesIn(openers()), test::rowName);
 
 } // namespace
 } // namespace qncal

@@ -106,6 +106,112 @@ std::vector<SweptRoutine> routines()
     };
 }
 
+/// Lists that do what a list box does to each line: nothing here can fail but the services.
+class Lines : public ListTarget {
+public:
+    std::vector<std::string> lines;
+    void addLine(std::string_view text, std::int32_t) override { lines.emplace_back(text); }
+    void clear() override { lines.clear(); }
+    void refresh() override {}
+};
+
+/// The building of the list, a block or all of it, into a list box; its result is no result.
+SweptRoutine onListBox(const char* name, std::function<void(clsInsertFieldsInRTB&)> build)
+{
+    return onEngine(
+        name, "",
+        [build](clsInsertFieldsInRTB& engine) {
+            engine.ListBox(std::make_shared<Lines>());
+            engine.ListBox2(std::make_shared<Lines>());
+            build(engine);
+            return std::string();
+        },
+        false);
+}
+
+SweptRoutine onBlock(const char* name, void (clsInsertFieldsInRTB::*build)(FieldListCollection&, bool))
+{
+    return onListBox(name, [build](clsInsertFieldsInRTB& engine) { (engine.*build)(*engine.FieldList(), false); });
+}
+
+std::vector<SweptRoutine> catalogueRoutines()
+{
+    using Engine = clsInsertFieldsInRTB;
+    const auto fieldKey = [](Engine& engine) {
+        engine.FieldList()->findInColumn(FieldListCollection::displayName, "Appointment Date");
+        return engine.FieldList()->getCurrentKey();
+    };
+    return {
+        onListBox("CreateTheWholeList",
+                  [](Engine& engine) {
+                      bool noListBox = false;
+                      engine.createDefaultFieldListStructure(noListBox, true);
+                  }),
+        onBlock("CreateTheCompanysBlock", &Engine::createCompanyInfoFieldListStructure),
+        onBlock("CreateTheAppointmentsBlock", &Engine::createAppointmentInfoFieldListStructure),
+        onBlock("CreateTheTasksBlock", &Engine::createTaskInfoFieldListStructure),
+        onBlock("CreateTheTimeEntrysBlock", &Engine::createDocketInfoFieldListStructure),
+        onBlock("CreateTheFirmsBlock", &Engine::createAccountantFieldListStructure),
+        onEngine(
+            "GetDBFieldFromListItem", "",
+            [fieldKey](Engine& engine) { return engine.getDBFieldFromListItem(fieldKey(engine)); }, false),
+        onEngine(
+            "ParseListItem", "", [fieldKey](Engine& engine) { return engine.parseListItem(fieldKey(engine), true); },
+            false),
+        onEngine(
+            "InsertCurrentDateMergeField", "",
+            [](Engine& engine) { return engine.insertCurrentDateMergeField(3, true); }, false),
+        onEngine(
+            "VerifyFieldListIsPopulated", "False",
+            [](Engine& engine) { return asText(engine.verifyFieldListIsPopulated()); }, false),
+        onEngine(
+            "VerifyAnEmptyList", "False",
+            [](Engine& engine) {
+                engine.FieldList()->clearRows();
+                return asText(engine.verifyFieldListIsPopulated());
+            },
+            false),
+        onEngine(
+            "TestStr", "False", [](Engine& engine) { return asText(engine.testStr("Appointment Date")); }, false),
+    };
+}
+
+std::vector<SweptRoutine> valueRoutines()
+{
+    using Engine = clsInsertFieldsInRTB;
+    return {
+        onEngine("GetMergeDataFromFieldName", "",
+                 [](Engine& engine) { return engine.getMergeDataFromFieldName("OfficeNumber"); }),
+        onEngine("GetMergeDataFromDisplayName", "",
+                 [](Engine& engine) { return engine.getMergeDataFromDisplayName("Contact Business Phone"); }),
+        onEngine("InitializeDataRecordsets", "",
+                 [](Engine& engine) {
+                     engine.companyID(-1); // whose query, where it cannot be made, is a second failure
+                     engine.initializeDataRecordsetsForSingleDocMerge();
+                     return std::string();
+                 }),
+        onEngine(
+            "GetTodaysDate", "", [](Engine& engine) { return engine.getTodaysDate("mmmm d, yyyy"); }, false),
+        onEngine(
+            "GetTimeDurationFieldValue", "",
+            [](Engine& engine) { return engine.getTimeDurationFieldValue(Date::timeOf(9), Date::timeOf(10, 30)); },
+            false),
+        onEngine(
+            "ConvertToRTF", "", [](Engine& engine) { return engine.convertToRTF("two\r\nlines"); }, false),
+        onEngine(
+            "GetAbbreviatedProvince", "", [](Engine& engine) { return engine.getAbbreviatedProvince("Ontario"); },
+            false),
+        onEngine(
+            "GetFullProvinceString", "", [](Engine& engine) { return engine.getFullProvinceString("ON"); }, false),
+        onEngine(
+            "ParseTodaysDate", "",
+            [](Engine& engine) {
+                return engine.parseTodaysDateInRTBComment("«(Todays Date, mmmm d, yyyy)»", "«", "»");
+            },
+            false),
+    };
+}
+
 class clsInsertFieldsInRTBFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 } // namespace
@@ -115,5 +221,8 @@ TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryFaultIsRetriedAlone) { expectFau
 TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryEmptySlotLeaves) { expectEmptySlotsLeave(GetParam()); }
 
 INSTANTIATE_TEST_SUITE_P(Routines, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(routines()), rowName);
+INSTANTIATE_TEST_SUITE_P(Catalogue, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(catalogueRoutines()),
+                         rowName);
+INSTANTIATE_TEST_SUITE_P(Values, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(valueRoutines()), rowName);
 
 } // namespace qncal::test

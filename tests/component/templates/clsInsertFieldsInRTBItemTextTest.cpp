@@ -178,6 +178,7 @@ TEST_F(MergeDataTest, ListThatIsForNoItemHasNoTexts)
 TEST_F(ComponentTest, TestMergeIsShownUntilOk)
 {
     dialogs->whenShown("frmTestComment", [](host::Hand& hand) {
+        EXPECT_TRUE(hand.form().isModal());
         EXPECT_EQ(hand.form().caption(), "Test Notification Comment");
         EXPECT_EQ(hand.as<Label>("lblHeading").caption(), "Test Notification Comments");
         EXPECT_EQ(hand.as<RichTextBox>("rtbClientNotes").textRTF(), "{\\rtf1 text}");

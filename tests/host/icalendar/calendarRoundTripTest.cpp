@@ -237,6 +237,15 @@ TEST_F(CalendarRoundTrip, AClientOfAnotherNameIsNotTaken)
     EXPECT_NE(exported(host).find("X-QNCAL-COMPANY;X-QNCAL-ID=1:North Ltd."), std::string::npos);
 }
 
+TEST_F(CalendarRoundTrip, AnImportedItemNotifiesTheDayBeforeItself)
+{
+    imported(host, "BEGIN:VCALENDAR\r\nBEGIN:VTODO\r\nUID:1\r\nDTSTART:20260320T090000\r\n"
+                   "X-QNCAL-NOTIFY-TYPE:1\r\nEND:VTODO\r\nEND:VCALENDAR\r\n");
+    const Rows row = Rows::read(*database, "SELECT ClientNotification.* FROM ClientNotification;");
+    EXPECT_EQ(row.integer("TaskNum"), 1);
+    EXPECT_EQ(row.field("NotificationDate").toDate(), Date::of(2026, 3, 19));
+}
+
 TEST_F(CalendarRoundTrip, AWordOfOnesOwnStaysWhenTheFileIsImportedAgain)
 {
     const auto calendar = [](const std::string& description) {

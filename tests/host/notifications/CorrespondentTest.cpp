@@ -8,7 +8,6 @@ namespace qncal::host {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class CorrespondentTest : public test::HostTest {
 protected:
@@ -37,7 +36,7 @@ TEST_F(CorrespondentTest, ACompanyWithoutADefaultContactIsAddressedAsSuch)
 {
     const auto company = addCompany();
     link(company, addRow(*database, "Contacts", {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@b.example"}}), false);
-    const Correspondent client = readClient(*database, {company, -1});
+    const Correspondent client = readClient(*database, {company, -1}).value();
     EXPECT_EQ(client.name, "Granite Ltd.");
     EXPECT_EQ(client.person, "");
     EXPECT_EQ(client.email, "info@granite.example");
@@ -54,7 +53,7 @@ TEST_F(CorrespondentTest, TheDefaultContactGoesBeforeTheCompany)
          addRow(*database, "Contacts",
                 {{"DisplayName", "Ann Stone"}, {"PersonalEmail", "ann@home.example"}, {"BusinessPhone_Main", "555-3"}}),
          true);
-    const Correspondent client = readClient(*database, {company, -1});
+    const Correspondent client = readClient(*database, {company, -1}).value();
     EXPECT_EQ(client.name, "Granite Ltd.");
     EXPECT_EQ(client.person, "Ann Stone");
     EXPECT_EQ(client.email, "ann@home.example");
@@ -71,18 +70,24 @@ TEST_F(CorrespondentTest, AContactsBusinessAddressGoesBeforeTheHome)
                                  {"BusinessAddress1", "3 Work St"},
                                  {"BusinessAddress2", "Unit 4"},
                                  {"HomeAddress1", "5 Home St"}});
-    const Correspondent client = readClient(*database, {-1, contact});
+    const Correspondent client = readClient(*database, {-1, contact}).value();
     EXPECT_EQ(client.email, "ann@work.example");
     EXPECT_THAT(client.address, ElementsAre("3 Work St", "Unit 4"));
 }
 
-TEST_F(CorrespondentTest, WhoIsNotThereIsEmpty)
+TEST_F(CorrespondentTest, ADefaultContactThatIsGoneLeavesTheCompany)
 {
-    for (const ItemClient client : {ItemClient{}, ItemClient{99, -1}, ItemClient{-1, 99}}) {
-        const Correspondent nobody = readClient(*database, client);
-        EXPECT_EQ(nobody.name + nobody.email + nobody.fax + nobody.phone, "");
-        EXPECT_THAT(nobody.address, IsEmpty());
-    }
+    const auto company = addCompany();
+    link(company, 99, true);
+    const Correspondent client = readClient(*database, {company, -1}).value();
+    EXPECT_EQ(client.person, "");
+    EXPECT_EQ(client.email, "info@granite.example");
+}
+
+TEST_F(CorrespondentTest, WhoIsNotThereIsNobody)
+{
+    for (const ItemClient client : {ItemClient{}, ItemClient{99, -1}, ItemClient{-1, 99}})
+        EXPECT_FALSE(readClient(*database, client));
     EXPECT_EQ(readFirm(*database).name, "");
 }
 

@@ -4,6 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <ctime>
+#include <optional>
+#include <sstream>
+
 namespace qncal::host {
 namespace {
 
@@ -49,6 +54,46 @@ TEST(MailMessageTest, WritesTheHeaders)
     EXPECT_EQ(header(text, "Auto-Submitted"), "auto-generated");
 }
 
+/// Sets the time zone for its life.
+class TimeZone {
+public:
+    explicit TimeZone(const char* zone)
+    {
+        if (const char* value = std::getenv("TZ"))
+            before_ = value;
+        setenv("TZ", zone, 1);
+    }
+    ~TimeZone()
+    {
+        if (before_)
+            setenv("TZ", before_->c_str(), 1);
+        else
+            unsetenv("TZ");
+        tzset();
+    }
+    TimeZone(const TimeZone&) = delete;
+    TimeZone& operator=(const TimeZone&) = delete;
+
+private:
+    std::optional<std::string> before_;
+};
+
+TEST(MailMessageTest, TheDateHasTheZoneOfItsMoment)
+{
+    const auto dateIn = [](const char* zone, Date date) {
+        const TimeZone local(zone);
+        MailMessage message = plainMessage();
+        message.date = date;
+        return header(mailText(message), "Date");
+    };
+    const char* eastern = "EST5EDT,M3.2.0,M11.1.0";
+    EXPECT_EQ(dateIn(eastern, Date::of(2026, 3, 8, 1, 59, 59)), "Sun, 8 Mar 2026 01:59:59 -0500");
+    EXPECT_EQ(dateIn(eastern, Date::of(2026, 3, 8, 3)), "Sun, 8 Mar 2026 03:00:00 -0400");
+    EXPECT_EQ(dateIn("NST3:30", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 -0330");
+    EXPECT_EQ(dateIn("IST-5:30", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 +0530");
+    EXPECT_EQ(dateIn("UTC0", Date::of(2026, 3, 2, 9)), "Mon, 2 Mar 2026 09:00:00 +0000");
+}
+
 TEST(MailMessageTest, ARecipientWithoutANameStandsAlone)
 {
     MailMessage message = plainMessage();
@@ -62,6 +107,9 @@ TEST(MailMessageTest, WritesTheBodyInBase64WithNetworkLineEnds)
     message.body = "Grüße\nZwei\r\n";
     const std::string text = mailText(message);
     EXPECT_EQ(text.substr(text.find("\r\n\r\n") + 4), "R3LDvMOfZQ0KWndlaQ0K\r\n");
+    message.body = "a\rb\n\rc\r\r\nd";
+    EXPECT_EQ(mailText(message).substr(text.find("\r\n\r\n") + 4), "YQ0KYg0KDQpjDQoNCmQ=\r\n")
+        << "a, b, nothing, c, nothing, d";
     message.body = std::string(200, 'a');
     const std::string folded = mailText(message);
     const std::string body = folded.substr(folded.find("\r\n\r\n") + 4);
@@ -93,6 +141,7 @@ INSTANTIATE_TEST_SUITE_P(
                     HeaderRow{"LineBreak", "a\r\nBcc: all@firm.example", "a  Bcc: all@firm.example"},
                     HeaderRow{"LineBreakAlone", "a\nb\rc", "a b c"}, HeaderRow{"Null", std::string("a\0b", 3), "a b"},
                     HeaderRow{"LooksEncoded", "=?UTF-8?B?eA==?=", "=?UTF-8?B?PT9VVEYtOD9CP2VBPT0/PQ==?="},
+                    HeaderRow{"NoUtf8", "a\xFF", "=?UTF-8?B?Ye+/vQ==?="},
                     HeaderRow{"Long", std::string(61, 'x'),
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4?=\r\n "
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eA==?="},
@@ -100,6 +149,21 @@ INSTANTIATE_TEST_SUITE_P(
                               "=?UTF-8?B?eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHh4eHg=?=\r\n "
                               "=?UTF-8?B?w6k=?="}),
     [](const auto& row) { return row.param.name; });
+
+TEST(MailMessageTest, NoLineIsTooLongOrBeginsWithADot)
+{
+    MailMessage message = plainMessage();
+    message.to.name = std::string(1500, 'n');
+    message.subject = std::string(700, 's');
+    message.to.address = std::string(240, 'a') + "@b.example";
+    message.body = ".\n.dots\n" + std::string(2000, 'x');
+    std::istringstream lines(mailText(message));
+    for (std::string line; std::getline(lines, line);) {
+        EXPECT_LE(line.size(), 260u) << line;
+        EXPECT_FALSE(line.starts_with('.')) << line;
+        EXPECT_TRUE(line.ends_with('\r')) << line;
+    }
+}
 
 TEST(MailMessageTest, NamesWithLineBreaksBringNoHeader)
 {

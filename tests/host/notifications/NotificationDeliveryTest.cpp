@@ -1,16 +1,15 @@
 #include "notifications/NotificationDelivery.h"
 
-#include "core/AutoNotifyService.h"
-#include "host/services/HostTest.h"
-#include "host/store/StoreFactory.h"
-#include "items/clsCalendarItem.h"
-#include "utilities/Clock.h"
+#include "host/notifications/DeliveryTest.h"
+#include "store/SqliteDatabase.h"
+#include "utilities/RunTimeError.h"
 
-#include <gmock/gmock.h>
-
-#include <deque>
+#include <csignal>
+#include <cstdlib>
 #include <fstream>
 #include <iterator>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace qncal::host {
 namespace {
@@ -21,86 +20,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using Outcome = MailResult::Outcome;
 
-/// Answers as it is told, and looks at the database while a message is on its way.
-class ScriptedTransport : public MailTransport {
-public:
-    std::deque<MailResult> answers;
-    std::vector<MailMessage> messages;
-    std::function<void()> whileSending;
-
-    MailResult send(const MailMessage& message) override
-    {
-        messages.push_back(message);
-        if (whileSending)
-            whileSending();
-        if (answers.empty())
-            return {Outcome::sent, {}};
-        MailResult answer = answers.front();
-        answers.pop_front();
-        return answer;
-    }
-};
-
-class NotificationDeliveryTest : public test::HostTest {
-protected:
-    static Date at(int hour, int minute = 0) { return Date::of(2026, 3, 2, hour, minute); }
-
-    void SetUp() override
-    {
-        addRow(*database, "AccountantFirmInfo", {{"CompanyName", "Reed & Partners"}, {"OfficeNumber", "555-0100"}});
-        contact = addRow(*database, "Contacts",
-                         {{"DisplayName", "Ann Stone"},
-                          {"BusinessEmail", "ann@client.example"},
-                          {"BusinessPhone_Fax", "555-0102"},
-                          {"HomePhone_Main", "555-0103"},
-                          {"HomeAddress1", "1 Hill St"},
-                          {"HomeCity", "Elora"}});
-    }
-    /// An appointment on March 4 at 9:30 of which the client is told on March 2.
-    std::int32_t addAppointment(std::uint8_t channels, std::int32_t contactID, Date start = Date::of(2026, 3, 4, 9, 30))
-    {
-        clsCalendarItem item;
-        item.calendarItemType(enumLocalCalendarAppointmentItem);
-        item.addNewItem();
-        item.Subject("Year end");
-        item.contactIDNum(contactID);
-        item.DateFrom(start.dateOnly());
-        item.TimeFrom(start.timeOnly());
-        item.TimeTo(Date::timeOf(17));
-        item.notifiedDate(Date::of(2026, 3, 2));
-        item.notifyType(channels);
-        EXPECT_TRUE(item.saveCalendarItem());
-        return item.itemID();
-    }
-    std::int32_t addAppointment(std::uint8_t channels) { return addAppointment(channels, contact); }
-    void deleteAppointment(std::int32_t id)
-    {
-        clsCalendarItem item;
-        item.calendarItemType(enumLocalCalendarAppointmentItem);
-        item.itemID(id);
-        EXPECT_TRUE(item.deleteCalendarItem());
-    }
-    Rows rows(const std::string& condition = "ClientNotificationID > 0")
-    {
-        return Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification WHERE " + condition + ";");
-    }
-    DeliveryState state() { return static_cast<DeliveryState>(rows().integer("DeliveryState")); }
-    NotificationDelivery delivery() { return {database, {&mail, {"Reed & Partners", "office@firm.example"}, letters}}; }
-    std::vector<DeliveryStep> run()
-    {
-        std::vector<DeliveryStep> steps;
-        for (const Delivery& done : delivery().run())
-            steps.push_back(done.step);
-        return steps;
-    }
-
-    TemporaryFolder folder;
-    std::filesystem::path letters = folder.path() / "letters";
-    Date present = at(8);
-    ClockOverride clock{[this] { return present; }};
-    ScriptedTransport mail;
-    std::int32_t contact = -1;
-};
+class NotificationDeliveryTest : public test::DeliveryTest {};
 
 constexpr auto email = AutoNotifyService::email;
 
@@ -132,52 +52,6 @@ TEST_F(NotificationDeliveryTest, SendsAnEmailOnceAndRecordsIt)
     EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
-TEST_F(NotificationDeliveryTest, WaitsForTheDay)
-{
-    addAppointment(email);
-    present = Date::of(2026, 3, 1, 23, 59);
-    EXPECT_THAT(run(), IsEmpty());
-    present = at(0, 1);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-}
-
-TEST_F(NotificationDeliveryTest, APlanChangesNothing)
-{
-    addAppointment(email);
-    addAppointment(email, contact, at(7));
-    const std::vector<Delivery> plan = delivery().plan();
-    ASSERT_THAT(plan, SizeIs(2));
-    EXPECT_EQ(plan[0].step, DeliveryStep::attempt);
-    EXPECT_EQ(plan[0].recipient, "ann@client.example");
-    EXPECT_EQ(plan[1].step, DeliveryStep::tooLate);
-    EXPECT_THAT(mail.messages, IsEmpty());
-    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, NobodyIsToldOfThePast)
-{
-    addAppointment(email, contact, at(8));
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
-    EXPECT_THAT(mail.messages, IsEmpty());
-    EXPECT_EQ(state(), DeliveryState::tooLate);
-    EXPECT_FALSE(rows().boolean("NotificationSent"));
-    EXPECT_EQ(rows().text("LastError"), "the item began on Mar 2, 2026 at 8:00 am");
-    EXPECT_THAT(run(), IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, AnItemThatIsMovedAheadGetsItsChanceAnew)
-{
-    const std::int32_t id = addAppointment(email, contact, at(8));
-    run();
-    clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.DateFrom(Date::of(2026, 3, 9));
-    ASSERT_TRUE(item.saveCalendarItem());
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
-}
-
 TEST_F(NotificationDeliveryTest, TriesAgainLaterAndLaterAndKeepsTheReason)
 {
     addAppointment(email);
@@ -202,64 +76,68 @@ TEST_F(NotificationDeliveryTest, TriesAgainLaterAndLaterAndKeepsTheReason)
     EXPECT_EQ(mail.messages[0].messageID, mail.messages[2].messageID) << "so that two copies are known for one";
 }
 
-TEST_F(NotificationDeliveryTest, FailuresEndWhenTheItemBegins)
+TEST_F(NotificationDeliveryTest, TheClientWhoGotItIsOnRecord)
 {
-    addAppointment(email, contact, at(8, 30));
-    mail.answers = {{Outcome::failed, "no route"}};
-    run();
-    present = at(8, 30);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::tooLate));
+    addAppointment(email);
+    const auto other =
+        addRow(*database, "Companies", {{"CompanyName", "Granite Ltd."}, {"Email", "info@granite.example"}});
+    change("Appointments", "ContactIDNum", "-1");
+    change("Appointments", "CompanyIDNum", std::to_string(other));
+    EXPECT_EQ(deliverOne().recipient, "info@granite.example");
+    EXPECT_EQ(mail.messages.front().to.name, "Granite Ltd.");
+    EXPECT_EQ(rows().integer("CompanyIDNum"), other);
+    EXPECT_EQ(rows().integer("ContactIDNum"), -1);
+}
+
+TEST_F(NotificationDeliveryTest, AServerThatIsNotThereIsTriedOnceInARun)
+{
+    addAppointment(email);
+    addAppointment(email | AutoNotifyService::phone);
+    mail.answers = {{Outcome::unreachable, "no route"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed, DeliveryStep::later, DeliveryStep::byHand));
     EXPECT_THAT(mail.messages, SizeIs(1));
+    EXPECT_EQ(rows("NotificationType = 1").integer("Attempts"), 1);
+    EXPECT_TRUE(rows("DeliveryState <> 0").isEmpty());
+    present = at(8, 5);
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent, DeliveryStep::sent, DeliveryStep::byHand));
 }
 
-TEST_F(NotificationDeliveryTest, WaitsFourTimesAsLongEachTimeAndADayAtMost)
+TEST_F(NotificationDeliveryTest, AFailureOfOneMessageLeavesTheOthers)
 {
-    const Date from = at(0);
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1), at(0, 5));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 2), at(0, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 3), at(1, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 4), at(5, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 5), at(21, 20));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 6), from.addDays(1));
-    EXPECT_EQ(NotificationDelivery::nextAttempt(from, 1000000), from.addDays(1));
+    addAppointment(email);
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "550 nobody of that name"}};
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed, DeliveryStep::sent));
 }
 
-TEST_F(NotificationDeliveryTest, AMissingAddressIsAFailureWithItsReason)
+TEST_F(NotificationDeliveryTest, DeliversUnderTheLockAlone)
 {
-    const auto nobody = addRow(*database, "Contacts", {{"DisplayName", "Bob"}});
-    addAppointment(email, nobody);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_EQ(rows().text("LastError"), "the client has no e-mail address");
-    EXPECT_THAT(mail.messages, IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, AnAddressWithALineBreakIsRefused)
-{
-    const auto odd =
-        addRow(*database, "Contacts",
-               {{"DisplayName", "Bob"}, {"BusinessEmail", "bob@client.example\r\nBcc: all@client.example"}});
-    addAppointment(email, odd);
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::failed));
-    EXPECT_EQ(rows().text("LastError"), "the client's e-mail address is none");
+    addAppointment(email);
+    const DeliveryLock second(folder.file("lock"));
+    EXPECT_THROW(delivery().run(second), RunTimeError);
     EXPECT_THAT(mail.messages, IsEmpty());
 }
 
 TEST_F(NotificationDeliveryTest, TheAttemptIsOnRecordBeforeItBegins)
 {
+    bool isSecure = false;
     addAppointment(email);
     mail.whileSending = [&] {
         EXPECT_EQ(state(), DeliveryState::sending);
         EXPECT_EQ(rows().text("MessageID"), mail.messages.back().messageID);
         EXPECT_EQ(rows().integer("Attempts"), 1);
+        EXPECT_TRUE(isSecure);
     };
+    secureRecord = [&] { isSecure = state() == DeliveryState::sending; };
     run();
+    EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
 TEST_F(NotificationDeliveryTest, AnAttemptThatNobodyEndedIsLookedAtAndNeverRepeated)
 {
     addAppointment(email);
     mail.whileSending = [] { throw std::runtime_error("the process dies here"); };
-    EXPECT_THROW(delivery().run(), std::runtime_error);
+    EXPECT_THROW(deliver(), std::runtime_error);
     mail.whileSending = nullptr;
 
     present = at(8, 14);
@@ -276,35 +154,46 @@ TEST_F(NotificationDeliveryTest, AnUnknownOutcomeIsForAPersonToSettle)
 {
     addAppointment(email);
     mail.answers = {{Outcome::unknown, "the connection broke"}};
-    const std::vector<Delivery> first = delivery().run();
+    const std::vector<Delivery> first = deliver();
     ASSERT_THAT(first, SizeIs(1));
     EXPECT_EQ(first[0].step, DeliveryStep::unknown);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
     EXPECT_THAT(mail.messages, SizeIs(1));
 
-    EXPECT_TRUE(delivery().tryAgain(first[0].id));
+    EXPECT_EQ(delivery().tryAgain(first[0].id), Settlement::done);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent));
     EXPECT_THAT(mail.messages, SizeIs(2));
-    EXPECT_FALSE(delivery().tryAgain(first[0].id)) << "it was sent";
-    EXPECT_FALSE(delivery().markSent(99));
+    EXPECT_EQ(mail.messages[0].messageID, mail.messages[1].messageID) << "so that two copies are known for one";
+    EXPECT_EQ(delivery().tryAgain(first[0].id), Settlement::sentAlready);
+    EXPECT_EQ(delivery().markSent(99), Settlement::noSuch);
+}
+
+TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotRepeatAnUnknownOne)
+{
+    const std::int32_t id = addAppointment(email);
+    mail.answers = {{Outcome::unknown, "the connection broke"}};
+    run();
+    clsCalendarItem item;
+    item.calendarItemType(enumLocalCalendarAppointmentItem);
+    item.itemID(id);
+    ASSERT_TRUE(item.loadCalendarItem());
+    for (const std::uint8_t channels : {std::uint8_t{0}, email}) {
+        item.notifyType(channels);
+        item.notifiedDate(Date::of(2026, 3, 2));
+        ASSERT_TRUE(item.saveCalendarItem());
+    }
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::unknown));
+    EXPECT_THAT(mail.messages, SizeIs(1));
 }
 
 TEST_F(NotificationDeliveryTest, AnUnknownOneThatArrivedIsMarked)
 {
     addAppointment(email);
     mail.answers = {{Outcome::unknown, "the connection broke"}};
-    const std::int32_t id = delivery().run().front().id;
-    EXPECT_TRUE(delivery().markSent(id));
-    EXPECT_FALSE(delivery().markSent(id));
+    const std::int32_t id = deliverOne().id;
+    EXPECT_EQ(delivery().markSent(id), Settlement::done);
+    EXPECT_EQ(delivery().markSent(id), Settlement::sentAlready);
     EXPECT_THAT(run(), IsEmpty());
-}
-
-TEST_F(NotificationDeliveryTest, ADeletedItemTellsNobody)
-{
-    const std::int32_t id = addAppointment(email);
-    deleteAppointment(id);
-    EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(mail.messages, IsEmpty());
 }
 
 TEST_F(NotificationDeliveryTest, AnItemDeletedWhileItsMessageIsOnItsWayLeavesNothing)
@@ -315,50 +204,59 @@ TEST_F(NotificationDeliveryTest, AnItemDeletedWhileItsMessageIsOnItsWayLeavesNot
     EXPECT_TRUE(rows().isEmpty());
 }
 
-TEST_F(NotificationDeliveryTest, ARowWhoseItemIsGoneIsCancelled)
+TEST_F(NotificationDeliveryTest, WhatChangesDuringARunCounts)
 {
+    const std::int32_t first = addAppointment(email);
+    const std::int32_t second = addAppointment(email, contact, at(9));
+    const std::int32_t third = addAppointment(email);
     addAppointment(email);
-    Rows::change(*database, "SELECT Appointments.* FROM Appointments;").deleteCurrent();
-    EXPECT_THAT(run(), ElementsAre(DeliveryStep::cancelled));
-    EXPECT_EQ(state(), DeliveryState::cancelled);
-    EXPECT_THAT(run(), IsEmpty());
+    ASSERT_LT(first, second);
+    mail.whileSending = [&] {
+        if (mail.messages.size() > 1)
+            return;
+        present = at(9);
+        deleteAppointment(third);
+        change("Contacts", "BusinessEmail", "ann@new.example");
+    };
+    EXPECT_THAT(run(), ElementsAre(DeliveryStep::sent, DeliveryStep::tooLate, DeliveryStep::sent));
+    ASSERT_THAT(mail.messages, SizeIs(2));
+    EXPECT_EQ(mail.messages[1].to.address, "ann@new.example");
 }
 
-TEST_F(NotificationDeliveryTest, SwitchingTheChannelOffAndOnDoesNotSendTwice)
+TEST_F(NotificationDeliveryTest, AMarkOfAPersonDuringTheAttemptHolds)
 {
-    const std::int32_t id = addAppointment(email);
+    addAppointment(email);
+    mail.answers = {{Outcome::failed, "no route"}};
+    mail.whileSending = [&] {
+        const std::int32_t id = rows().integer("ClientNotificationID");
+        EXPECT_EQ(delivery().markSent(id), Settlement::beingSent);
+        EXPECT_EQ(delivery().tryAgain(id), Settlement::beingSent);
+        present = at(9);
+        EXPECT_EQ(delivery().markSent(id), Settlement::done);
+    };
     run();
-    clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    for (const std::uint8_t channels : {AutoNotifyService::phone, email}) {
-        item.notifyType(channels);
-        item.notifiedDate(Date::of(2026, 3, 2));
-        ASSERT_TRUE(item.saveCalendarItem());
-    }
-    EXPECT_THAT(run(), IsEmpty());
-    EXPECT_THAT(mail.messages, SizeIs(1));
+    EXPECT_EQ(state(), DeliveryState::sent);
 }
 
 TEST_F(NotificationDeliveryTest, FaxesAndCallsAreListedUntilSomebodyMadeThem)
 {
     addAppointment(AutoNotifyService::fax | AutoNotifyService::phone);
-    const std::vector<Delivery> list = delivery().run();
+    const std::vector<Delivery> list = deliver();
     ASSERT_THAT(list, SizeIs(2));
     EXPECT_EQ(list[0].step, DeliveryStep::byHand);
     EXPECT_EQ(list[0].recipient, "555-0102");
     EXPECT_EQ(list[0].person, "Ann Stone");
     EXPECT_EQ(list[1].step, DeliveryStep::byHand);
     EXPECT_EQ(list[1].recipient, "555-0103");
-    EXPECT_TRUE(delivery().markSent(list[0].id));
+    EXPECT_EQ(list[1].reason, "");
+    EXPECT_EQ(delivery().markSent(list[0].id), Settlement::done);
     EXPECT_THAT(run(), ElementsAre(DeliveryStep::byHand));
 }
 
 TEST_F(NotificationDeliveryTest, WritesALetterOnce)
 {
     addAppointment(AutoNotifyService::letter);
-    const std::vector<Delivery> list = delivery().run();
+    const std::vector<Delivery> list = deliver();
     ASSERT_THAT(list, SizeIs(1));
     EXPECT_EQ(list[0].step, DeliveryStep::sent);
     std::ifstream file(list[0].recipient);
@@ -383,7 +281,7 @@ TEST_F(NotificationDeliveryTest, WithoutMeansEverythingWaits)
 {
     addAppointment(email | AutoNotifyService::letter);
     NotificationDelivery bare(database, {});
-    const std::vector<Delivery> list = bare.run();
+    const std::vector<Delivery> list = bare.run(lock);
     ASSERT_THAT(list, SizeIs(2));
     EXPECT_EQ(list[0].step, DeliveryStep::later);
     EXPECT_EQ(list[0].reason, "no mail server is set");
@@ -396,6 +294,49 @@ TEST_F(NotificationDeliveryTest, DoesNothingWithoutAConnection)
     addAppointment(email);
     database->close();
     EXPECT_THAT(run(), IsEmpty());
+}
+
+/// Takes the whole process along while the message is on its way.
+class DyingTransport : public MailTransport {
+public:
+    MailResult send(const MailMessage&) override
+    {
+        raise(SIGKILL);
+        return {};
+    }
+};
+
+TEST(DyingDeliveryTest, AProcessThatDiesWhileItSendsLeavesAnUnknownOutcomeAndNoLock)
+{
+    const TemporaryFolder folder;
+    const std::string file = folder.file("firm.db");
+    Date present = Date::of(2026, 3, 2, 8);
+    const ClockOverride clock([&] { return present; });
+    {
+        const auto database = SqliteDatabase::create(file);
+        addRow(*database, "Contacts", {{"DisplayName", "Ann Stone"}, {"BusinessEmail", "ann@client.example"}});
+        addRow(*database, "Appointments", {{"ContactIDNum", "1"}, {"DateFrom", "2026-03-04"}});
+        addRow(*database, "ClientNotification",
+               {{"AppointmentNum", "1"}, {"NotificationType", "1"}, {"NotificationDate", "2026-03-02"}});
+    }
+    const MailAddress firm{"Reed & Partners", "office@firm.example"};
+    const pid_t child = fork();
+    if (child == 0) {
+        DyingTransport mail;
+        NotificationDelivery(SqliteDatabase::open(file), {&mail, firm}).run(DeliveryLock::ofDatabase(file));
+        _exit(EXIT_FAILURE);
+    }
+    int status = 0;
+    waitpid(child, &status, 0);
+    ASSERT_TRUE(WIFSIGNALED(status));
+
+    const DeliveryLock lock = DeliveryLock::ofDatabase(file);
+    test::ScriptedTransport mail;
+    NotificationDelivery next(SqliteDatabase::open(file), {&mail, firm});
+    EXPECT_EQ(next.run(lock).at(0).step, DeliveryStep::later);
+    present = present.addSeconds(15 * 60);
+    EXPECT_EQ(next.run(lock).at(0).step, DeliveryStep::unknown);
+    EXPECT_THAT(mail.messages, IsEmpty());
 }
 
 } // namespace

@@ -54,6 +54,13 @@ TEST(SmtpSettingsTest, ReadsEveryLineOfAFile)
     EXPECT_EQ(settings.timeout, std::chrono::seconds(20));
 }
 
+TEST(SmtpSettingsTest, ReadsAFileOfAnotherSystem)
+{
+    const SmtpSettings settings = readText("\xEF\xBB\xBFserver = mail.firm.example\r\nport = 25\r\n");
+    EXPECT_EQ(settings.server, "mail.firm.example");
+    EXPECT_EQ(settings.port, 25);
+}
+
 TEST(SmtpSettingsTest, EncryptsUnlessToldOtherwise)
 {
     EXPECT_EQ(readText("server = a\n").security, Security::startTls);
@@ -65,7 +72,7 @@ TEST(SmtpSettingsTest, NamesTheLineThatItCannotRead)
     EXPECT_EQ(errorOf([] { readText("server = a\nwhat\n"); }), "line 2: a line is 'name = value'");
     EXPECT_EQ(errorOf([] { readText("sever = a\n"); }), "line 1: there is no setting 'sever'");
     EXPECT_EQ(errorOf([] { readText("port = 65536\n"); }), "line 1: '65536' is no number from 1 to 65535");
-    EXPECT_EQ(errorOf([] { readText("timeout = soon\n"); }), "line 1: 'soon' is no number from 1 to 3600");
+    EXPECT_EQ(errorOf([] { readText("timeout = soon\n"); }), "line 1: 'soon' is no number from 1 to 420");
     EXPECT_EQ(errorOf([] { readText("security = some\n"); }), "line 1: 'some' is no security (none, starttls, tls)");
 }
 
@@ -86,9 +93,15 @@ TEST(SmtpSettingsTest, ChecksWhatIsNeeded)
 {
     const auto check = [](const std::string& text) { return errorOf([&] { checkSmtpSettings(readText(text)); }); };
     EXPECT_EQ(check("server = a\nfrom = b@c\n"), "no error");
-    EXPECT_EQ(check("from = b@c\n"), "no mail server is set");
-    EXPECT_EQ(check("server = a/b\nfrom = b@c\n"), "'a/b' is no name of a server");
-    EXPECT_EQ(check("server = a\n"), "no sender's address is set");
+    EXPECT_EQ(check("from = b@c\n"), "no mail server is set (server)");
+    for (const char* server : {"a/b", "user@a", "a b", "a:25", "a?b", "smtp://a", "[a]"})
+        EXPECT_EQ(check("server = " + std::string(server) + "\nfrom = b@c\n"),
+                  "'" + std::string(server) + "' is no name of a server; the port is a setting of its own");
+    for (const char* server : {"mail.firm.example", "127.0.0.1", "::1", "[::1]"})
+        EXPECT_EQ(check("server = " + std::string(server) + "\nfrom = b@c\n"), "no error");
+    EXPECT_EQ(check("server = a\nfrom = b@c\nuser = u\n"), "the user has no password (password)");
+    EXPECT_EQ(check("server = a\nfrom = b@c\npassword = p\n"), "there is a password, and no user");
+    EXPECT_EQ(check("server = a\n"), "no sender's address is set (from)");
     EXPECT_EQ(check("server = a\nfrom = b\n"), "the sender's 'b' is no e-mail address");
 }
 
@@ -96,7 +109,8 @@ TEST(SmtpSettingsTest, NoPasswordCrossesANetworkInTheClear)
 {
     const auto check = [](const std::string& server) {
         return errorOf([&] {
-            checkSmtpSettings(readText("server = " + server + "\nfrom = b@c\npassword = x\nsecurity = none\n"));
+            checkSmtpSettings(
+                readText("server = " + server + "\nfrom = b@c\nuser = u\npassword = x\nsecurity = none\n"));
         });
     };
     EXPECT_EQ(check("mail.firm.example"), "a password goes to mail.firm.example with starttls or tls alone");

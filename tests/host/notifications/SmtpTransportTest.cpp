@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace qncal::host {
@@ -12,6 +13,7 @@ namespace {
 
 using test::SmtpServer;
 using testing::HasSubstr;
+using testing::Not;
 using testing::SizeIs;
 using Outcome = MailResult::Outcome;
 using Security = SmtpSettings::Security;
@@ -61,39 +63,86 @@ TEST_F(SmtpTransportTest, SignsIn)
     EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
     settings.user = "firm";
     settings.password = "wrong";
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+    const MailResult refused = SmtpTransport(settings).send(message());
+    EXPECT_EQ(refused.outcome, Outcome::unreachable);
+    EXPECT_THAT(refused.reason, HasSubstr("refuses the user or the password"));
     settings.password = "secret";
     const MailResult result = SmtpTransport(settings).send(message());
     EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
     EXPECT_THAT(server.messages(), SizeIs(1));
 }
 
-TEST_F(SmtpTransportTest, EncryptsWithStartTlsAndTrustsOnlyTheCertificatesItIsGiven)
+class EncryptedTransportTest : public SmtpTransportTest {
+protected:
+    void SetUp() override
+    {
+        const std::string command = "openssl req -x509 -newkey rsa:2048 -nodes -days 36500 -subj /CN=127.0.0.1 "
+                                    "-addext subjectAltName=IP:127.0.0.1 -keyout "
+                                    + key + " -out " + certificate + " 2>/dev/null";
+        ASSERT_EQ(std::system(command.c_str()), 0);
+    }
+    SmtpSettings signedIn(const SmtpServer& server) const
+    {
+        SmtpSettings settings = settingsFor(server);
+        settings.user = "firm";
+        settings.password = "secret";
+        settings.certificates = certificate;
+        return settings;
+    }
+
+    std::string certificate = folder.file("certificate.pem");
+    std::string key = folder.file("key.pem");
+};
+
+TEST_F(EncryptedTransportTest, EncryptsBeforeItSignsIn)
 {
-    const std::string certificate = folder.file("certificate.pem");
-    const std::string key = folder.file("key.pem");
-    const std::string command = "openssl req -x509 -newkey rsa:2048 -nodes -days 36500 -subj /CN=127.0.0.1 "
-                                "-addext subjectAltName=IP:127.0.0.1 -keyout "
-                                + key + " -out " + certificate + " 2>/dev/null";
-    ASSERT_EQ(std::system(command.c_str()), 0);
-    const SmtpServer server("startTls", folder.path(), {certificate, key});
+    for (const auto& [mode, security] : {std::pair("startTls", Security::startTls), std::pair("tls", Security::tls)}) {
+        const SmtpServer server(mode, folder.path() / mode, {certificate, key});
+        SmtpSettings settings = signedIn(server);
+        EXPECT_NE(SmtpTransport(settings).send(message()).outcome, Outcome::sent) << mode << " without encryption";
+        settings.security = security;
+        const MailResult result = SmtpTransport(settings).send(message());
+        EXPECT_EQ(result.outcome, Outcome::sent) << mode << ": " << result.reason;
+        EXPECT_THAT(server.messages(), SizeIs(1)) << mode;
+    }
+}
+
+TEST_F(EncryptedTransportTest, TrustsOnlyTheCertificatesItIsGiven)
+{
+    for (const auto& [mode, security] : {std::pair("startTls", Security::startTls), std::pair("tls", Security::tls)}) {
+        const SmtpServer server(mode, folder.path() / mode, {certificate, key});
+        SmtpSettings settings = signedIn(server);
+        settings.security = security;
+        settings.certificates.clear();
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << mode;
+        settings.certificates = folder.file("none.pem");
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable) << mode;
+        EXPECT_THAT(server.messages(), SizeIs(0)) << mode;
+    }
+}
+
+TEST_F(SmtpTransportTest, SaysNoPasswordToAServerThatOffersNoEncryption)
+{
+    const SmtpServer server("tellPassword", folder.path());
     SmtpSettings settings = settingsFor(server);
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "without encryption";
+    settings.user = "firm";
+    settings.password = "secret";
     settings.security = Security::startTls;
-    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed) << "of an unknown server";
-    settings.certificates = certificate;
-    const MailResult result = SmtpTransport(settings).send(message());
-    EXPECT_EQ(result.outcome, Outcome::sent) << result.reason;
-    EXPECT_THAT(server.messages(), SizeIs(1));
+    EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable);
+    EXPECT_THAT(server.commands(), HasSubstr("EHLO"));
+    EXPECT_THAT(server.commands(), Not(HasSubstr("AUTH")));
+    EXPECT_THAT(server.commands(), Not(HasSubstr("MAIL")));
 }
 
 TEST_F(SmtpTransportTest, SendsNothingToAServerThatCannotEncrypt)
 {
     const SmtpServer server("good", folder.path());
     SmtpSettings settings = settingsFor(server);
+    settings.user = "firm";
+    settings.password = "secret";
     for (const Security security : {Security::startTls, Security::tls}) {
         settings.security = security;
-        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::failed);
+        EXPECT_EQ(SmtpTransport(settings).send(message()).outcome, Outcome::unreachable);
     }
     EXPECT_THAT(server.messages(), SizeIs(0));
 }
@@ -106,8 +155,32 @@ TEST_F(SmtpTransportTest, SaysThatNobodyListens)
         settings = settingsFor(server);
     }
     const MailResult result = SmtpTransport(settings).send(message());
-    EXPECT_EQ(result.outcome, Outcome::failed);
+    EXPECT_EQ(result.outcome, Outcome::unreachable);
     EXPECT_THAT(result.reason, HasSubstr("127.0.0.1"));
+}
+
+TEST_F(SmtpTransportTest, NoReasonRepeatsThePassword)
+{
+    const SmtpServer server("tellPassword", folder.path());
+    SmtpSettings settings = settingsFor(server);
+    settings.user = "firm";
+    settings.password = "secret";
+    const MailResult result = SmtpTransport(settings).send(message());
+    EXPECT_EQ(result.outcome, Outcome::unreachable);
+    EXPECT_THAT(result.reason, HasSubstr("refuses the user or the password"));
+    EXPECT_THAT(result.reason, Not(HasSubstr("secret")));
+    EXPECT_THAT(result.reason, Not(HasSubstr("AGZpcm0Ac2VjcmV0")));
+}
+
+TEST_F(SmtpTransportTest, ARecipientsNameWithLineBreaksBringsNoOtherRecipient)
+{
+    const SmtpServer server("good", folder.path());
+    MailMessage odd = message();
+    odd.to.name = "Zoe\r\nBcc: all@client.example\r\n\r\nbody";
+    EXPECT_EQ(SmtpTransport(settingsFor(server)).send(odd).outcome, Outcome::sent);
+    ASSERT_THAT(server.messages(), SizeIs(1));
+    EXPECT_THAT(server.messages()[0], HasSubstr("X-Envelope: office@firm.example ['zoe@client.example']\r\n"));
+    EXPECT_THAT(server.messages()[0], Not(HasSubstr("\nBcc:")));
 }
 
 TEST_F(SmtpTransportTest, RefusesUnsafeAddressesBeforeItConnects)
@@ -137,17 +210,34 @@ TEST_P(BadSmtpServerTest, HasTheOutcomeThatIsCertain)
     EXPECT_EQ(result.outcome, GetParam().outcome) << result.reason;
     EXPECT_THAT(result.reason, HasSubstr(GetParam().words));
     EXPECT_NE(result.reason, "");
+    EXPECT_TRUE(std::ranges::all_of(result.reason, [](char c) { return c >= ' ' && c < '\x7F'; })) << result.reason;
 }
 
 INSTANTIATE_TEST_SUITE_P(Servers, BadSmtpServerTest,
-                         testing::Values(BadServerRow{"refuseRecipient", Outcome::failed, "550"},
-                                         BadServerRow{"busy", Outcome::failed, "451"},
-                                         BadServerRow{"refuseMessage", Outcome::failed, "554"},
-                                         BadServerRow{"hang", Outcome::failed, "", 400},
-                                         BadServerRow{"garbage", Outcome::failed, "", 400},
+                         testing::Values(BadServerRow{"refuse", Outcome::unreachable, "554 5.3.2 no mail here"},
+                                         BadServerRow{"close", Outcome::unreachable, ""},
+                                         BadServerRow{"hang", Outcome::unreachable, "", 400},
+                                         BadServerRow{"garbage", Outcome::unreachable, "", 400},
+                                         BadServerRow{"refuseRecipient", Outcome::failed,
+                                                      "the mail server said: 550 5.1.1 nobody of that name"},
+                                         BadServerRow{"busy", Outcome::failed,
+                                                      "the mail server said: 451 4.7.1 come back later"},
+                                         BadServerRow{"hangAtRecipient", Outcome::unreachable, "", 3000},
+                                         BadServerRow{"garbageAtRecipient", Outcome::unreachable, "", 3000},
+                                         BadServerRow{"closeBeforeMessage", Outcome::failed, ""},
+                                         BadServerRow{"refuseData", Outcome::failed, "452 4.3.1 no room"},
+                                         BadServerRow{"closeInMessage", Outcome::unknown, ""},
+                                         BadServerRow{"refuseMessage", Outcome::failed, "554 5.7.1 not this one"},
+                                         BadServerRow{"postponeMessage", Outcome::failed, "451 4.3.0 try again"},
                                          BadServerRow{"closeAfterMessage", Outcome::unknown, ""},
-                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000}),
+                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000},
+                                         BadServerRow{"garbageAfterMessage", Outcome::unknown, "", 3000}),
                          [](const auto& row) { return row.param.mode; });
+
+TEST_F(SmtpTransportTest, AServerThatHangsAtTheFarewellHasTheMessage)
+{
+    EXPECT_EQ(sendTo("hangAtFarewell", std::chrono::seconds(1)).outcome, Outcome::sent);
+}
 
 /// Larger than what the system takes over at once, so that the message is certainly not out.
 TEST_F(SmtpTransportTest, AConnectionThatClosesInALongMessageHasFailed)

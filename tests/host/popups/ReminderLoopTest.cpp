@@ -1,16 +1,13 @@
 #include "popups/ReminderLoop.h"
 
+#include "host/popups/RecordingDisplay.h"
 #include "host/services/HostTest.h"
-#include "host/store/StoreFactory.h"
 #include "items/clsCalendarItem.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
 
 #include <gmock/gmock.h>
-#include <sqlite3.h>
-
-#include <algorithm>
 
 namespace qncal::host {
 namespace {
@@ -18,34 +15,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using Outcome = ReminderLoop::Outcome;
-
-class RecordingDisplay : public ReminderDisplay {
-public:
-    Stay stay = Stay::gone;
-    /// "show 1", "missed 1 2", "withdraw 1"
-    std::vector<std::string> calls;
-    std::vector<Reminder> shown;
-    /// Runs inside of each showing.
-    std::function<void(const Reminder&)> whileShown;
-
-    Stay show(const Reminder& reminder) override
-    {
-        calls.push_back("show " + std::to_string(reminder.id));
-        shown.push_back(reminder);
-        if (whileShown)
-            whileShown(reminder);
-        return stay;
-    }
-    Stay showMissed(const std::vector<Reminder>& reminders) override
-    {
-        std::string call = "missed";
-        for (const Reminder& reminder : reminders)
-            call += " " + std::to_string(reminder.id);
-        calls.push_back(call);
-        return stay;
-    }
-    void withdraw(std::int32_t reminderID) override { calls.push_back("withdraw " + std::to_string(reminderID)); }
-};
 
 class ReminderLoopTest : public test::HostTest {
 protected:
@@ -82,7 +51,7 @@ protected:
 
     Date present = at(9, 0);
     ClockOverride clock{[this] { return present; }};
-    RecordingDisplay display;
+    test::RecordingDisplay display;
     ReminderLoop loop{database, display};
 };
 
@@ -265,6 +234,124 @@ TEST_F(ReminderLoopTest, AReminderThatWasMovedAheadComesAgain)
     EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
 }
 
+TEST_F(ReminderLoopTest, AReminderThatMovedAheadWhileNobodySweptIsMissedAndComes)
+{
+    const auto moved = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(moved, at(11, 0));
+    present = at(11, 30);
+    const auto other = addReminder(at(11, 30));
+    ReminderLoop next(database, display);
+    display.calls.clear();
+    next.sweep();
+    EXPECT_THAT(display.calls, ElementsAre("missed " + std::to_string(moved), "show " + std::to_string(other)));
+    display.calls.clear();
+    next.sweep();
+    EXPECT_THAT(display.calls, IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, AllThatMovedAheadComeAgainHoweverMany)
+{
+    std::vector<std::int32_t> moved;
+    for (int i = 0; i < 70; ++i)
+        moved.push_back(addReminder(at(8, 59, i % 60)));
+    loop.sweep();
+    for (const std::int32_t id : moved)
+        moveTo(id, at(10, 0, id % 60));
+    present = at(10, 1);
+    display.shown.clear();
+    EXPECT_EQ(loop.sweep(), moved.size());
+    EXPECT_EQ(display.shown.size(), moved.size());
+    EXPECT_EQ(loop.sweep(), 0u);
+}
+
+TEST_F(ReminderLoopTest, AReminderOfAnotherUserThatMovedComesToThatUser)
+{
+    const auto others = addReminder(at(9, 0), 2);
+    ReminderLoop ofSecond(database, display, 2);
+    ofSecond.sweep();
+    moveTo(others, at(10, 0));
+    present = at(10, 5);
+    addReminder(at(10, 5), 1);
+    ReminderLoop ofFirst(database, display, 1);
+    ofFirst.sweep();
+    display.calls.clear();
+    ofSecond.sweep();
+    EXPECT_THAT(display.calls, ElementsAre("show " + std::to_string(others)));
+}
+
+TEST_F(ReminderLoopTest, AReminderThatMovedBackWasSeenAlready)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(id, at(7, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, SavingTheItemOfASnoozedReminderThatCameDoesNotBringItAgain)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    loop.snooze(id, 25);
+    present = at(9, 25);
+    loop.sweep();
+    moveTo(id, at(9, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
+TEST_F(ReminderLoopTest, AReminderDismissedAheadComesWhenItMovesNearer)
+{
+    const auto id = addReminder(at(16, 0));
+    loop.dismiss(id);
+    moveTo(id, at(12, 0));
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+    present = at(12, 0);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, WithdrawsFromTheScreenWhatHasMoved)
+{
+    const auto id = addReminder(at(9, 0));
+    display.stay = ReminderDisplay::Stay::onScreen;
+    loop.sweep();
+    moveTo(id, at(9, 30));
+    EXPECT_THAT(sweepCalls(), ElementsAre("withdraw " + std::to_string(id)));
+    present = at(9, 30);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, AnAnswerToAReminderThatHasMovedLeavesItsNewMoment)
+{
+    display.stay = ReminderDisplay::Stay::onScreen;
+    for (const bool snoozes : {false, true}) {
+        present = at(9, 0);
+        const auto id = addReminder(present);
+        loop.sweep();
+        moveTo(id, at(11, 0));
+        EXPECT_EQ(snoozes ? loop.snooze(id, 5) : loop.dismiss(id), Outcome::done);
+        present = at(10, 0);
+        EXPECT_THAT(sweepCalls(), IsEmpty());
+        present = at(11, 0);
+        EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+        EXPECT_EQ(loop.dismiss(id), Outcome::done);
+        EXPECT_TRUE(row(id).boolean("Completed"));
+    }
+}
+
+TEST_F(ReminderLoopTest, AReminderWithoutATimeIsDueAtTheBeginningOfItsDay)
+{
+    const auto id = addReminder(at(0, 0));
+    row(id).set("ReminderTime", {});
+    present = at(0, 1);
+    EXPECT_THAT(sweepCalls(), ElementsAre("show " + std::to_string(id)));
+}
+
+TEST_F(ReminderLoopTest, AReminderWithoutADayNeverComes)
+{
+    row(addReminder(at(9, 0))).set("ReminderDate", {});
+    EXPECT_THAT(sweepCalls(), IsEmpty());
+}
+
 TEST_F(ReminderLoopTest, AClockThatIsPutBackBringsNothingTwice)
 {
     addReminder(at(9, 0));
@@ -301,78 +388,6 @@ TEST_F(ReminderLoopTest, ReadsAsMuchAmongManyRemindersAsAmongFew)
     const auto few = readBySweep();
     addOthers(500);
     EXPECT_EQ(readBySweep(), few);
-}
-
-/// Keeps the statements that any connection of this process runs while it lives.
-class StatementTrace {
-public:
-    StatementTrace()
-    {
-        statements().clear();
-        sqlite3_auto_extension(reinterpret_cast<void (*)()>(&install));
-    }
-    ~StatementTrace() { sqlite3_reset_auto_extension(); }
-    StatementTrace(const StatementTrace&) = delete;
-    StatementTrace& operator=(const StatementTrace&) = delete;
-
-    static std::vector<std::string>& statements()
-    {
-        static std::vector<std::string> all;
-        return all;
-    }
-
-private:
-    static int install(sqlite3* connection, char**, const void*)
-    {
-        return sqlite3_trace_v2(
-            connection, SQLITE_TRACE_STMT,
-            [](unsigned, void*, void* statement, void*) {
-                statements().emplace_back(sqlite3_sql(static_cast<sqlite3_stmt*>(statement)));
-                return 0;
-            },
-            nullptr);
-    }
-};
-
-std::string planOf(const std::string& file, const std::string& sql)
-{
-    sqlite3* connection = nullptr;
-    sqlite3_open(file.c_str(), &connection);
-    std::string plan;
-    const auto line = [](void* self, int, char** values, char**) {
-        *static_cast<std::string*>(self) += std::string(values[3]) + "\n";
-        return 0;
-    };
-    EXPECT_EQ(sqlite3_exec(connection, ("EXPLAIN QUERY PLAN " + sql).c_str(), line, &plan, nullptr), SQLITE_OK);
-    sqlite3_close(connection);
-    return plan;
-}
-
-TEST(ReminderLoopPlanTest, EveryStatementOfASweepSearchesTheIndexOfTheDueRows)
-{
-    const TemporaryFolder folder;
-    const std::string file = folder.file("plan.db");
-    const StatementTrace trace;
-    const std::shared_ptr<SqliteDatabase> database = SqliteDatabase::create(file);
-    addRow(*database, "Reminders", {{"ReminderDate", "2026-03-02"}, {"ReminderTime", "08:59:00"}});
-    database->flush();
-    const ClockOverride clock(Date::of(2026, 3, 2, 9));
-    RecordingDisplay display;
-    ReminderLoop loop(database, display, 1);
-    StatementTrace::statements().clear();
-    loop.sweep();
-
-    std::size_t sweeping = 0;
-    for (const std::string& sql : StatementTrace::statements()) {
-        if (sql.find("FROM \"Reminders\"") == std::string::npos || sql.find("Completed") == std::string::npos)
-            continue;
-        const std::string plan = planOf(file, sql);
-        EXPECT_EQ(plan.find("SCAN"), std::string::npos) << sql << "\n" << plan;
-        EXPECT_EQ(plan.find("TEMP B-TREE"), std::string::npos) << sql << "\n" << plan;
-        if (plan.find("Reminders_Completed_ReminderDate_ReminderTime") != std::string::npos)
-            ++sweeping;
-    }
-    EXPECT_GE(sweeping, 4u) << testing::PrintToString(StatementTrace::statements());
 }
 
 } // namespace

@@ -58,6 +58,9 @@ const std::vector<StreamCase>& streams()
         {"Escapes", R"({\rtf1 \{a\}\\b\~c\_d\par})"},
         {"Dashes", R"({\rtf1 a\endash b\emdash c\bullet d\lquote e\rquote\par})"},
         {"UnbalancedBraces", R"({\rtf1 a}}}b{{{\b c)"},
+        {"HeadersAndFooters", R"({\rtf1{\headerl left}{\headerr right}{\footerf first}text\par})"},
+        {"BulletsOfALaterKind", R"({\rtf1\pard{\listtext\f3\'b7\tab}\ls1 one\par\pard two\par})"},
+        {"NumbersOfAList", R"({\rtf1\pard{\listtext 1.\tab}\ls1 one\par})"},
         {"BinaryData", "{\\rtf1 a\\bin3 }}}b\\par}"},
     };
     return cases;
@@ -105,6 +108,60 @@ TEST_F(RichTextReaderTest, ReadsFontSizeAndColour)
     EXPECT_EQ(at(1).fontFamilies().toStringList(), QStringList{"Courier New"});
     EXPECT_EQ(at(1).fontPointSize(), 10.5);
     EXPECT_EQ(at(1).foreground().color(), QColor(255, 128, 0));
+}
+
+struct FontTableCase {
+    const char* name;
+    std::string table;
+    const char* font;
+};
+void PrintTo(const FontTableCase& row, std::ostream* out) { *out << row.table; }
+
+class RichTextFontTableTest : public testing::TestWithParam<FontTableCase> {};
+
+TEST_P(RichTextFontTableTest, NamesTheFontAlone)
+{
+    const std::string stream = "{\\rtf1\\deff1{\\fonttbl" + GetParam().table + "}\\pard\\f1 x\\par}";
+    QTextDocument document;
+    readRichText(stream, document);
+    QTextCursor cursor(&document);
+    cursor.setPosition(1);
+    EXPECT_EQ(cursor.charFormat().fontFamilies().toStringList(), QStringList{GetParam().font});
+    EXPECT_NE(writeRichText(document).find(std::string(GetParam().font) + ";}"), std::string::npos);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Tables, RichTextFontTableTest,
+    testing::Values(FontTableCase{"Plain", R"({\f0 Arial;}{\f1 Tahoma;})", "Tahoma"},
+                    FontTableCase{"WithShape", R"({\f1\froman{\*\panose 02020603050405020304}Times New Roman;})",
+                                  "Times New Roman"},
+                    FontTableCase{"WithAlternative", R"({\f1 Arial{\*\falt Helvetica};})", "Arial"},
+                    FontTableCase{"WithoutGroups", R"(\f0\fnil Arial;\f1\fswiss Verdana;)", "Verdana"},
+                    FontTableCase{"Unended", R"({\f0 Arial}{\f1 Georgia})", "Georgia"}),
+    [](const auto& test) { return test.param.name; });
+
+TEST_F(RichTextReaderTest, TextThatNamesNoFontHasTheDefaultOne)
+{
+    read(R"({\rtf1\deff0{\fonttbl{\f0 Arial;}{\f1 Tahoma;}}x\f1 y\plain z\par})");
+    EXPECT_EQ(at(0).fontFamilies().toStringList(), QStringList{"Arial"});
+    EXPECT_EQ(at(1).fontFamilies().toStringList(), QStringList{"Tahoma"});
+    EXPECT_EQ(at(2).fontFamilies().toStringList(), QStringList{"Arial"});
+}
+
+TEST_F(RichTextReaderTest, LinesOfEveryShapeUnderline)
+{
+    for (const char* word : {"ul", "uld", "uldash", "uldb", "ulth", "ulw", "ulwave"}) {
+        read(std::string("{\\rtf1 a\\") + word + " b\\ulnone c\\par}");
+        EXPECT_TRUE(at(1).fontUnderline()) << word;
+        EXPECT_FALSE(at(2).fontUnderline()) << word;
+    }
+}
+
+TEST_F(RichTextReaderTest, ReadsTheBulletsOfALaterKindAndNoNumbers)
+{
+    read(R"({\rtf1\pard{\listtext\f3\'b7\tab}\ls1 one\par\pard{\listtext 1.\tab}\ls2 two\par})");
+    EXPECT_TRUE(document.firstBlock().textList());
+    EXPECT_FALSE(document.lastBlock().textList());
 }
 
 TEST_F(RichTextReaderTest, ReadsStylesAndGroupsEndThem)

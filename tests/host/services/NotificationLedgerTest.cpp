@@ -2,6 +2,7 @@
 
 #include "host/services/HostTest.h"
 #include "utilities/RunTimeError.h"
+#include "utilities/dateText.h"
 
 namespace qncal::host {
 namespace {
@@ -126,6 +127,28 @@ TEST_F(LedgerClientTest, AfterItWasSentANewClientGetsARowOfHisOwn)
     EXPECT_EQ(found(), second);
     service.linkNotification(appointment, id, item);
     EXPECT_EQ(row(id).integer("ContactIDNum"), 5) << "who got it stays on record";
+}
+
+TEST_F(LedgerClientTest, AnItemThatMovesBeforeItsNotificationTakesItAlong)
+{
+    const auto moveItemTo = [&](Date date) {
+        Rows::change(*database, "SELECT Appointments.* FROM Appointments;").set("DateFrom", defaultDateText(date));
+        service.linkNotification(appointment, id, item);
+    };
+    moveItemTo(Date::of(2026, 3, 12));
+    EXPECT_EQ(row(id).field("NotificationDate"), Variant(monday)) << "an item that moves away leaves the day";
+    moveItemTo(monday);
+    EXPECT_EQ(row(id).field("NotificationDate"), Variant(monday)) << "the day itself may have been meant";
+    moveItemTo(Date::of(2026, 3, 1));
+    EXPECT_EQ(row(id).field("NotificationDate"), Variant(Date::of(2026, 2, 27))) << "the Friday before";
+}
+
+TEST_F(LedgerClientTest, WhatWasSentKeepsItsDay)
+{
+    Rows::change(*database, "SELECT ClientNotification.* FROM ClientNotification;").set("NotificationSent", "True");
+    Rows::change(*database, "SELECT Appointments.* FROM Appointments;").set("DateFrom", "2026-03-01");
+    service.linkNotification(appointment, id, item);
+    EXPECT_EQ(row(id).field("NotificationDate"), Variant(monday));
 }
 
 TEST_F(NotificationLedgerTest, AnIdWithoutARowChangesNothing)

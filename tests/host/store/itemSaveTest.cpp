@@ -34,6 +34,13 @@ protected:
         EXPECT_TRUE(item.saveCalendarItem());
         return item.itemID();
     }
+    static void loadAndChange(clsCalendarItem& item, std::int32_t id, const std::string& subject)
+    {
+        item.calendarItemType(enumLocalCalendarAppointmentItem);
+        item.itemID(id);
+        ASSERT_TRUE(item.loadCalendarItem());
+        item.Subject(subject);
+    }
     std::int32_t borrow(std::int32_t id)
     {
         return database_->openRecordset(
@@ -60,10 +67,7 @@ TEST_F(ItemSaveTest, ALockedDatabaseFailsTheSaveThroughABorrowedHandle)
 {
     const auto id = savedItem();
     clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.Subject("After");
+    loadAndChange(item, id, "After");
     const auto handle = borrow(id);
     other_.lock();
     EXPECT_FALSE(item.saveCalendarItem(handle));
@@ -77,10 +81,7 @@ TEST_F(ItemSaveTest, ARetryOfTheStatementSavesTheItem)
 {
     const auto id = savedItem();
     clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.Subject("After");
+    loadAndChange(item, id, "After");
     const auto handle = borrow(id);
     other_.lock();
     host_->errors().setPolicy([&](const ErrorReport&) {
@@ -97,10 +98,7 @@ TEST_F(ItemSaveTest, ARowThatIsGoneFailsTheSaveThroughABorrowedHandle)
 {
     const auto id = savedItem();
     clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.Subject("After");
+    loadAndChange(item, id, "After");
     const auto handle = borrow(id);
     EXPECT_TRUE(database_->hasRecords(handle));
     other_.run("DELETE FROM Appointments");
@@ -115,10 +113,7 @@ TEST_F(ItemSaveTest, AFullDiskFailsTheSaveOfAnItemThatOpensItsOwnRow)
     database_->idle();
     reopen({.busyTimeout = 1, .largestFile = static_cast<std::int64_t>(std::filesystem::file_size(path_)) + 4096});
     clsCalendarItem item;
-    item.calendarItemType(enumLocalCalendarAppointmentItem);
-    item.itemID(id);
-    ASSERT_TRUE(item.loadCalendarItem());
-    item.Subject(std::string(100000, 'x'));
+    loadAndChange(item, id, std::string(100000, 'x'));
     EXPECT_FALSE(item.saveCalendarItem());
     EXPECT_EQ(reported(), storeError::diskFull);
     EXPECT_EQ(stored(), "Before");

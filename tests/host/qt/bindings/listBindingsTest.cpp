@@ -37,6 +37,20 @@ TEST(ListBoxBindingTest, GoesBothWays)
     EXPECT_EQ(list.count(), 0);
 }
 
+TEST(ListBoxBindingTest, AClickPicksTheRowThatIsSeenAlthoughTheModelHasAnother)
+{
+    TestForm t;
+    ListBox box{t.form, "lstUsers"};
+    box.addItem("Ann", 5);
+    box.addItem("Bob", 7);
+    auto& list = t.show<QListWidget>(box);
+    t.open();
+    const QPoint second = list.visualItemRect(list.item(1)).center();
+    box.insertItem(0, "Abe", 9);
+    QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(box.selectedItemData(), 7);
+}
+
 struct ListViewBindingTest : testing::Test {
     ListViewBindingTest()
     {
@@ -92,6 +106,16 @@ TEST_F(ListViewBindingTest, ARowIsPickedByTheMouse)
     EXPECT_EQ(view.selectedItemData(), 2);
     QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, second);
     EXPECT_EQ(t.events, (Events{"Click", "DblClick"}));
+}
+
+TEST_F(ListViewBindingTest, AClickPicksTheRowThatIsSeenAlthoughTheModelHasSorted)
+{
+    auto& tree = t.show<QTreeWidget>(view);
+    t.open();
+    const QPoint first = tree.visualItemRect(tree.topLevelItem(0)).center();
+    view.sort(0);
+    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, first);
+    EXPECT_EQ(view.selectedItemData(), 1) << "Bob, whom the widget still shows first";
 }
 
 TEST_F(ListViewBindingTest, ChecksGoBothWays)

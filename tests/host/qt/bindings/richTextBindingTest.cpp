@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAbstractItemView>
 #include <QAction>
 #include <QClipboard>
 #include <QComboBox>
@@ -16,6 +17,8 @@
 
 namespace qncal::test {
 namespace {
+
+using Formats = host::RichTextActions;
 
 struct RichTextBindingTest : testing::Test {
     host::RichTextEdit& shown()
@@ -86,7 +89,7 @@ TEST_F(RichTextBindingTest, TheKeysFormatTheSelection)
     edit.selectAll();
     QTest::keyClick(&edit, Qt::Key_B, Qt::ControlModifier);
     EXPECT_TRUE(streamHas("\\b "));
-    EXPECT_TRUE(edit.bold()->isChecked());
+    EXPECT_TRUE(edit.formats().action(Formats::bold)->isChecked());
     QTest::keyClick(&edit, Qt::Key_I, Qt::ControlModifier);
     EXPECT_TRUE(streamHas("\\i "));
     QTest::keyClick(&edit, Qt::Key_U, Qt::ControlModifier);
@@ -103,24 +106,96 @@ TEST_F(RichTextBindingTest, TheToolBarFormats)
     host::RichTextToolBar bar(edit);
     bar.show();
     edit.selectAll();
-    auto& sizes = *bar.findChild<QComboBox*>();
+    auto& sizes = *bar.findChild<QComboBox*>("fontSize");
     sizes.setCurrentIndex(sizes.findData(14));
     emit sizes.activated(sizes.currentIndex());
     EXPECT_TRUE(streamHas("\\fs28 "));
-    edit.bold()->trigger();
-    EXPECT_EQ(bar.findChild<QToolButton*>("format:" + edit.bold()->text())->text(), "B");
+    edit.formats().action(Formats::bold)->trigger();
+    EXPECT_EQ(bar.findChild<QToolButton*>("format:" + edit.formats().action(Formats::bold)->text())->text(), "B");
     const auto dialogs = std::make_shared<host::HeadlessDialogHost>();
     dialogs->colourToPick(0x0000FF);
     setDialogHost(dialogs);
-    edit.colour()->trigger();
+    edit.formats().action(Formats::colour)->trigger();
     setDialogHost(nullptr);
     EXPECT_TRUE(streamHas("\\red255\\green0\\blue0;"));
-    edit.bullets()->trigger();
+    edit.formats().action(Formats::bullets)->trigger();
     EXPECT_TRUE(streamHas("\\pnlvlblt"));
     EXPECT_EQ(box.text(), "abc");
-    edit.bullets()->trigger();
+    edit.formats().action(Formats::bullets)->trigger();
     EXPECT_FALSE(streamHas("\\pnlvlblt"));
     EXPECT_FALSE(streamHas("\\li"));
+}
+
+struct KeyCase {
+    const char* name;
+    Qt::Key key;
+    Qt::KeyboardModifiers modifiers;
+    const char* word;
+};
+void PrintTo(const KeyCase& row, std::ostream* out) { *out << row.name; }
+
+class RichTextKeyTest : public RichTextBindingTest, public testing::WithParamInterface<KeyCase> {};
+
+TEST_P(RichTextKeyTest, FormatsTheParagraphsThatAreSelected)
+{
+    box.textRTF(R"({\rtf1 one\par two\par three\par})");
+    auto& edit = shown();
+    edit.moveCursor(QTextCursor::Start);
+    edit.moveCursor(QTextCursor::Down, QTextCursor::KeepAnchor);
+    QTest::keyClick(&edit, GetParam().key, GetParam().modifiers);
+    std::size_t count = 0;
+    for (std::size_t at = box.textRTF().find(GetParam().word); at != std::string::npos;
+         at = box.textRTF().find(GetParam().word, at + 1))
+        ++count;
+    EXPECT_EQ(count, 2U) << box.textRTF();
+    EXPECT_EQ(box.text(), "one\ntwo\nthree");
+}
+
+INSTANTIATE_TEST_SUITE_P(Keys, RichTextKeyTest,
+                         testing::Values(KeyCase{"Centre", Qt::Key_E, Qt::ControlModifier, "\\qc"},
+                                         KeyCase{"Right", Qt::Key_R, Qt::ControlModifier, "\\qr"},
+                                         KeyCase{"Justify", Qt::Key_J, Qt::ControlModifier, "\\qj"},
+                                         KeyCase{"Indent", Qt::Key_M, Qt::ControlModifier, "\\li720"},
+                                         KeyCase{"Bullets", Qt::Key_L, Qt::ControlModifier | Qt::ShiftModifier,
+                                                 "\\pnlvlblt"}),
+                         [](const auto& test) { return test.param.name; });
+
+TEST_F(RichTextBindingTest, AnIndentEndsAtTheMargin)
+{
+    box.textRTF(R"({\rtf1\pard\li900 one\par})");
+    auto& edit = shown();
+    QTest::keyClick(&edit, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_TRUE(streamHas("\\li180"));
+    QTest::keyClick(&edit, Qt::Key_M, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_FALSE(streamHas("\\li"));
+}
+
+TEST_F(RichTextBindingTest, TheFontIsPickedByTheKeys)
+{
+    box.textRTF(streamAround("abc"));
+    auto& edit = shown();
+    host::RichTextToolBar bar(edit);
+    t.window->layout()->addWidget(&bar);
+    edit.selectAll();
+    QTest::keyClick(&edit, Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    auto& fonts = *bar.findChild<QComboBox*>("fontName");
+    ASSERT_TRUE(fonts.view()->isVisible());
+    QTest::keyClicks(fonts.view(), "Geo");
+    QTest::keyClick(fonts.view(), Qt::Key_Return);
+    EXPECT_TRUE(streamHas("Georgia"));
+    EXPECT_TRUE(edit.hasFocus());
+    edit.setFocus();
+    bar.setParent(nullptr);
+}
+
+TEST_F(RichTextBindingTest, TheToolBarShowsAFontThatItDoesNotOffer)
+{
+    box.textRTF(R"({\rtf1{\fonttbl{\f0 Garamond;}}\f0\fs20 x\par})");
+    auto& edit = shown();
+    const host::RichTextToolBar bar(edit);
+    edit.moveCursor(QTextCursor::End);
+    EXPECT_EQ(bar.findChild<QComboBox*>("fontName")->currentText(), "Garamond");
+    EXPECT_EQ(bar.findChild<QComboBox*>("fontSize")->currentText(), "10");
 }
 
 TEST_F(RichTextBindingTest, AReadOnlyTextIsNotFormatted)
@@ -130,7 +205,7 @@ TEST_F(RichTextBindingTest, AReadOnlyTextIsNotFormatted)
     auto& edit = shown();
     edit.selectAll();
     QTest::keyClick(&edit, Qt::Key_B, Qt::ControlModifier);
-    edit.bullets()->trigger();
+    edit.formats().action(Formats::bullets)->trigger();
     QTest::keyClicks(&edit, "x");
     EXPECT_EQ(box.textRTF(), streamAround("abc"));
 }

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace qncal::host {
+namespace qncal {
 
 /// Finds a name's place in a list without regard to ASCII case; of equal names the first.
 class NameIndex {
@@ -18,7 +18,6 @@ public:
     const std::string& name(std::size_t place) const { return names_[place]; }
 
 private:
-    static std::size_t hash(std::string_view name);
     void insert(std::size_t place);
     void grow();
 
@@ -26,4 +25,4 @@ private:
     std::vector<std::uint32_t> slots_; ///< place + 1, 0 for a free slot; a power of two in size
 };
 
-} // namespace qncal::host
+} // namespace qncal

@@ -1,16 +1,9 @@
-#include "store/NameIndex.h"
+#include "utilities/NameIndex.h"
 
+#include "utilities/hashNoCase.h"
 #include "utilities/text.h"
 
-namespace qncal::host {
-
-std::size_t NameIndex::hash(std::string_view name)
-{
-    std::size_t value = 14695981039346656037ULL;
-    for (const char c : name)
-        value = (value ^ static_cast<unsigned char>(c | 0x20)) * 1099511628211ULL; // 0x20 folds the case of letters
-    return value;
-}
+namespace qncal {
 
 void NameIndex::add(std::string_view name)
 {
@@ -25,7 +18,7 @@ void NameIndex::insert(std::size_t place)
 {
     if (find(names_[place]))
         return;
-    std::size_t slot = hash(names_[place]) & (slots_.size() - 1);
+    std::size_t slot = hashNoCase(names_[place]) & (slots_.size() - 1);
     while (slots_[slot] != 0)
         slot = (slot + 1) & (slots_.size() - 1);
     slots_[slot] = static_cast<std::uint32_t>(place + 1);
@@ -42,11 +35,11 @@ std::optional<std::size_t> NameIndex::find(std::string_view name) const
 {
     if (slots_.empty())
         return std::nullopt;
-    for (std::size_t slot = hash(name) & (slots_.size() - 1); slots_[slot] != 0;
+    for (std::size_t slot = hashNoCase(name) & (slots_.size() - 1); slots_[slot] != 0;
          slot = (slot + 1) & (slots_.size() - 1))
         if (equalsNoCase(names_[slots_[slot] - 1], name))
             return slots_[slot] - 1;
     return std::nullopt;
 }
 
-} // namespace qncal::host
+} // namespace qncal
