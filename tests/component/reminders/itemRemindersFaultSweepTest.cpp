@@ -104,6 +104,7 @@ std::vector<SweptRoutine> routines()
 class itemRemindersFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 TEST_P(itemRemindersFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(itemRemindersFaultSweepTest, EveryLastingFaultLeaves) { test::expectLastingFaultsLeave(GetParam()); }
 TEST_P(itemRemindersFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
 TEST_P(itemRemindersFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
 

@@ -210,6 +210,7 @@ const test::SweptRoutine sweptRoutines[] = {
 class PopUpReminderSweep : public testing::TestWithParam<test::SweptRoutine> {};
 
 TEST_P(PopUpReminderSweep, FaultsLeave) { test::expectFaultsLeave(GetParam()); }
+TEST_P(PopUpReminderSweep, LastingFaultsLeave) { test::expectLastingFaultsLeave(GetParam()); }
 TEST_P(PopUpReminderSweep, FaultsRetry) { test::expectFaultsRetry(GetParam()); }
 TEST_P(PopUpReminderSweep, EmptySlotsLeave) { test::expectEmptySlotsLeave(GetParam()); }
 
