@@ -4,10 +4,12 @@ include(CMakePackageConfigHelpers)
 
 set(CMAKE_INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
 
-# Installs a library of the current folder as a component of the package, with the headers of its sub-folders.
+# Installs a library of the current folder as a component of the package, with the headers of its sub-folders. A folder
+# "qt" is a library of its own.
 function(qncal_install_library target component headerFolder)
     install(TARGETS ${target} EXPORT ${component}Targets)
-    install(DIRECTORY ./ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${headerFolder} FILES_MATCHING PATTERN "*.h")
+    install(DIRECTORY ./ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${headerFolder} FILES_MATCHING PATTERN "*.h"
+            PATTERN qt EXCLUDE)
     install(EXPORT ${component}Targets FILE qnCalSetupCtrl-${component}.cmake NAMESPACE qncal::
             DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/qnCalSetupCtrl)
     configure_file(${PROJECT_SOURCE_DIR}/cmake/${target}.pc.in ${CMAKE_CURRENT_BINARY_DIR}/${target}.pc @ONLY)

@@ -1,7 +1,8 @@
 #include "firmcal/CommandContext.h"
 
-#include "firmcal/Failure.h"
-#include "firmcal/valueText.h"
+#include "common/Failure.h"
+#include "common/openDatabase.h"
+#include "common/valueText.h"
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 
@@ -26,9 +27,7 @@ host::TerminalMessages::Mode messageMode(const GlobalOptions& options, const Str
 
 std::shared_ptr<host::Locale> localeFor(const GlobalOptions& options, DatabaseService& database)
 {
-    host::Locale::Values values;
-    values.productName = "firmcal";
-    host::readRegion(database, values);
+    host::Locale::Values values = localeOf(database);
     if (!options.country.empty()) {
         const auto country = host::countryFromText(options.country);
         if (!country)
@@ -52,16 +51,7 @@ void CommandContext::applyClock()
         clock_.emplace(readMoment(options_.now));
 }
 
-host::HostEnvironment& CommandContext::host()
-{
-    if (host_)
-        return *host_;
-    if (options_.database.empty())
-        throw Failure("no database given; use --database FILE or set FIRMCAL_DATABASE");
-    if (!std::filesystem::exists(options_.database))
-        throw Failure("there is no file " + options_.database + "; 'firmcal init' and 'firmcal demo' make databases");
-    return host(host::SqliteDatabase::open(options_.database));
-}
+host::HostEnvironment& CommandContext::host() { return host_ ? *host_ : host(openDatabase(options_.database)); }
 
 host::SqliteDatabase& CommandContext::database()
 {
@@ -85,7 +75,7 @@ host::HostEnvironment& CommandContext::host(std::shared_ptr<host::SqliteDatabase
     services.locale = localeFor(options_, *database_);
     host_.reset();
     host_ = std::make_unique<host::HostEnvironment>(std::move(services));
-    errorsSeen_ = 0;
+    errors_.emplace(host_->errors());
     if (!options_.errorLog.empty())
         host_->errors().logTo(std::filesystem::path(options_.errorLog));
     if (const auto signedIn = user())
@@ -113,13 +103,10 @@ UserEntry CommandContext::userNamed(const std::string& nameOrID)
     throw Failure("no user '" + nameOrID + "'; 'firmcal user list' shows them");
 }
 
-void CommandContext::throwIfComponentFailed()
+ErrorWatch& CommandContext::errors()
 {
-    const host::ErrorControl& errors = host().errors();
-    if (errors.reportCount() == errorsSeen_)
-        return;
-    errorsSeen_ = errors.reportCount();
-    throw Failure(errors.reports().back().error.text);
+    host();
+    return *errors_;
 }
 
 void CommandContext::printJson(const nlohmann::ordered_json& value) const

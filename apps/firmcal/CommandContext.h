@@ -1,5 +1,6 @@
 #pragma once
 
+#include "common/ErrorWatch.h"
 #include "firmcal/Streams.h"
 #include "services/HostEnvironment.h"
 #include "utilities/Clock.h"
@@ -59,9 +60,9 @@ public:
     /// A user by name or id. Throws `Failure` when there is none.
     UserEntry userNamed(const std::string& nameOrID);
 
-    /// Throws `Failure` with the text of the error that the component reported since the last call, if any. The
-    /// component swallows its errors; this is how a command learns of them.
-    void throwIfComponentFailed();
+    /// The watch over the errors of the host.
+    ErrorWatch& errors();
+    void throwIfComponentFailed() { errors().throwIfReported(); }
 
     void printJson(const nlohmann::ordered_json& value) const;
 
@@ -71,7 +72,7 @@ private:
     std::optional<ClockOverride> clock_;
     std::shared_ptr<host::SqliteDatabase> database_;
     std::unique_ptr<host::HostEnvironment> host_;
-    std::size_t errorsSeen_ = 0;
+    std::optional<ErrorWatch> errors_;
 };
 
 } // namespace qncal::firmcal

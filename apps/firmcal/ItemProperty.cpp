@@ -1,7 +1,7 @@
 #include "firmcal/ItemProperty.h"
 
-#include "firmcal/Failure.h"
-#include "firmcal/valueText.h"
+#include "common/Failure.h"
+#include "common/valueText.h"
 #include "utilities/text.h"
 
 #include <nlohmann/json.hpp>

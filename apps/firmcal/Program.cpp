@@ -1,7 +1,8 @@
 #include "firmcal/Program.h"
 
+#include "common/Failure.h"
+#include "common/openDatabase.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/commands.h"
 #include "utilities/RunTimeError.h"
 
@@ -28,7 +29,7 @@ void addGlobalOptions(CLI::App& program, GlobalOptions& options)
 {
     program.add_option("-d,--database", options.database, "The database file")
         ->type_name("FILE")
-        ->envname("FIRMCAL_DATABASE");
+        ->envname(databaseVariable);
     program.add_option("-u,--user", options.user, "The user you are or look at, by name or id")->type_name("USER");
     program.add_option("--country", options.country, "CA or US, instead of the database's")->type_name("COUNTRY");
     program.add_option("--province", options.province, "ON, QC, ..., instead of the database's")->type_name("PROVINCE");

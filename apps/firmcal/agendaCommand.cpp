@@ -1,13 +1,13 @@
+#include "common/Failure.h"
+#include "common/days.h"
+#include "common/itemKind.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
 #include "firmcal/itemCommands.h"
-#include "firmcal/itemKind.h"
-#include "firmcal/itemRows.h"
+#include "firmcal/itemRowJson.h"
 #include "firmcal/itemTexts.h"
-#include "firmcal/valueText.h"
-#include "services/holidayRows.h"
 #include "utilities/dateText.h"
 #include "utilities/text.h"
 
@@ -29,29 +29,12 @@ struct AgendaOptions {
     bool texts = false;
 };
 
-struct Span {
-    Date from;
-    Date to;
-};
-
 Span spanOf(const AgendaOptions& options)
 {
-    constexpr int monday = 2;
     const Date from = readDay(options.from);
-    if (options.week) {
-        const Date start = from.addDays(-((from.weekday() - monday + 7) % 7));
-        return {start, start.addDays(6)};
-    }
+    if (options.week)
+        return weekOf(from);
     return {from, from.addDays(options.day ? 0 : options.days - 1)};
-}
-
-/// The names of the holidays of a day, joined by commas.
-std::string holidaysOn(DatabaseService& database, Date day)
-{
-    std::string names;
-    for (const host::HolidayRow& row : host::readHolidays(database, day, day))
-        names += (names.empty() ? "" : ", ") + (row.holiday.name.empty() ? "holiday" : row.holiday.name);
-    return names;
 }
 
 ItemTexts textsOf(CommandContext& context, const ItemRow& row)

@@ -1,6 +1,6 @@
+#include "common/Failure.h"
 #include "core/schema.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/Table.h"
 #include "firmcal/clientLookup.h"
 #include "firmcal/commands.h"

@@ -1,7 +1,7 @@
 #include "firmcal/clientLookup.h"
 
+#include "common/Failure.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "services/Rows.h"
 #include "utilities/text.h"
 

@@ -1,8 +1,8 @@
 #include "firmcal/databaseCheck.h"
 
+#include "common/itemKind.h"
 #include "core/calendarItemKinds.h"
 #include "core/schema.h"
-#include "firmcal/itemKind.h"
 #include "services/Rows.h"
 #include "store/SqliteConnection.h"
 #include "utilities/readableValue.h"

@@ -1,13 +1,13 @@
+#include "common/Failure.h"
+#include "common/itemKind.h"
+#include "common/statusFields.h"
 #include "controls/DialogHost.h"
 #include "core/forms.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/commands.h"
-#include "firmcal/itemKind.h"
+#include "firmcal/kindOption.h"
 #include "headless/HeadlessDialogHost.h"
 #include "items/frmSelectStartTime.h"
-#include "services/Rows.h"
-#include "settings/kindWords.h"
 #include "templates/frmTestComment.h"
 #include "utilities/text.h"
 
@@ -25,15 +25,6 @@ struct DialogOptions {
     int number = 1;
     bool show = false;
 };
-
-/// The name that a status has in the database.
-std::string statusName(CommandContext& context, enumLocalCalendarItemType kind, int number)
-{
-    const host::Rows row = host::Rows::read(context.host().database(), "SELECT CustomFields.* FROM CustomFields;");
-    return row.isEmpty()
-               ? std::string()
-               : row.text(std::string(textOfKind(columnPrefixes, kind)) + "StatusName" + std::to_string(number));
-}
 
 struct Dialog {
     const char* name;
@@ -53,7 +44,8 @@ constexpr Dialog dialogs[] = {
      [](CommandContext&, enumLocalCalendarItemType kind, int) { newChangeApptStatusFieldsForm()->Initialize(kind); }},
     {"frmApptStatusOptions", "name, colour and icon of a status",
      [](CommandContext& context, enumLocalCalendarItemType kind, int number) {
-         newApptStatusOptionsForm()->Initialize(kind, statusName(context, kind, number),
+         const StatusFields fields = statusFields(context.host().database(), kind);
+         newApptStatusOptionsForm()->Initialize(kind, fields[static_cast<std::size_t>(number - 1)].name,
                                                 static_cast<std::int16_t>(number));
      }},
     {"frmApptCustomFields", "names the custom fields",

@@ -1,10 +1,10 @@
 #include "firmcal/itemChanges.h"
 
+#include "common/Failure.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/ItemProperty.h"
 #include "firmcal/clientLookup.h"
-#include "firmcal/valueText.h"
 #include "services/saveItem.h"
 #include "utilities/text.h"
 

@@ -1,14 +1,14 @@
 #include "firmcal/itemCommands.h"
 
+#include "common/Failure.h"
+#include "common/itemKind.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/ItemProperty.h"
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
 #include "firmcal/itemChanges.h"
-#include "firmcal/itemKind.h"
-#include "firmcal/valueText.h"
-#include "services/saveItem.h"
+#include "firmcal/kindOption.h"
 
 #include <nlohmann/json.hpp>
 
@@ -189,13 +189,6 @@ void addArchiveCommand(CLI::App& item, CommandContext& context)
 
 } // namespace
 
-std::string describe(clsCalendarItem& item)
-{
-    return std::string(kindNoun(item.calendarItemType())) + " " + std::to_string(item.itemID()) + ": "
-           + readableDay(item.DateFrom()) + ", " + timeText(item.TimeFrom()) + "-" + timeText(item.TimeTo()) + ", "
-           + (item.Subject().empty() ? "(no subject)" : item.Subject());
-}
-
 void addReference(CLI::App& command, ItemReference& reference)
 {
     command.add_option("ID", reference.id, "The item's number")->required();
@@ -209,22 +202,12 @@ void load(CommandContext& context, clsCalendarItem& item, const ItemReference& r
 
 void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemType kind, std::int32_t id)
 {
-    context.host();
-    item.calendarItemType(kind);
-    item.itemID(id);
-    const bool found = item.loadCalendarItem();
-    context.throwIfComponentFailed();
-    if (!found)
-        throw Failure("no " + std::string(kindNoun(kind)) + " " + std::to_string(id));
-    host::notifyTheDayBefore(item);
+    load(context.errors(), item, kind, id);
 }
 
 void save(CommandContext& context, clsCalendarItem& item, std::string_view done)
 {
-    const bool saved = host::saveItem(item);
-    context.throwIfComponentFailed();
-    if (!saved)
-        throw Failure("the item was not saved");
+    save(context.errors(), item);
     if (context.options().json)
         context.printJson(itemJson(item));
     else

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "items/clsCalendarItem.h"
+#include "common/itemActions.h"
 
 #include <CLI/App.hpp>
 
@@ -29,8 +29,6 @@ void load(CommandContext& context, clsCalendarItem& item, enumLocalCalendarItemT
 void load(CommandContext& context, clsCalendarItem& item, const ItemReference& reference);
 /// Saves the item and prints it: as JSON, or described behind the word. Throws `Failure` when it was not saved.
 void save(CommandContext& context, clsCalendarItem& item, std::string_view done);
-/// "appointment 12: Tue, Mar 31, 2026, 09:30-10:00, Year-end review"
-std::string describe(clsCalendarItem& item);
 /// Asks, then deletes with reminders and notifications.
 void deleteItem(CommandContext& context, enumLocalCalendarItemType kind, std::int32_t id);
 /// Moves a task's row to the archive of tasks, under its number.

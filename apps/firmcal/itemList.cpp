@@ -1,11 +1,11 @@
+#include "common/Failure.h"
+#include "common/itemKind.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/Table.h"
 #include "firmcal/clientLookup.h"
 #include "firmcal/itemCommands.h"
-#include "firmcal/itemKind.h"
-#include "firmcal/itemRows.h"
-#include "firmcal/valueText.h"
+#include "firmcal/itemRowJson.h"
 
 #include <nlohmann/json.hpp>
 

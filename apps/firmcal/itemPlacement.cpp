@@ -1,8 +1,7 @@
+#include "common/itemKind.h"
+#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/itemCommands.h"
-#include "firmcal/itemKind.h"
-#include "firmcal/valueText.h"
 #include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>
@@ -26,21 +25,6 @@ struct MoveOptions {
     bool best = false;
 };
 
-/// An item lies within one day: an end after midnight would come round to the morning.
-void refuseEndAfterMidnight(clsCalendarItem& item)
-{
-    if (item.TimeTo().dateOnly().serial() != 0.0 || item.TimeTo() < item.TimeFrom())
-        throw Failure("the item would begin at " + timeText(item.TimeFrom()) + " and end after midnight");
-}
-
-void placeBest(CommandContext& context, clsCalendarItem& item, Date day)
-{
-    item.moveCalendarItemToNewDateAndBestTimeInCalendar(day);
-    item.determineEndTimeFromTimeDuration();
-    context.throwIfComponentFailed();
-    refuseEndAfterMidnight(item);
-}
-
 void saveMoved(CommandContext& context, clsCalendarItem& item)
 {
     host::notifyTheDayBefore(item);
@@ -51,7 +35,7 @@ void findBestTime(CommandContext& context, const BestTimeOptions& options)
 {
     clsCalendarItem item;
     load(context, item, options.item);
-    placeBest(context, item, item.DateFrom());
+    placeBest(context.errors(), item, item.DateFrom());
     if (options.apply)
         return saveMoved(context, item);
     if (context.options().json)
@@ -69,7 +53,7 @@ void moveItem(CommandContext& context, const MoveOptions& options)
     clsCalendarItem item;
     load(context, item, options.item);
     if (options.best) {
-        placeBest(context, item, day);
+        placeBest(context.errors(), item, day);
     } else {
         item.moveCalendarItemToNewDateAndHourSlot(day, options.hasHour ? Date::timeOf(options.hour) : item.TimeFrom());
         context.throwIfComponentFailed();

@@ -1,6 +1,6 @@
+#include "common/Failure.h"
 #include "core/schema.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/itemCommands.h"
 #include "services/Rows.h"
 
@@ -9,14 +9,6 @@
 namespace qncal::firmcal {
 
 namespace {
-
-void deleteLoaded(CommandContext& context, clsCalendarItem& item)
-{
-    const bool deleted = item.deleteCalendarItem();
-    context.throwIfComponentFailed();
-    if (!deleted)
-        throw Failure("the item was not deleted");
-}
 
 void copyToArchive(DatabaseService& database, std::int32_t taskID)
 {
@@ -41,11 +33,8 @@ void deleteItem(CommandContext& context, enumLocalCalendarItemType kind, std::in
     clsCalendarItem item;
     load(context, item, kind, id);
     const std::string description = describe(item);
-    const std::int16_t answer = context.host().messages().askQuestion("Delete " + description + "?",
-                                                                      MessageDialogService::informationStyle, nullptr);
-    if (answer != MessageDialogService::answerYes)
+    if (!removeAfterQuestion(context.errors(), context.host().messages(), item))
         throw Failure("nothing deleted");
-    deleteLoaded(context, item);
     context.out() << "Deleted " << description << '\n';
 }
 
@@ -55,7 +44,7 @@ void archiveTask(CommandContext& context, std::int32_t id)
     load(context, item, enumLocalCalendarTaskItem, id);
     const std::string description = describe(item);
     copyToArchive(context.host().database(), id);
-    deleteLoaded(context, item);
+    remove(context.errors(), item);
     context.out() << "Archived " << description << '\n';
 }
 

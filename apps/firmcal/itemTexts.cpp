@@ -1,8 +1,8 @@
 #include "firmcal/itemTexts.h"
 
+#include "common/itemKind.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/itemCommands.h"
-#include "firmcal/itemKind.h"
 #include "firmcal/templateText.h"
 
 #include <nlohmann/json.hpp>

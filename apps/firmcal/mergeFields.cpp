@@ -1,6 +1,6 @@
 #include "firmcal/mergeFields.h"
 
-#include "firmcal/Failure.h"
+#include "common/Failure.h"
 #include "templates/mergeFieldCodes.h"
 #include "utilities/text.h"
 

@@ -1,7 +1,7 @@
 #include "firmcal/newDatabase.h"
 
+#include "common/Failure.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "store/SqliteDatabase.h"
 
 #include <filesystem>

@@ -1,8 +1,8 @@
 #include "firmcal/templateText.h"
 
+#include "common/Failure.h"
 #include "controls/richTextStream.h"
 #include "firmcal/CommandContext.h"
-#include "firmcal/Failure.h"
 #include "firmcal/mergeFields.h"
 #include "services/HostEnvironment.h"
 #include "templates/delimiters.h"

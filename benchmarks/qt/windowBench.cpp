@@ -1,7 +1,7 @@
 #include "compare.h"
 #include "controls/Form.h"
 #include "items/frmSelectStartTime.h"
-#include "qt/WindowRegistry.h"
+#include "qt/WindowClasses.h"
 #include "settings/ColourSchemePage.h"
 #include "settings/frmApptCustomFields.h"
 #include "settings/frmApptStatusOptions.h"
@@ -51,7 +51,7 @@ void openWindow(benchmark::State& state, double atMost)
 {
     startQt();
     FormType form;
-    const host::WindowRegistry windows = host::standardWindows();
+    const host::WindowClasses windows = host::standardWindows();
     for (auto _ : state) {
         const std::unique_ptr<host::FormWindow> window(windows.make(form, nullptr));
         showOnce(*window);

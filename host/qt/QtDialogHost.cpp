@@ -53,20 +53,18 @@ FormWindow* QtDialogHost::windowOf(const Form& form) const
     return found == shown_.end() ? nullptr : found->window.data();
 }
 
-QWidget* QtDialogHost::owner() const
+QWidget* QtDialogHost::windowInFront() const
 {
     if (QWidget* modal = QApplication::activeModalWidget())
         return modal;
-    for (auto shown = shown_.rbegin(); shown != shown_.rend(); ++shown)
-        if (shown->window && shown->window->isActiveWindow())
-            return shown->window;
-    return mainWindow_;
+    QWidget* active = QApplication::activeWindow();
+    return active ? active : mainWindow_.data();
 }
 
 FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
 {
     turn();
-    FormWindow* window = windows_.make(form, owner());
+    FormWindow* window = windows_.make(form, windowInFront());
     window->setModal(loop != nullptr);
     shown_.push_back({&form, window, loop});
     // Handlers that run while the window comes up may take the form away again.
@@ -185,14 +183,14 @@ void QtDialogHost::runProgress(ProgressDialog& dialog)
         return;
     }
     turn();
-    ProgressWindow window(dialog, owner());
+    ProgressWindow window(dialog, windowInFront());
     window.run();
 }
 
 bool QtDialogHost::print(const RichTextBox& box)
 {
     turn();
-    return qApp && printRichText(box.textRTF(), owner(), choosePrinter_);
+    return qApp && printRichText(box.textRTF(), windowInFront(), choosePrinter_);
 }
 
 std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
@@ -200,7 +198,7 @@ std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
     if (!qApp)
         return {};
     turn();
-    QColorDialog dialog(toQtColour(current), owner());
+    QColorDialog dialog(toQtColour(current), windowInFront());
     dialog.setObjectName("pickColour");
     if (dialog.exec() != QDialog::Accepted)
         return {};
@@ -217,7 +215,7 @@ std::optional<FontChoice> QtDialogHost::pickFont(const FontChoice& current)
         shown.setPointSizeF(current.points);
     shown.setBold(current.bold);
     shown.setItalic(current.italic);
-    QFontDialog dialog(shown, owner());
+    QFontDialog dialog(shown, windowInFront());
     dialog.setObjectName("pickFont");
     if (dialog.exec() != QDialog::Accepted)
         return {};
@@ -230,7 +228,7 @@ void QtDialogHost::popUpMenu(MenuItem& menu)
     if (!qApp)
         return;
     turn();
-    const std::unique_ptr<QMenu> shown(newMenuFor(menu, owner()));
+    const std::unique_ptr<QMenu> shown(newMenuFor(menu, windowInFront()));
     shown->exec(QCursor::pos());
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "controls/DialogHost.h"
-#include "qt/WindowRegistry.h"
+#include "qt/WindowClasses.h"
 
 #include <QMetaObject>
 #include <QPointer>
@@ -18,11 +18,13 @@ namespace qncal::host {
 /// return at once as if closed.
 class QtDialogHost : public DialogHost {
 public:
-    explicit QtDialogHost(WindowRegistry windows = standardWindows()) : windows_(std::move(windows)) {}
+    explicit QtDialogHost(WindowClasses windows = standardWindows()) : windows_(std::move(windows)) {}
     ~QtDialogHost() override;
 
-    /// Windows open in front of this one when no other form is open.
+    /// Windows open in front of this one when none is active.
     void mainWindow(QWidget* window) { mainWindow_ = window; }
+    /// What a new window opens in front of: the active window, or the main window while another program is in front.
+    QWidget* windowInFront() const;
     /// The window of a form that is shown, none otherwise.
     FormWindow* windowOf(const Form& form) const;
     /// Asks for the printer before a text is printed; False cancels. The print dialog unless set.
@@ -58,10 +60,8 @@ private:
     FormWindow* open(Form& form, QEventLoop* loop);
     void placeByMainWindow(FormWindow& window) const;
     std::vector<Shown>::iterator find(const Form& form);
-    /// What a new window opens in front of.
-    QWidget* owner() const;
 
-    WindowRegistry windows_;
+    WindowClasses windows_;
     std::vector<Shown> shown_;
     QPointer<QWidget> mainWindow_;
     std::function<bool(QPrinter& printer)> choosePrinter_;

@@ -1,4 +1,5 @@
-# Installs BUILD, builds SOURCE/examples/embedding against the installed files in both ways, and compares what it prints.
+# Installs BUILD, builds the examples of SOURCE against the installed files, with the CMake package and with pkg-config, and
+# compares what they print. The one over Qt is left out where BUILD has no Qt.
 
 cmake_minimum_required(VERSION 3.25)
 
@@ -17,24 +18,36 @@ function(run)
     set(output "${output}" PARENT_SCOPE)
 endfunction()
 
-function(runExample program)
-    run(${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${prefix}/${LIBDIR} ${program})
-    file(READ ${SOURCE}/examples/embedding/expected.txt expected)
+# Runs a program in an environment without a display.
+function(runExample example program)
+    run(${CMAKE_COMMAND} -E env LD_LIBRARY_PATH=${prefix}/${LIBDIR} QT_QPA_PLATFORM=offscreen ${program})
+    file(READ ${SOURCE}/examples/${example}/expected.txt expected)
     if(NOT output STREQUAL expected)
         message(FATAL_ERROR "${program} printed\n${output}\ninstead of\n${expected}")
     endif()
 endfunction()
 
+function(buildWithPackage example program)
+    run(${CMAKE_COMMAND} -S ${SOURCE}/examples/${example} -B ${work}/${example} -G Ninja
+        -D CMAKE_PREFIX_PATH=${prefix} -D CMAKE_CXX_COMPILER=${COMPILER} "-D CMAKE_CXX_FLAGS=${FLAGS}")
+    run(${CMAKE_COMMAND} --build ${work}/${example})
+    runExample(${example} ${work}/${example}/${program})
+endfunction()
+
+function(buildWithPkgConfig example)
+    run(pkg-config --cflags --libs ${ARGN})
+    string(STRIP "${output}" flags)
+    separate_arguments(flags UNIX_COMMAND "${flags}")
+    run(${COMPILER} -std=c++20 ${FLAGS} -fPIC ${SOURCE}/examples/${example}/main.cpp -o ${work}/${example}-pkg ${flags})
+    runExample(${example} ${work}/${example}-pkg)
+endfunction()
+
 run(${CMAKE_COMMAND} --install ${BUILD} --prefix ${prefix})
-
-run(${CMAKE_COMMAND} -S ${SOURCE}/examples/embedding -B ${work}/package -G Ninja -D CMAKE_PREFIX_PATH=${prefix}
-    -D CMAKE_CXX_COMPILER=${COMPILER} "-D CMAKE_CXX_FLAGS=${FLAGS}")
-run(${CMAKE_COMMAND} --build ${work}/package)
-runExample(${work}/package/embedding)
-
 set(ENV{PKG_CONFIG_PATH} ${prefix}/${LIBDIR}/pkgconfig)
-run(pkg-config --cflags --libs calhost)
-string(STRIP "${output}" flags)
-separate_arguments(flags UNIX_COMMAND "${flags}")
-run(${COMPILER} -std=c++20 ${FLAGS} ${SOURCE}/examples/embedding/main.cpp -o ${work}/embedding ${flags})
-runExample(${work}/embedding)
+
+buildWithPackage(embedding embedding)
+buildWithPkgConfig(embedding calhost)
+if(EXISTS ${prefix}/${LIBDIR}/pkgconfig/calhostqt.pc)
+    buildWithPackage(embedding-qt embeddingQt)
+    buildWithPkgConfig(embedding-qt calhostqt calhost)
+endif()

@@ -4,7 +4,8 @@
 
 namespace qncal::host {
 
-/// A form that is the page "Colour Schemes" and nothing else: "frmColourSchemes".
+/// "frmColourSchemes": a form with the page "Colour Schemes". With the controls of the page "Cell Background" it shows
+/// both as tabs, with `cmdClose` that button.
 class ColourSchemesWindow : public FormWindow {
 public:
     explicit ColourSchemesWindow(Form& form, QWidget* parent = nullptr);

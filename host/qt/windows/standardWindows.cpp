@@ -1,4 +1,4 @@
-#include "qt/WindowRegistry.h"
+#include "qt/WindowClasses.h"
 #include "qt/windows/ColourSchemesWindow.h"
 #include "qt/windows/FieldNamesWindow.h"
 #include "qt/windows/SelectTimeWindow.h"
@@ -7,9 +7,9 @@
 
 namespace qncal::host {
 
-WindowRegistry standardWindows()
+WindowClasses standardWindows()
 {
-    WindowRegistry windows;
+    WindowClasses windows;
     windows.add<FieldNamesWindow>("frmChangeApptStatusFields");
     windows.add<FieldNamesWindow>("frmApptCustomFields");
     windows.add<StatusOptionsWindow>("frmApptStatusOptions");

@@ -11,15 +11,18 @@
 #include "qt/widgets/ColourButton.h"
 #include "qt/widgets/DateTimeEdit.h"
 #include "qt/widgets/RichTextEdit.h"
+#include "settings/CellBackgroundPage.h"
 #include "settings/ColourSchemePage.h"
 #include "templates/frmTestComment.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScrollArea>
 #include <QTreeWidget>
 
 namespace qncal::test {
@@ -102,6 +105,7 @@ TEST_F(ColourSchemesWindowTest, ANameIsStoredAtEachKeyAndTakesItsPlace)
         QCoreApplication::processEvents();
         picture(window, "frmColourSchemes");
         auto& list = widget<QTreeWidget>(window, "lvSchemes");
+        EXPECT_EQ(window.windowTitle(), "Colour Schemes");
         EXPECT_EQ(list.currentItem()->text(0), "Amber");
         type(window, "txtSchemeName", "Zebra");
         QCoreApplication::processEvents();
@@ -141,6 +145,46 @@ TEST_F(ColourSchemesWindowTest, SchemesAreAddedAndDeletedByTheMouse)
     });
     form.showModal();
     EXPECT_EQ(rowCount("ColourSchemes"), 2);
+}
+
+/// The window of the form with both pages of colours.
+struct ColourPagesForm : ColourSchemesForm {
+    ColourPagesForm()
+    {
+        close.caption("Close");
+        close.isCancel(true);
+        close.Click = [this] { unload(); };
+    }
+    CellBackgroundPage cells{*this};
+    CommandButton close{*this, "cmdClose"};
+};
+
+struct CellBackgroundTest : QtDialogTest {
+    CellBackgroundTest()
+    {
+        for (int day = 0; day < 7; ++day)
+            form.cells.cpDayViewBackColour(day).colour(0x010101 * (255 - 20 * day));
+        form.page.setup(enumLocalCalendarAppointmentItem);
+    }
+    ColourPagesForm form;
+};
+
+TEST_F(CellBackgroundTest, TheWeekTakesTheColoursOfTheDay)
+{
+    whenShown("frmColourSchemes", [&](host::FormWindow& window) {
+        EXPECT_EQ(window.windowTitle(), "Colour Schemes");
+        auto& same = widget<QCheckBox>(window, "chkUseSameColours(0)");
+        EXPECT_TRUE(same.isVisible());
+        QTest::keyClick(&same, Qt::Key_Space);
+        EXPECT_EQ(form.cells.cpWeekViewBackColour(6).colour(), form.cells.cpDayViewBackColour(6).colour());
+        EXPECT_NE(form.cells.cpMonthViewBackColour(6).colour(), form.cells.cpDayViewBackColour(6).colour());
+        picture(window, "cellBackground");
+        QTest::keyClick(&window, Qt::Key_C, Qt::AltModifier);
+        EXPECT_TRUE(widget<QTreeWidget>(window, "lvSchemes").isVisible());
+        QTest::keyClick(&window, Qt::Key_Escape);
+        EXPECT_FALSE(window.isVisible());
+    });
+    form.showModal();
 }
 
 struct TestCommentWindowTest : QtDialogTest {
@@ -228,12 +272,27 @@ TEST_F(PlainWindowTest, ShowsEveryControlOfAFormWithoutAWindowClass)
     whenShown("frmEverything", [&](host::FormWindow& window) {
         window.resize(window.width(), 960);
         picture(window, "plain");
+        const auto& area = *window.findChild<QScrollArea*>();
+        EXPECT_EQ(area.widget()->width(), area.viewport()->width()) << "no column is cut off";
         for (const Control* control : form.controls())
             EXPECT_TRUE(window.findChild<QObject*>(QString::fromStdString(control->path()))) << control->path();
         type(window, "txtName", "Ann");
         EXPECT_EQ(form.name.text(), "Ann");
         ASSERT_TRUE(window.findChild<QMenuBar*>());
         QTest::keyClick(&window, Qt::Key_O, Qt::AltModifier);
+    });
+    form.showModal();
+}
+
+TEST_F(PlainWindowTest, AFormWithoutControlsHasATitleToBeSeenAndIsClosedByItsBox)
+{
+    Form form("frmNothing");
+    form.caption("Nothing to see");
+    whenShown("frmNothing", [&](host::FormWindow& window) {
+        EXPECT_GE(window.width(), window.fontMetrics().horizontalAdvance(window.windowTitle()));
+        picture(window, "plain-empty");
+        window.close();
+        EXPECT_FALSE(window.isVisible());
     });
     form.showModal();
 }

@@ -1,10 +1,10 @@
-#include "qt/WindowRegistry.h"
+#include "qt/WindowClasses.h"
 
 #include "qt/windows/PlainWindow.h"
 
 namespace qncal::host {
 
-FormWindow* WindowRegistry::make(Form& form, QWidget* parent) const
+FormWindow* WindowClasses::make(Form& form, QWidget* parent) const
 {
     if (const auto found = factories_.find(form.name()); found != factories_.end()) {
         try {

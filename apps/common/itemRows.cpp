@@ -1,12 +1,10 @@
-#include "firmcal/itemRows.h"
+#include "common/itemRows.h"
 
+#include "common/valueText.h"
 #include "core/calendarItemKinds.h"
-#include "firmcal/itemKind.h"
-#include "firmcal/valueText.h"
 #include "services/ClientDropDown.h"
 #include "services/Rows.h"
-
-#include <nlohmann/json.hpp>
+#include "utilities/readableValue.h"
 
 #include <algorithm>
 #include <tuple>
@@ -43,19 +41,39 @@ Date dateOf(const host::Rows& rows, std::string_view field)
     return value.isNull() ? Date() : value.toDate();
 }
 
+ItemRow rowOf(enumLocalCalendarItemType kind, const std::string& key, const host::Rows& rows)
+{
+    ItemRow row;
+    row.kind = kind;
+    row.id = rows.integer(key);
+    row.date = dateOf(rows, "DateFrom").dateOnly();
+    row.timeFrom = dateOf(rows, "TimeFrom").timeOnly();
+    row.timeTo = dateOf(rows, "TimeTo").timeOnly();
+    row.subject = rows.text("Subject");
+    row.userID = rows.integer("UserIDNum");
+    row.companyID = rows.integer("CompanyIDNum");
+    row.contactID = rows.integer("ContactIDNum");
+    for (std::size_t i = 0; i < row.statuses.size(); ++i)
+        row.statuses[i] = booleanIn(rows.field("Status" + std::to_string(i + 1))).value_or(false);
+    row.backColour = integerIn(rows.field("BackColour"));
+    row.foreColour = integerIn(rows.field("ForeColour"));
+    row.titleBackColour = integerIn(rows.field("TitleBackColour"));
+    return row;
+}
+
 void readItemsOf(enumLocalCalendarItemType kind, DatabaseService& database, const ItemFilter& filter,
                  std::vector<ItemRow>& items)
 {
     const CalendarItemKind& names = calendarItemKind(kind);
     const std::string table = filter.archived ? archiveTable(names.tableName) : std::string(names.tableName);
     const std::string key = filter.archived ? archiveKey(names.fieldName) : std::string(names.fieldName);
-    const std::string columns = key + ", DateFrom, TimeFrom, TimeTo, Subject, UserIDNum, CompanyIDNum, ContactIDNum";
+    const std::string columns =
+        key
+        + ", DateFrom, TimeFrom, TimeTo, Subject, UserIDNum, CompanyIDNum, ContactIDNum, "
+          "Status1, Status2, Status3, Status4, Status5, BackColour, ForeColour, TitleBackColour";
     const std::string sql = "SELECT " + columns + " FROM " + table + conditionsOf(database, filter) + ";";
-    for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext()) {
-        items.push_back({kind, rows.integer(key), dateOf(rows, "DateFrom").dateOnly(),
-                         dateOf(rows, "TimeFrom").timeOnly(), dateOf(rows, "TimeTo").timeOnly(), rows.text("Subject"),
-                         rows.integer("UserIDNum"), rows.integer("CompanyIDNum"), rows.integer("ContactIDNum")});
-    }
+    for (host::Rows rows = host::Rows::read(database, sql); !rows.atEnd(); rows.moveNext())
+        items.push_back(rowOf(kind, key, rows));
 }
 
 } // namespace
@@ -78,21 +96,6 @@ std::string clientName(host::ClientDropDown& clients, std::int32_t companyID, st
     if (companyID >= 0)
         return clients.getCompanyName(companyID);
     return contactID >= 0 ? clients.getContactName(contactID) : std::string();
-}
-
-nlohmann::ordered_json rowJson(const ItemRow& row, host::ClientDropDown& clients)
-{
-    return {{"kind", kindWord(row.kind)},
-            {"itemID", row.id},
-            {"DateFrom", dayText(row.date)},
-            {"TimeFrom", timeText(row.timeFrom)},
-            {"TimeTo", timeText(row.timeTo)},
-            {"Subject", row.subject},
-            {"userIDNum", row.userID},
-            {"user", clients.getUserName(row.userID)},
-            {"companyIDNum", row.companyID},
-            {"contactIDNum", row.contactID},
-            {"client", clientName(clients, row.companyID, row.contactID)}};
 }
 
 } // namespace qncal::firmcal

@@ -9,7 +9,7 @@
 namespace qncal::host {
 
 /// Knows the window class of each form by the form's name.
-class WindowRegistry {
+class WindowClasses {
 public:
     using Factory = std::function<FormWindow*(Form& form, QWidget* parent)>;
 
@@ -30,6 +30,6 @@ private:
 };
 
 /// The windows of the component's forms.
-WindowRegistry standardWindows();
+WindowClasses standardWindows();
 
 } // namespace qncal::host

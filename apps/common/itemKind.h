@@ -2,10 +2,7 @@
 
 #include "core/enumerations.h"
 
-#include <CLI/App.hpp>
-
 #include <array>
-#include <string>
 #include <string_view>
 
 namespace qncal::firmcal {
@@ -19,7 +16,5 @@ enumLocalCalendarItemType readKind(std::string_view text);
 std::string_view kindNoun(enumLocalCalendarItemType kind);
 /// As it is written behind `--kind`: "appointment", "task", "docket".
 std::string_view kindWord(enumLocalCalendarItemType kind);
-/// The option `--kind`.
-CLI::Option* addKindOption(CLI::App& command, std::string& kind);
 
 } // namespace qncal::firmcal

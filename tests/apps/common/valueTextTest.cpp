@@ -1,6 +1,6 @@
-#include "firmcal/valueText.h"
+#include "common/valueText.h"
 
-#include "firmcal/Failure.h"
+#include "common/Failure.h"
 #include "utilities/Clock.h"
 
 #include <gtest/gtest.h>

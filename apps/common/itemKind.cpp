@@ -1,7 +1,7 @@
-#include "firmcal/itemKind.h"
+#include "common/itemKind.h"
 
+#include "common/Failure.h"
 #include "core/calendarItemKinds.h"
-#include "firmcal/Failure.h"
 #include "utilities/text.h"
 
 namespace qncal::firmcal {
@@ -22,10 +22,5 @@ std::string_view kindNoun(enumLocalCalendarItemType kind)
 }
 
 std::string_view kindWord(enumLocalCalendarItemType kind) { return calendarItemKind(kind).typeName; }
-
-CLI::Option* addKindOption(CLI::App& command, std::string& kind)
-{
-    return command.add_option("-k,--kind", kind, "appointment (the default), task or docket")->type_name("KIND");
-}
 
 } // namespace qncal::firmcal

@@ -4,8 +4,7 @@
 #include "core/enumerations.h"
 #include "utilities/Date.h"
 
-#include <nlohmann/json_fwd.hpp>
-
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -42,6 +41,12 @@ struct ItemRow {
     std::int32_t userID = -1;
     std::int32_t companyID = -1;
     std::int32_t contactID = -1;
+    /// The columns `Status1` to `Status5`.
+    std::array<bool, 5> statuses{};
+    /// The item's own colours, red in the low byte; none where the column holds no number.
+    std::optional<std::int32_t> backColour;
+    std::optional<std::int32_t> foreColour;
+    std::optional<std::int32_t> titleBackColour;
 };
 
 /// In order of date, start and kind.
@@ -50,6 +55,5 @@ std::vector<ItemRow> readItems(DatabaseService& database, const ItemFilter& filt
 /// "09:00-10:00"
 std::string timesText(const ItemRow& row);
 std::string clientName(host::ClientDropDown& clients, std::int32_t companyID, std::int32_t contactID);
-nlohmann::ordered_json rowJson(const ItemRow& row, host::ClientDropDown& clients);
 
 } // namespace qncal::firmcal
