@@ -89,7 +89,8 @@ void ComboBox::text(std::string text)
         updated.raise();
         raise(Change);
     }
-    if (rowChanged)
+    // That no row is selected any more is told by Change: nothing was clicked.
+    if (rowChanged && row >= 0)
         raiseClick();
 }
 

@@ -75,7 +75,8 @@ public:
 
     const std::string& text() const { return text_; }
     /// Sets the text and selects the first row that reads so, none when there is none; a selected row that reads so
-    /// already stays. A fixed box is left without a text when no row reads so.
+    /// already stays. A fixed box is left without a text when no row reads so. A change of the text raises Change, a
+    /// row that comes to be selected Click.
     void text(std::string text);
     /// What a user does who picks a row from the open list: selects it, and raises Click even when it was the selected
     /// one already. An index outside of the list is ignored.

@@ -6,6 +6,7 @@
 
 class QComboBox;
 class QTextEdit;
+class QToolButton;
 
 namespace qncal::host {
 
