@@ -3,9 +3,6 @@
 #include "utilities/Date.h"
 #include "utilities/dateText.h"
 
-#include <cstdlib>
-#include <stdexcept>
-#include <system_error>
 #include <utility>
 
 namespace qncal::bench {
@@ -43,20 +40,6 @@ std::string sampleValue(const schema::Column& column, int number)
     default:
         return std::to_string(number % 50);
     }
-}
-
-TemporaryFolder::TemporaryFolder()
-{
-    std::string name = (std::filesystem::temp_directory_path() / "qncalBenchXXXXXX").string();
-    if (!mkdtemp(name.data()))
-        throw std::runtime_error("no temporary folder");
-    path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
 }
 
 BenchFile::BenchFile()

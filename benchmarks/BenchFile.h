@@ -2,10 +2,10 @@
 
 #include "core/schema.h"
 #include "store/SqliteDatabase.h"
+#include "support/TemporaryFolder.h"
 
 #include <sqlite3.h>
 
-#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -20,19 +20,6 @@ inline constexpr int companyCount = 50;
 
 /// A likely value of a column, in the texts that the store takes.
 std::string sampleValue(const schema::Column& column, int number);
-
-/// A folder that goes with the object.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
-
-private:
-    std::filesystem::path path_;
-};
 
 /// A temporary database file with appointments, tasks, companies and labels of custom fields. The store has it open,
 /// and beside it a bare connection with the same settings.
@@ -55,7 +42,7 @@ public:
     void readRaw(const schema::Table& table, int key, std::vector<std::string>& values);
 
 private:
-    TemporaryFolder folder_;
+    test::TemporaryFolder folder_;
     std::shared_ptr<host::SqliteDatabase> store_;
     sqlite3* raw_ = nullptr;
     std::unordered_map<std::string, sqlite3_stmt*> statements_;

@@ -23,7 +23,7 @@ using bench::HeapUse;
 using bench::itemCount;
 using bench::run;
 using bench::sampleValue;
-using bench::TemporaryFolder;
+using test::TemporaryFolder;
 
 const std::string allTasks = "SELECT Tasks.* FROM Tasks;";
 

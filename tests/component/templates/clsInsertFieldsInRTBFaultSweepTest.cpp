@@ -222,6 +222,64 @@ std::vector<SweptRoutine> valueRoutines()
     };
 }
 
+/// What a routine makes of a text in place, which after a failure is as it was.
+SweptRoutine onText(const char* name, const char* text, std::function<void(clsInsertFieldsInRTB&, std::string&)> call)
+{
+    return onEngine(
+        name, text,
+        [text, call](clsInsertFieldsInRTB& engine) {
+            std::string changed = text;
+            call(engine, changed);
+            return changed;
+        },
+        false);
+}
+
+/// What a routine inserts into the rich-text control.
+SweptRoutine onControl(const char* name, std::function<void(clsInsertFieldsInRTB&)> call)
+{
+    class RichText : public RichTextTarget {
+    public:
+        std::string inserted;
+        Variant SelStart() const override { return 3; }
+        void insertText(std::string_view text, std::int32_t position) override
+        {
+            inserted += std::string(text) + " at " + std::to_string(position);
+        }
+    };
+    return onEngine(
+        name, "",
+        [call](clsInsertFieldsInRTB& engine) {
+            const auto control = std::make_shared<RichText>();
+            engine.RTB(control);
+            call(engine);
+            return control->inserted;
+        },
+        false);
+}
+
+std::vector<SweptRoutine> textRoutines()
+{
+    using Engine = clsInsertFieldsInRTB;
+    return {
+        onText("ReplaceText", "a «b»", [](Engine& engine, std::string& text) { engine.replaceText(text, "«b»", "c"); }),
+        onText("ReplaceUnfoundMergeFieldsWithBlanks", "a «Nobody» b",
+               [](Engine& engine, std::string& text) { engine.replaceUnfoundMergeFieldsWithBlanks(text); }),
+        onControl("OnListClick", [](Engine& engine) { engine.onListClick(1); }),
+        onControl("InsertCurrentDate", [](Engine& engine) { engine.insertCurrentDate(3); }),
+        onEngine(
+            "ConvertFieldName", "", [](Engine& engine) { return engine.convertFieldName("«a»"); }, false),
+        onEngine(
+            "RemoveBlankLines", "", [](Engine& engine) { return engine.removeBlankLinesFromRTFText("a"); }, false),
+        onEngine(
+            "GetDBFieldNameFromDisplayFieldName", "",
+            [](Engine& engine) { return engine.getDBFieldNameFromDisplayFieldName("Appointment Date"); }, false),
+        onEngine(
+            "GetDisplayFieldNameFromDBFieldName", "",
+            [](Engine& engine) { return engine.getDisplayFieldNameFromDBFieldName("DateFrom"); }, false),
+    };
+}
+
 class clsInsertFieldsInRTBFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 } // namespace
@@ -234,6 +292,7 @@ TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryEmptySlotLeaves) { expectEmptySl
 INSTANTIATE_TEST_SUITE_P(Routines, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(routines()), rowName);
 INSTANTIATE_TEST_SUITE_P(Catalogue, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(catalogueRoutines()),
                          rowName);
+INSTANTIATE_TEST_SUITE_P(Texts, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(textRoutines()), rowName);
 INSTANTIATE_TEST_SUITE_P(Values, clsInsertFieldsInRTBFaultSweepTest, testing::ValuesIn(valueRoutines()), rowName);
 
 } // namespace qncal::test

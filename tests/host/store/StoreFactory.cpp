@@ -1,22 +1,6 @@
 #include "host/store/StoreFactory.h"
 
-#include <cstdlib>
-
 namespace qncal::host {
-
-TemporaryFolder::TemporaryFolder()
-{
-    std::string name = (std::filesystem::temp_directory_path() / "qncalStoreXXXXXX").string();
-    if (!mkdtemp(name.data()))
-        throw std::runtime_error("no temporary folder");
-    path_ = name;
-}
-
-TemporaryFolder::~TemporaryFolder()
-{
-    std::error_code ignored;
-    std::filesystem::remove_all(path_, ignored);
-}
 
 const std::vector<StoreFactory>& storeFactories()
 {

@@ -2,10 +2,10 @@
 
 #include "core/DatabaseService.h"
 #include "store/SqliteDatabase.h"
+#include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <functional>
 #include <memory>
 #include <string>
@@ -14,19 +14,7 @@ namespace qncal::host {
 
 inline const std::string allAppointments = "SELECT Appointments.* FROM Appointments;";
 
-/// A folder of its own for a test, removed at the end.
-class TemporaryFolder {
-public:
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-    std::string file(const std::string& name) const { return (path_ / name).string(); }
-    const std::filesystem::path& path() const { return path_; }
-
-private:
-    std::filesystem::path path_;
-};
+using qncal::test::TemporaryFolder;
 
 /// A store as the contract suite sees it: where it comes from, and what happens to it between two steps.
 struct StoreFactory {

@@ -1,11 +1,10 @@
 #include "host/store/OtherProgram.h"
 #include "host/store/StoreFactory.h"
+#include "host/store/programsAtOnce.h"
 
 #include "store/storeError.h"
 
 #include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <chrono>
 #include <future>
@@ -37,25 +36,7 @@ TEST_F(ConcurrentProcessTest, AMigrationLooksAgainUnderTheLock)
 
 TEST_F(ConcurrentProcessTest, ProgramsThatMakeTheSameFileAtOnceAllOpenIt)
 {
-    constexpr int programs = 4;
-    pid_t children[programs] = {};
-    for (pid_t& child : children) {
-        child = fork();
-        if (child != 0)
-            continue;
-        // The child must not run the parent's tests or exit handlers.
-        try {
-            SqliteDatabase::create(path_)->close();
-            _exit(0);
-        } catch (const std::exception&) {
-            _exit(1);
-        }
-    }
-    for (const pid_t child : children) {
-        int status = -1;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_EQ(status, 0);
-    }
+    runInProgramsAtOnce(4, [this] { SqliteDatabase::create(path_)->close(); });
 }
 
 TEST_F(ConcurrentProcessTest, TheSameRecordWrittenByTwoStoresKeepsBothFields)

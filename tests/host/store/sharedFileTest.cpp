@@ -1,6 +1,6 @@
 #include "host/store/SqliteDatabaseTest.h"
+#include "host/store/programsAtOnce.h"
 
-#include <sys/wait.h>
 #include <unistd.h>
 
 #include <set>
@@ -17,27 +17,12 @@ TEST_F(SharedFileTest, TwoProcessesThatAddAtOnceLoseNothingAndShareNoKey)
     constexpr int processes = 2;
     constexpr int records = 300;
     SqliteDatabase::create(path_)->close();
-    pid_t children[processes] = {};
-    for (pid_t& child : children) {
-        child = fork();
-        if (child != 0)
-            continue;
-        // The child must not run the parent's tests or exit handlers.
-        try {
-            auto store = SqliteDatabase::open(path_);
-            for (int i = 0; i < records; ++i)
-                addAppointment(*store, std::to_string(getpid()));
-            store->close();
-            _exit(0);
-        } catch (const std::exception&) {
-            _exit(1);
-        }
-    }
-    for (const pid_t child : children) {
-        int status = -1;
-        ASSERT_EQ(waitpid(child, &status, 0), child);
-        EXPECT_EQ(status, 0);
-    }
+    runInProgramsAtOnce(processes, [this] {
+        auto store = SqliteDatabase::open(path_);
+        for (int i = 0; i < records; ++i)
+            addAppointment(*store, std::to_string(getpid()));
+        store->close();
+    });
     auto store = SqliteDatabase::open(path_);
     std::set<std::int32_t> keys;
     const auto handle = openUpdatable(*store, allAppointments);
