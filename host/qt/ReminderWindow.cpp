@@ -37,7 +37,7 @@ ReminderWindow::ReminderWindow(QWidget* parent)
     layout->addWidget(list_, 1);
     layout->addWidget(note_);
     addAnswers();
-    resize(fontMetrics().averageCharWidth() * 110, fontMetrics().height() * 18);
+    resize(fontMetrics().averageCharWidth() * 130, fontMetrics().height() * 18);
     connect(list_, &QTreeWidget::itemSelectionChanged, this, [this] { showState(); });
     note({});
     showState();

@@ -27,13 +27,10 @@ ReminderList::ReminderList(QWidget* parent) : QTreeWidget(parent)
     setSelectionMode(ExtendedSelection);
     setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
-    setWordWrap(true);
     header()->setStretchLastSection(false);
     header()->setSectionResizeMode(dueColumn, QHeaderView::ResizeToContents);
     header()->setSectionResizeMode(textColumn, QHeaderView::Stretch);
     header()->setSectionResizeMode(userColumn, QHeaderView::ResizeToContents);
-    // Rows are as high as their text, wrapped at the present width, needs.
-    connect(header(), &QHeaderView::sectionResized, this, &QTreeWidget::doItemsLayout, Qt::QueuedConnection);
 }
 
 void ReminderList::addMissed(const std::vector<Reminder>& reminders)
@@ -62,6 +59,7 @@ void ReminderList::add(const Reminder& reminder, QTreeWidgetItem* group)
     setColumnHidden(userColumn, !nameOfUser_);
     row->setText(dueColumn, QLocale().toString(toQt(reminder.due), "ddd, MMM d, h:mm AP"));
     row->setText(textColumn, toQt(reminder.text).remove('\r'));
+    row->setToolTip(textColumn, row->text(textColumn));
     row->setText(userColumn, nameOfUser_ ? toQt(nameOfUser_(reminder.userID)) : QString());
     for (const int column : {dueColumn, userColumn})
         row->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);

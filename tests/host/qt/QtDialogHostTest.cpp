@@ -204,7 +204,7 @@ TEST_F(QtDialogHostTest, PicksAFont)
     };
     inTheDialog([](QFontDialog& dialog) { dialog.reject(); });
     EXPECT_FALSE(qt->pickFont({}));
-    const std::string family = QApplication::font().family().toStdString();
+    const std::string family = QFontInfo(QApplication::font()).family().toStdString();
     inTheDialog([](QFontDialog& dialog) {
         QFont font = dialog.currentFont();
         EXPECT_TRUE(font.bold());
@@ -244,7 +244,7 @@ TEST_F(QtDialogHostTest, AFormMayAskForItsPlaceByTheMainWindow)
     qt->mainWindow(&mainWindow);
     form.startUpPosition(StartUpPosition::byMainWindow);
     form.show();
-    const QRect place = qt->windowOf(form)->geometry();
+    const QRect place = qt->windowOf(form)->frameGeometry();
     EXPECT_LE((place.center() - mainWindow.frameGeometry().center()).manhattanLength(), 2);
 }
 
