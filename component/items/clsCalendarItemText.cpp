@@ -114,7 +114,7 @@ std::string clsCalendarItem::mergeItemTemplate(std::string text, std::string (cl
         merge->companyID(record_.companyIDNum);
     merge->contactID(record_.contactIDNum);
     merge->userID(record_.userIDNum);
-    merge->TemplateText(merge->convertProvinceFields(std::move(text)));
+    merge->TemplateText(merge->convertProvinceFields(text));
     switch (calendarItemType()) {
     case enumLocalCalendarAppointmentItem:
         merge->appointmentID(itemID_);

@@ -35,7 +35,11 @@ frmSelectStartTime::frmSelectStartTime() : Form("frmSelectStartTime")
     cboField.accessibleName("Quarter hour");
     for (int minute = 0; minute < 24 * 60; minute += minutesInQuarter)
         cboField.addItem(quarterHourText({minute / 60, minute % 60, 0}));
-    cboField.Click = [this] { cboField_Click(); };
+    cboField.Click = [this] {
+        // A row that is left while another text is typed was not clicked.
+        if (cboField.listIndex() >= 0)
+            cboField_Click();
+    };
     cboField.KeyPress = [this](std::int32_t& keyAscii) { cboField_KeyPress(keyAscii); };
     cmdOpts(0).caption("&Ok");
     cmdOpts(0).isDefault(true);
@@ -75,9 +79,8 @@ void frmSelectStartTime::cboField_Click()
 {
     if (loading_)
         return;
-    routine("Vestrel.exe-frmSelectStartTime-cboField_Click", [&] {
-        dtpTime.value(statement([&] { return Variant(cboField.text()).toDate(); }));
-    });
+    routine("Vestrel.exe-frmSelectStartTime-cboField_Click",
+            [&] { dtpTime.value(statement([&] { return Variant(cboField.text()).toDate(); })); });
 }
 
 void frmSelectStartTime::cboField_KeyPress(std::int32_t& keyAscii)

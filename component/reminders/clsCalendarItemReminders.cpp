@@ -97,7 +97,7 @@ std::string clsCalendarItem::storedReminderStatus() const
                                             + ", Reminders.UserIDNum, Reminders.Completed, Reminders.ReminderDate, "
                                               "Reminders.ReminderTime From Reminders WHERE Reminders.UserIDNum = "
                                             + std::to_string(record_.userIDNum) + " AND Reminders." + column + " = "
-                                            + std::to_string(itemID_));
+                                            + std::to_string(itemID_) + ";");
     std::string status;
     if (reminder.hasRecords()) {
         bool completed = false;

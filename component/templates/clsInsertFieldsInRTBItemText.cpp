@@ -85,7 +85,7 @@ std::string clsInsertFieldsInRTB::mergeFirmTemplate(std::string_view settingsCol
     // Remains of damaged values.
     if (text.empty() || text == "0" || text == "Text Constant")
         text = defaultTemplate;
-    text = convertProvinceFields(std::move(text));
+    text = convertProvinceFields(text);
     exchangeClientName(text, companyID_, contactID_);
     if (companyID_ >= 0 && contactID_ < 0)
         contactID_ = modDatabaseClientFunctions::getDefaultContactIDFromCompanyID(companyID_);

@@ -3,7 +3,9 @@
 #include "services/Rows.h"
 #include "utilities/text.h"
 
+#include <algorithm>
 #include <initializer_list>
+#include <sstream>
 
 namespace qncal::host {
 
@@ -20,10 +22,25 @@ std::string firstText(const Rows& row, std::initializer_list<std::string_view> c
     return {};
 }
 
-void appendLine(std::vector<std::string>& lines, const std::string& line)
+bool isControl(char c) { return static_cast<unsigned char>(c) < ' '; }
+
+/// A name stands on one line, in a greeting as on a list.
+std::string nameIn(const Rows& row, std::string_view column)
 {
-    if (!line.empty())
-        lines.push_back(line);
+    std::string name = firstText(row, {column});
+    std::ranges::replace_if(name, isControl, ' ');
+    return name;
+}
+
+/// The lines of a text that hold something.
+void appendLines(std::vector<std::string>& lines, const std::string& text)
+{
+    std::istringstream stream(text);
+    for (std::string line; std::getline(stream, line);) {
+        std::ranges::replace_if(line, isControl, ' ');
+        if (const std::string_view content = trimmed(line); !content.empty())
+            lines.emplace_back(content);
+    }
 }
 
 /// `prefix` is that of the address columns: "Business", "Home", or nothing for a company.
@@ -31,23 +48,23 @@ std::vector<std::string> addressOf(const Rows& row, const std::string& prefix)
 {
     std::vector<std::string> lines;
     for (const char* line : {"Address1", "Address2", "Address3"})
-        appendLine(lines, firstText(row, {prefix + line}));
+        appendLines(lines, firstText(row, {prefix + line}));
     if (lines.empty())
-        appendLine(lines, firstText(row, {prefix + "Address"}));
+        appendLines(lines, firstText(row, {prefix + "Address"}));
     std::string town = firstText(row, {prefix + "City"});
     for (const char* part : {"Province", "PostalCode"}) {
         const std::string text = firstText(row, {prefix + part});
         town += (town.empty() || text.empty() ? "" : " ") + text;
     }
-    appendLine(lines, town);
-    appendLine(lines, firstText(row, {prefix + "Country"}));
+    appendLines(lines, town);
+    appendLines(lines, firstText(row, {prefix + "Country"}));
     return lines;
 }
 
 Correspondent contactIn(const Rows& row)
 {
     Correspondent contact;
-    contact.name = firstText(row, {"DisplayName"});
+    contact.name = nameIn(row, "DisplayName");
     contact.person = contact.name;
     contact.email = firstText(row, {"BusinessEmail", "PersonalEmail"});
     contact.fax = firstText(row, {"BusinessPhone_Fax", "HomePhone_Fax"});
@@ -61,7 +78,7 @@ Correspondent contactIn(const Rows& row)
 Correspondent companyIn(const Rows& row)
 {
     Correspondent company;
-    company.name = firstText(row, {"CompanyName"});
+    company.name = nameIn(row, "CompanyName");
     company.email = firstText(row, {"Email"});
     company.fax = firstText(row, {"FaxNumber"});
     company.phone = firstText(row, {"OfficeNumber"});

@@ -101,6 +101,7 @@ bool isTroubleOfServer(CURLcode code)
 {
     switch (code) {
     case CURLE_WEIRD_SERVER_REPLY:
+    case CURLE_REMOTE_ACCESS_DENIED:
     case CURLE_OPERATION_TIMEDOUT:
     case CURLE_SSL_CONNECT_ERROR:
     case CURLE_PEER_FAILED_VERIFICATION:
@@ -125,7 +126,8 @@ std::string reasonOf(CURLcode code, const Talk& talk, std::string_view words)
 
 MailResult resultOf(CURLcode code, const Talk& talk, std::string_view words)
 {
-    if (code == CURLE_OK || talk.verdict.starts_with('2'))
+    constexpr std::string_view taken = "250";
+    if (code == CURLE_OK || talk.verdict.starts_with(taken))
         return {Outcome::sent, {}};
     Outcome outcome = Outcome::failed;
     if (talk.isOut())

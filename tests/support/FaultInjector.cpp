@@ -161,10 +161,12 @@ void wrap(std::shared_ptr<Service>& slot, const SharedCount& count)
 
 void FaultInjector::Count::step(std::string_view operation)
 {
-    if (++calls != failing)
+    ++calls;
+    if (failing == 0 || calls < failing || (calls > failing && !lasting))
         return;
-    failed = operation;
-    throw RunTimeError(errorNumber::invalidProcedureCall, "Fault in " + failed);
+    if (failed.empty())
+        failed = operation;
+    throw RunTimeError(errorNumber::invalidProcedureCall, "Fault in " + std::string(operation));
 }
 
 FaultInjector::FaultInjector() : original_(serviceRegistry())
@@ -188,6 +190,12 @@ void FaultInjector::failCall(int n)
 {
     *count_ = {};
     count_->failing = n;
+}
+
+void FaultInjector::failFromCall(int n)
+{
+    failCall(n);
+    count_->lasting = true;
 }
 
 int FaultInjector::calls() const { return count_->calls; }

@@ -21,15 +21,18 @@ public:
 
     /// From now on calls are counted anew, and the n-th one fails, once; 0 for none.
     void failCall(int n);
+    /// The same, and every call after the n-th fails as well, as with a connection that is lost.
+    void failFromCall(int n);
     /// The calls so far.
     int calls() const;
-    /// The operation that failed, empty while none has.
+    /// The operation that failed first, empty while none has.
     const std::string& failedOperation() const;
 
     /// How the calls are counted; the wrappers share it.
     struct Count {
         int calls = 0;
         int failing = 0;
+        bool lasting = false;
         std::string failed;
         void step(std::string_view operation);
     };

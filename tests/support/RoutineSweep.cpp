@@ -68,9 +68,7 @@ private:
     std::shared_ptr<RecordingErrorControl> target_;
 };
 
-} // namespace
-
-void expectFaultsLeave(const SweptRoutine& routine)
+void expectLeft(const SweptRoutine& routine, void (FaultInjector::*fail)(int))
 {
     const int calls = runWithoutFault(routine).calls;
     ASSERT_GT(calls, 0);
@@ -80,7 +78,7 @@ void expectFaultsLeave(const SweptRoutine& routine)
         const auto own = std::make_shared<OwnFailure>(world.errors);
         serviceRegistry().errorControl = own;
         FaultInjector faults;
-        faults.failCall(n);
+        (faults.*fail)(n);
         std::string result;
         EXPECT_NO_THROW(result = run());
         const std::string where = "call " + std::to_string(n) + ", " + faults.failedOperation();
@@ -92,6 +90,12 @@ void expectFaultsLeave(const SweptRoutine& routine)
             EXPECT_EQ(error.number, errorNumber::invalidProcedureCall) << where << ": " << error.text;
     }
 }
+
+} // namespace
+
+void expectFaultsLeave(const SweptRoutine& routine) { expectLeft(routine, &FaultInjector::failCall); }
+
+void expectLastingFaultsLeave(const SweptRoutine& routine) { expectLeft(routine, &FaultInjector::failFromCall); }
 
 void expectFaultsRetry(const SweptRoutine& routine)
 {

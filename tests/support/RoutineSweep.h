@@ -26,6 +26,8 @@ struct SweptRoutine {
 /// Each service call fails once and the user leaves: no exception comes out, the routine stack is balanced, and a
 /// failure of the routine's own gives its default.
 void expectFaultsLeave(const SweptRoutine& routine);
+/// The same for every call from that one on, as with a connection that is lost.
+void expectLastingFaultsLeave(const SweptRoutine& routine);
 /// Each service call fails once and the user retries: result, rows and routines run are those of a run without fault.
 void expectFaultsRetry(const SweptRoutine& routine);
 /// Each slot of the registry is empty in turn: the failure is error 91, and nothing else comes out.

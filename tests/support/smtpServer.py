@@ -89,6 +89,8 @@ def converse(connection):
         if command == b"EHLO" and mode == "tellPassword":
             say("250-test")
             say("250 AUTH PLAIN")
+        elif command in (b"EHLO", b"HELO") and mode == "refuseGreeting":
+            say("504 5.7.1 not from here")
         elif command == b"AUTH" and mode == "tellPassword":
             say("334 ")
             secret = lines.readline().strip()

@@ -79,7 +79,7 @@ TEST_F(SchemeCommandsTest, ASchemeDeletedInUseLeavesItsItemsAsTheyAre)
     succeed(
         {"item", "add", "Filing", "--kind", "task", "--date", "today", "--start", "9:30", "--set", "ColourSchemeID=1"});
     const std::string before = rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;");
-    succeed({"scheme", "delete", "Urgent", "--kind", "task", "--yes"});
+    EXPECT_EQ(run({"scheme", "delete", "Urgent", "--kind", "task", "--yes"}).status, 0);
     EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);
     succeed({"item", "set", "1", "--kind", "task", "--subject", "Filing of papers"});
     EXPECT_EQ(rows("SELECT SchemeID, TitleBackColour, ForeColour FROM Tasks;"), before);

@@ -352,6 +352,7 @@ std::vector<SweptRoutine> routinesWithoutRows()
 class itemsFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 TEST_P(itemsFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(itemsFaultSweepTest, EveryLastingFaultLeaves) { test::expectLastingFaultsLeave(GetParam()); }
 TEST_P(itemsFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
 TEST_P(itemsFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
 

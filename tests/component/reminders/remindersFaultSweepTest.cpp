@@ -198,6 +198,7 @@ std::vector<SweptRoutine> routines()
 class remindersFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 TEST_P(remindersFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(remindersFaultSweepTest, EveryLastingFaultLeaves) { test::expectLastingFaultsLeave(GetParam()); }
 TEST_P(remindersFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
 TEST_P(remindersFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
 

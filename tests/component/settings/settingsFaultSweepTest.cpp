@@ -154,6 +154,7 @@ std::vector<SweptRoutine> openers()
 class settingsFaultSweepTest : public testing::TestWithParam<SweptRoutine> {};
 
 TEST_P(settingsFaultSweepTest, EveryFaultLeaves) { test::expectFaultsLeave(GetParam()); }
+TEST_P(settingsFaultSweepTest, EveryLastingFaultLeaves) { test::expectLastingFaultsLeave(GetParam()); }
 TEST_P(settingsFaultSweepTest, EveryFaultIsRetriedAlone) { test::expectFaultsRetry(GetParam()); }
 TEST_P(settingsFaultSweepTest, EveryEmptySlotLeaves) { test::expectEmptySlotsLeave(GetParam()); }
 

@@ -1,6 +1,7 @@
 #include "support/RoutineSweep.h"
 #include "support/rowName.h"
 #include "templates/clsInsertFieldsInRTB.h"
+#include "templates/frmTestComment.h"
 
 #include <gtest/gtest.h>
 
@@ -203,6 +204,15 @@ std::vector<SweptRoutine> valueRoutines()
             false),
         onEngine(
             "GetFullProvinceString", "", [](Engine& engine) { return engine.getFullProvinceString("ON"); }, false),
+        {"ShowATestComment", "",
+         [](TestWorld& world) -> Run {
+             world.dialogs->whenAnyShown([](host::Hand& hand) { hand.click("cmdOk"); });
+             return [] {
+                 frmTestComment().Initialize("{\\rtf1 text}");
+                 return std::string();
+             };
+         },
+         false},
         onEngine(
             "ParseTodaysDate", "",
             [](Engine& engine) {
@@ -217,6 +227,7 @@ class clsInsertFieldsInRTBFaultSweepTest : public testing::TestWithParam<SweptRo
 } // namespace
 
 TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryFaultLeaves) { expectFaultsLeave(GetParam()); }
+TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryLastingFaultLeaves) { expectLastingFaultsLeave(GetParam()); }
 TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryFaultIsRetriedAlone) { expectFaultsRetry(GetParam()); }
 TEST_P(clsInsertFieldsInRTBFaultSweepTest, EveryEmptySlotLeaves) { expectEmptySlotsLeave(GetParam()); }
 

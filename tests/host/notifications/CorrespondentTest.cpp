@@ -75,6 +75,17 @@ TEST_F(CorrespondentTest, AContactsBusinessAddressGoesBeforeTheHome)
     EXPECT_THAT(client.address, ElementsAre("3 Work St", "Unit 4"));
 }
 
+TEST_F(CorrespondentTest, ANameStandsOnOneLineAndAnAddressOnAsManyAsItHas)
+{
+    const auto contact =
+        addRow(*database, "Contacts",
+               {{"DisplayName", "Ann\r\nBcc: all@client.example"}, {"HomeAddress", "1 Hill St\r\n\r\n  Elora\n"}});
+    const Correspondent client = readClient(*database, {-1, contact}).value();
+    EXPECT_EQ(client.name, "Ann  Bcc: all@client.example");
+    EXPECT_EQ(client.person, client.name);
+    EXPECT_THAT(client.address, ElementsAre("1 Hill St", "Elora"));
+}
+
 TEST_F(CorrespondentTest, ADefaultContactThatIsGoneLeavesTheCompany)
 {
     const auto company = addCompany();

@@ -213,26 +213,27 @@ TEST_P(BadSmtpServerTest, HasTheOutcomeThatIsCertain)
     EXPECT_TRUE(std::ranges::all_of(result.reason, [](char c) { return c >= ' ' && c < '\x7F'; })) << result.reason;
 }
 
-INSTANTIATE_TEST_SUITE_P(Servers, BadSmtpServerTest,
-                         testing::Values(BadServerRow{"refuse", Outcome::unreachable, "554 5.3.2 no mail here"},
-                                         BadServerRow{"close", Outcome::unreachable, ""},
-                                         BadServerRow{"hang", Outcome::unreachable, "", 400},
-                                         BadServerRow{"garbage", Outcome::unreachable, "", 400},
-                                         BadServerRow{"refuseRecipient", Outcome::failed,
-                                                      "the mail server said: 550 5.1.1 nobody of that name"},
-                                         BadServerRow{"busy", Outcome::failed,
-                                                      "the mail server said: 451 4.7.1 come back later"},
-                                         BadServerRow{"hangAtRecipient", Outcome::unreachable, "", 3000},
-                                         BadServerRow{"garbageAtRecipient", Outcome::unreachable, "", 3000},
-                                         BadServerRow{"closeBeforeMessage", Outcome::failed, ""},
-                                         BadServerRow{"refuseData", Outcome::failed, "452 4.3.1 no room"},
-                                         BadServerRow{"closeInMessage", Outcome::unknown, ""},
-                                         BadServerRow{"refuseMessage", Outcome::failed, "554 5.7.1 not this one"},
-                                         BadServerRow{"postponeMessage", Outcome::failed, "451 4.3.0 try again"},
-                                         BadServerRow{"closeAfterMessage", Outcome::unknown, ""},
-                                         BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000},
-                                         BadServerRow{"garbageAfterMessage", Outcome::unknown, "", 3000}),
-                         [](const auto& row) { return row.param.mode; });
+INSTANTIATE_TEST_SUITE_P(
+    Servers, BadSmtpServerTest,
+    testing::Values(BadServerRow{"refuse", Outcome::unreachable, "554 5.3.2 no mail here"},
+                    BadServerRow{"refuseGreeting", Outcome::unreachable, "504 5.7.1 not from here"},
+                    BadServerRow{"close", Outcome::unreachable, ""},
+                    BadServerRow{"hang", Outcome::unreachable, "", 400},
+                    BadServerRow{"garbage", Outcome::unreachable, "", 400},
+                    BadServerRow{"refuseRecipient", Outcome::failed,
+                                 "the mail server said: 550 5.1.1 nobody of that name"},
+                    BadServerRow{"busy", Outcome::failed, "the mail server said: 451 4.7.1 come back later"},
+                    BadServerRow{"hangAtRecipient", Outcome::unreachable, "", 3000},
+                    BadServerRow{"garbageAtRecipient", Outcome::unreachable, "", 3000},
+                    BadServerRow{"closeBeforeMessage", Outcome::failed, ""},
+                    BadServerRow{"refuseData", Outcome::failed, "452 4.3.1 no room"},
+                    BadServerRow{"closeInMessage", Outcome::unknown, ""},
+                    BadServerRow{"refuseMessage", Outcome::failed, "554 5.7.1 not this one"},
+                    BadServerRow{"postponeMessage", Outcome::failed, "451 4.3.0 try again"},
+                    BadServerRow{"closeAfterMessage", Outcome::unknown, ""},
+                    BadServerRow{"silentAfterMessage", Outcome::unknown, "", 3000},
+                    BadServerRow{"garbageAfterMessage", Outcome::unknown, "", 3000}),
+    [](const auto& row) { return row.param.mode; });
 
 TEST_F(SmtpTransportTest, AServerThatHangsAtTheFarewellHasTheMessage)
 {
