@@ -6,15 +6,15 @@
 #include <QDialog>
 
 #include <functional>
-#include <optional>
+#include <string>
 
 class QComboBox;
 class QLabel;
 class QPushButton;
-class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace qncal::host {
+
+class ReminderList;
 
 /// Lists the reminders that are due until each is dismissed or put off. It comes to the front with every new one, and
 /// goes when the last is answered. Closing it leaves the reminders in it: they are there when it opens again.
@@ -32,8 +32,8 @@ public:
 
     explicit ReminderWindow(QWidget* parent = nullptr);
     void answers(Answers answers) { answers_ = std::move(answers); }
-    /// What stands beside a reminder, such as the name of its user; nothing unless set.
-    void nameOfUser(std::function<std::string(std::int32_t userID)> name) { nameOfUser_ = std::move(name); }
+    /// Shows beside each reminder for whom it is; to be set ahead of the first.
+    void nameOfUser(std::function<std::string(std::int32_t userID)> name);
 
     Stay show(const Reminder& reminder) override;
     Stay showMissed(const std::vector<Reminder>& reminders) override;
@@ -44,24 +44,17 @@ public:
     int reminderCount() const;
 
 private:
-    QTreeWidgetItem* add(const Reminder& reminder, QTreeWidgetItem* group);
-    QTreeWidgetItem* itemOf(std::int32_t reminderID) const;
-    QList<QTreeWidgetItem*> reminders() const;
-    void comeToFront(QTreeWidgetItem* current);
-    void dismiss(const QList<QTreeWidgetItem*>& items);
-    void snooze(const QList<QTreeWidgetItem*>& items);
+    void addAnswers();
+    void comeToFront();
     /// Hands each reminder to the answer and takes those away that it settles.
-    void settle(const QList<QTreeWidgetItem*>& items, const std::function<Outcome(std::int32_t)>& answer);
-    QList<QTreeWidgetItem*> chosen() const;
-    void chooseNext();
-    void take(QTreeWidgetItem* item);
+    void settle(const QList<std::int32_t>& reminders, const std::function<Outcome(std::int32_t)>& answer);
+    void dismiss(const QList<std::int32_t>& reminders);
+    void snooze(const QList<std::int32_t>& reminders);
     void note(const QString& text);
     void showState();
 
     Answers answers_;
-    std::function<std::string(std::int32_t userID)> nameOfUser_;
-    QTreeWidget* list_;
-    QTreeWidgetItem* missed_ = nullptr;
+    ReminderList* list_;
     QLabel* note_;
     QComboBox* periods_;
     QPushButton* snooze_;

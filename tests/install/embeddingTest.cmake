@@ -9,11 +9,11 @@ file(REMOVE_RECURSE ${work})
 file(MAKE_DIRECTORY ${work})
 
 function(run)
-    execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${work} OUTPUT_VARIABLE output ERROR_VARIABLE output
+    execute_process(COMMAND ${ARGN} WORKING_DIRECTORY ${work} OUTPUT_VARIABLE output ERROR_VARIABLE errors
                     RESULT_VARIABLE result)
     if(NOT result EQUAL 0)
         string(JOIN " " command ${ARGN})
-        message(FATAL_ERROR "${command}\n${output}")
+        message(FATAL_ERROR "${command}\n${output}${errors}")
     endif()
     set(output "${output}" PARENT_SCOPE)
 endfunction()

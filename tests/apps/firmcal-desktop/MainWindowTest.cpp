@@ -49,8 +49,10 @@ TEST_F(MainWindowTest, AnItemHasTheIconsOfItsStatuses)
     row.close();
     press(Qt::Key_F5);
     EXPECT_EQ(cell(AgendaModel::statusColumn).data(Qt::ToolTipRole).toString(), "Cancelled, Important");
-    const auto picture = cell(AgendaModel::statusColumn).data(Qt::DecorationRole).value<QPixmap>();
-    EXPECT_EQ(picture.width(), 2 * picture.height() + 3);
+    const auto icons = cell(AgendaModel::statusColumn).data(Qt::DecorationRole).value<QPixmap>();
+    EXPECT_EQ(icons.width(), 2 * icons.height() + 3);
+    agenda().setCurrentIndex({});
+    picture(window, "desktop-statuses");
 }
 
 TEST_F(MainWindowTest, TheKeysWalkTheWeeks)

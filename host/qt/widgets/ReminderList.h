@@ -1,0 +1,42 @@
+#pragma once
+
+#include "popups/ReminderDisplay.h"
+
+#include <QTreeWidget>
+
+#include <functional>
+#include <string>
+
+namespace qncal::host {
+
+/// Reminders as rows: when each is due, what it is about and, where names are known, for whom. The missed ones stand
+/// together under a heading, which stands for all of them when it is selected.
+class ReminderList : public QTreeWidget {
+public:
+    explicit ReminderList(QWidget* parent = nullptr);
+
+    void nameOfUser(std::function<std::string(std::int32_t userID)> name) { nameOfUser_ = std::move(name); }
+
+    /// A reminder that is there already, or stands for another moment now, keeps its row.
+    void add(const Reminder& reminder) { add(reminder, nullptr); }
+    void addMissed(const std::vector<Reminder>& reminders);
+    void take(std::int32_t reminderID);
+
+    QList<std::int32_t> all() const;
+    QList<std::int32_t> chosen() const;
+    bool contains(std::int32_t reminderID) const { return rowOf(reminderID) != nullptr; }
+    /// The first line of a reminder's text: what it is about. The lines below say when.
+    QString subject(std::int32_t reminderID) const;
+    /// Where nothing is selected, selects the row under the cursor, or the first one.
+    void chooseOne();
+
+private:
+    void add(const Reminder& reminder, QTreeWidgetItem* group);
+    QTreeWidgetItem* rowOf(std::int32_t reminderID) const;
+    void showMissedCount();
+
+    std::function<std::string(std::int32_t userID)> nameOfUser_;
+    QTreeWidgetItem* missed_ = nullptr;
+};
+
+} // namespace qncal::host
