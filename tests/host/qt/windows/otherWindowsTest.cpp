@@ -7,6 +7,7 @@
 #include "controls/rangeControls.h"
 #include "controls/richTextStream.h"
 #include "host/qt/QtDialogTest.h"
+#include "host/qt/windows/ColourSchemesForm.h"
 #include "items/frmSelectStartTime.h"
 #include "qt/widgets/ColourButton.h"
 #include "qt/widgets/DateTimeEdit.h"
@@ -78,11 +79,6 @@ TEST_F(SelectTimeWindowTest, TheBoxInTheCornerCancels)
     form.Initialize();
     EXPECT_TRUE(form.cancelFlag());
 }
-
-struct ColourSchemesForm : Form {
-    ColourSchemesForm() : Form("frmColourSchemes") { caption("Colour Schemes"); }
-    ColourSchemePage page{*this};
-};
 
 struct ColourSchemesWindowTest : QtDialogTest {
     ColourSchemesWindowTest()

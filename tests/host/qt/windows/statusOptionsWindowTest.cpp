@@ -39,22 +39,6 @@ TEST_F(StatusOptionsWindowTest, ShowsTheStatus)
     show();
 }
 
-TEST_F(StatusOptionsWindowTest, ADarkPaletteIsFollowed)
-{
-    const QPalette light = QApplication::palette();
-    QPalette dark(QColor(53, 53, 53), QColor(42, 42, 42));
-    dark.setColor(QPalette::Base, QColor(30, 30, 30));
-    dark.setColor(QPalette::Highlight, QColor(42, 130, 218));
-    QApplication::setPalette(dark);
-    whenShown("frmApptStatusOptions", [&](host::FormWindow& window) {
-        const QImage shown = window.grab().toImage();
-        EXPECT_LT(qGray(shown.pixel(2, 2)), 128);
-        picture(window, "frmApptStatusOptions-dark");
-    });
-    show();
-    QApplication::setPalette(light);
-}
-
 TEST_F(StatusOptionsWindowTest, OneIconIsChosenByTheMouse)
 {
     whenShown("frmApptStatusOptions", [&](host::FormWindow& window) {
