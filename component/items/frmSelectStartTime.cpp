@@ -75,9 +75,8 @@ void frmSelectStartTime::cboField_Click()
 {
     if (loading_)
         return;
-    routine("Vestrel.exe-frmSelectStartTime-cboField_Click", [&] {
-        dtpTime.value(statement([&] { return Variant(cboField.text()).toDate(); }));
-    });
+    routine("Vestrel.exe-frmSelectStartTime-cboField_Click",
+            [&] { dtpTime.value(statement([&] { return Variant(cboField.text()).toDate(); })); });
 }
 
 void frmSelectStartTime::cboField_KeyPress(std::int32_t& keyAscii)
