@@ -56,6 +56,7 @@ void frmSelectStartTime::Initialize()
         const char* title = timeType_ == startTime ? "Select Start Time" : "Select End Time";
         caption(title);
         Label0.caption(title);
+        dtpTime.accessibleName(title);
         loading_ = true;
         dtpTime.value(timeSelected_);
         showTimeInField();
