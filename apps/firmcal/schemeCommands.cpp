@@ -5,7 +5,7 @@
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
 #include "services/Rows.h"
-#include "settings/colourSchemes.h"
+#include "settings/modColourSchemes.h"
 #include "utilities/readableValue.h"
 #include "utilities/text.h"
 

@@ -4,6 +4,7 @@
 #include "utilities/text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace qncal {
 

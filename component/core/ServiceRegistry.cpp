@@ -19,7 +19,8 @@ Service& inSlot(const std::shared_ptr<Service>& slot, const char* name)
 /// This thread's registry once it was asked for. Trivial, so it can still be read when that registry is gone.
 thread_local ServiceRegistry* currentRegistry = nullptr;
 
-/// A static object of a host outlives its thread's registry; it meets empty slots.
+/// A static object of a host outlives its thread's registry; it meets empty slots, which stay so: all threads that
+/// end share them.
 ServiceRegistry& emptyRegistry()
 {
     static ServiceRegistry& empty = *new ServiceRegistry;
@@ -45,6 +46,8 @@ ServiceRegistry& serviceRegistry() { return currentRegistry ? *currentRegistry :
 void createComponentServices()
 {
     ServiceRegistry& registry = serviceRegistry();
+    if (&registry == &emptyRegistry())
+        return;
     registry.file = std::make_shared<FileService>();
     registry.utility = std::make_shared<UtilityService>();
     registry.dateTime = std::make_shared<DateTimeService>();
@@ -53,6 +56,8 @@ void createComponentServices()
 void releaseComponentServices()
 {
     ServiceRegistry& registry = serviceRegistry();
+    if (&registry == &emptyRegistry())
+        return;
     registry.file.reset();
     registry.utility.reset();
     registry.dateTime.reset();

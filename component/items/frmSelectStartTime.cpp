@@ -35,11 +35,7 @@ frmSelectStartTime::frmSelectStartTime() : Form("frmSelectStartTime")
     cboField.accessibleName("Quarter hour");
     for (int minute = 0; minute < 24 * 60; minute += minutesInQuarter)
         cboField.addItem(quarterHourText({minute / 60, minute % 60, 0}));
-    cboField.Click = [this] {
-        // A row that is left while another text is typed was not clicked.
-        if (cboField.listIndex() >= 0)
-            cboField_Click();
-    };
+    cboField.Click = [this] { cboField_Click(); };
     cboField.KeyPress = [this](std::int32_t& keyAscii) { cboField_KeyPress(keyAscii); };
     cmdOpts(0).caption("&Ok");
     cmdOpts(0).isDefault(true);

@@ -13,6 +13,8 @@
 
 namespace qncal::modPopUpReminders {
 
+using namespace modDatabaseFunctions;
+
 namespace {
 
 /// The column by which a reminder of a type is found again, and how a record tells its client.
@@ -23,8 +25,6 @@ struct RemindedRecord {
     std::int32_t (*companyOf)(std::int32_t id) = nullptr;
     std::int32_t (*contactOf)(std::int32_t id) = nullptr;
 };
-
-using namespace modDatabaseFunctions;
 
 constexpr std::array<RemindedRecord, 7> remindedRecords{{
     {reminderType::appointment, "AppointmentIDNum", &ReminderIDs::appointmentOrScheduleID,
@@ -39,13 +39,18 @@ constexpr std::array<RemindedRecord, 7> remindedRecords{{
     {reminderType::companyProjectStep, "CompanyProjectStepIDNum", &ReminderIDs::companyProjectStepID},
 }};
 
-/// The ids that are stored whenever they are there, whatever the type.
-constexpr std::array<RemindedRecord, 4> furtherIDs{{
-    {0, "CommunicationLogIDNum", &ReminderIDs::communicationLogID},
-    {0, "MissingInfoIDNum", &ReminderIDs::missingInfoID},
-    {0, "CompanyProjectIDNum", &ReminderIDs::companyProjectID},
-    {0, "CompanyProjectStepIDNum", &ReminderIDs::companyProjectStepID},
-}};
+/// An id that is stored whenever it is there, whatever the type.
+struct FurtherID {
+    std::string_view column;
+    std::int32_t ReminderIDs::*id;
+};
+
+constexpr FurtherID furtherIDs[] = {
+    {"CommunicationLogIDNum", &ReminderIDs::communicationLogID},
+    {"MissingInfoIDNum", &ReminderIDs::missingInfoID},
+    {"CompanyProjectIDNum", &ReminderIDs::companyProjectID},
+    {"CompanyProjectStepIDNum", &ReminderIDs::companyProjectStepID},
+};
 
 /// None for a type that hangs on nothing.
 const RemindedRecord* recordOfType(std::int32_t type)
@@ -103,7 +108,7 @@ void writeColumns(Write write, std::int32_t type, std::int32_t userID, Date date
         write("AppointmentIDNum", ids.appointmentOrScheduleID);
     if (type == reminderType::task)
         write("TaskIDNum", ids.taskID);
-    for (const RemindedRecord& further : furtherIDs)
+    for (const FurtherID& further : furtherIDs)
         if (ids.*further.id >= 0)
             write(further.column, ids.*further.id);
     write("ReminderType", type);

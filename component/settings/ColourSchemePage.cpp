@@ -5,8 +5,8 @@
 #include "core/fillList.h"
 #include "core/readColour.h"
 #include "items/CalendarItemRecord.h"
-#include "settings/colourSchemes.h"
 #include "settings/kindWords.h"
+#include "settings/modColourSchemes.h"
 
 namespace qncal {
 

@@ -31,6 +31,13 @@ std::int32_t indexOfText(const Rows& rows, std::string_view text, TextOf textOf)
     return found == rows.end() ? -1 : static_cast<std::int32_t>(found - rows.begin());
 }
 
+/// The others are clicked without the focus going there, and passed by the Tab key.
+bool takesFocus(const Control& control)
+{
+    return !dynamic_cast<const Label*>(&control) && !dynamic_cast<const Panel*>(&control)
+           && !dynamic_cast<const MenuItem*>(&control);
+}
+
 } // namespace
 
 Control& Hand::named(std::string_view path) const
@@ -50,8 +57,7 @@ Control* Hand::reach(std::string_view path) const
         refuse(*form_, path, "is hidden");
     if (!control.isReachable())
         refuse(*form_, path, "is disabled");
-    // A label or a panel is clicked without the focus going there.
-    if (dynamic_cast<Label*>(&control) || dynamic_cast<Panel*>(&control) || dynamic_cast<MenuItem*>(&control))
+    if (!takesFocus(control))
         return &control;
     return control.setFocus() ? &control : nullptr;
 }
@@ -236,8 +242,7 @@ void Hand::tabAway()
         current == controls.end() ? std::size_t{0} : static_cast<std::size_t>(current - controls.begin()) + 1;
     for (std::size_t step = 0; step < controls.size(); ++step) {
         Control* next = controls[(start + step) % controls.size()];
-        if (next->isReachable() && !dynamic_cast<Label*>(next) && !dynamic_cast<Panel*>(next)
-            && !dynamic_cast<MenuItem*>(next)) {
+        if (next->isReachable() && takesFocus(*next)) {
             form_->focus(next);
             return;
         }

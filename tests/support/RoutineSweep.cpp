@@ -1,5 +1,6 @@
 #include "support/RoutineSweep.h"
 
+#include "core/forwarding/ForwardingErrorControlService.h"
 #include "support/FaultInjector.h"
 #include "utilities/RunTimeError.h"
 
@@ -49,23 +50,22 @@ Outcome runWithoutFault(const SweptRoutine& routine)
 
 /// True when the failure belonged to the outermost routine: reported while only its label stood on the stack, or,
 /// for a label that could not be pushed, while none did.
-class OwnFailure : public ErrorControlService {
+class OwnFailure : public ForwardingErrorControlService {
 public:
-    explicit OwnFailure(std::shared_ptr<RecordingErrorControl> target) : target_(std::move(target)) {}
+    explicit OwnFailure(const std::shared_ptr<RecordingErrorControl>& errors)
+        : ForwardingErrorControlService(errors), stack_(errors->stack())
+    {
+    }
     bool seen = false;
 
-    void enterRoutine(std::string_view label) override { target_->enterRoutine(label); }
-    void leaveRoutine() override { target_->leaveRoutine(); }
     void setError(const ErrorState& error) override
     {
-        seen = seen || target_->stack().size() <= (error.text == "Fault in enterRoutine" ? 0u : 1u);
-        target_->setError(error);
+        seen = seen || stack_.size() <= (error.text == "Fault in enterRoutine" ? 0u : 1u);
+        ForwardingErrorControlService::setError(error);
     }
-    void reportError() override { target_->reportError(); }
-    std::int16_t getErrorAction() override { return target_->getErrorAction(); }
 
 private:
-    std::shared_ptr<RecordingErrorControl> target_;
+    const std::vector<std::string>& stack_;
 };
 
 void expectLeft(const SweptRoutine& routine, void (FaultInjector::*fail)(int))

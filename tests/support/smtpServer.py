@@ -21,7 +21,7 @@ mode, folder = sys.argv[1:3]
 class Keeper:
     kept = 0
 
-    async def handle_DATA(self, server, session, envelope):
+    async def handle_DATA(self, server, connection, envelope):
         Keeper.kept += 1
         with open(f"{folder}/{Keeper.kept}.eml", "wb") as message:
             message.write(f"X-Envelope: {envelope.mail_from} {envelope.rcpt_tos}\r\n".encode())
@@ -29,7 +29,7 @@ class Keeper:
         return "250 kept"
 
 
-def known(server, session, envelope, mechanism, data):
+def known(server, connection, envelope, mechanism, data):
     # What is not "handled" here the server answers itself.
     return AuthResult(success=data.login == b"firm" and data.password == b"secret", handled=False)
 

@@ -1,9 +1,9 @@
 #include "core/clsCalendarSetCtrl.h"
 #include "settings/ColourSchemePage.h"
-#include "settings/colourSchemes.h"
 #include "settings/frmApptCustomFields.h"
 #include "settings/frmApptStatusOptions.h"
 #include "settings/frmChangeApptStatusFields.h"
+#include "settings/modColourSchemes.h"
 #include "support/RoutineSweep.h"
 #include "support/rowName.h"
 

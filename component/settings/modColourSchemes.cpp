@@ -1,4 +1,4 @@
-#include "settings/colourSchemes.h"
+#include "settings/modColourSchemes.h"
 
 #include "controls/controlTargets.h"
 #include "core/RecordSet.h"

@@ -13,7 +13,7 @@ namespace qncal::modColourSchemes {
 inline constexpr std::array<std::string_view, 4> colourColumns{"TitleBackColour", "TitleForeColour", "BackColour",
                                                                "ForeColour"};
 
-/// The SELECT of those columns of the schemes of a kind, by name.
+/// The SELECT of the given columns, of the schemes of a kind in the order of their names.
 std::string schemesOfKind(std::string_view columns, std::int32_t schemeType);
 
 /// Fills the list with "<No Scheme Selected>" (item data -1) and the schemes of a kind by name (item data: the

@@ -1,4 +1,4 @@
-#include "settings/colourSchemes.h"
+#include "settings/modColourSchemes.h"
 
 #include "core/ServiceRegistry.h"
 #include "items/modDatabaseFunctions.h"
