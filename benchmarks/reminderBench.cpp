@@ -63,7 +63,7 @@ private:
         store_->idle();
     }
 
-    bench::TemporaryFolder folder_;
+    test::TemporaryFolder folder_;
     std::shared_ptr<SqliteDatabase> store_;
     Date present_;
 };
