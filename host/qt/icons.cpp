@@ -1,5 +1,7 @@
 #include "qt/icons.h"
 
+#include <QCoreApplication>
+
 #include <array>
 
 // The resources of a static library are registered by whoever uses them.
@@ -22,10 +24,19 @@ bool isNumber(int number) { return number >= 1 && number <= statusIconCount; }
 
 QIcon statusIcon(int number)
 {
+    // An icon keeps what was drawn of it: a window with all of them is opened again and again.
+    static std::array<QIcon, statusIconCount> icons;
     if (!isNumber(number))
         return {};
-    registerIcons();
-    return QIcon(QStringLiteral(":/qncal/icons/status%1.svg").arg(number, 2, 10, QChar('0')));
+    if (icons.front().isNull()) {
+        registerIcons();
+        for (int each = 1; each <= statusIconCount; ++each)
+            icons[static_cast<std::size_t>(each - 1)] =
+                QIcon(QStringLiteral(":/qncal/icons/status%1.svg").arg(each, 2, 10, QChar('0')));
+        // Pictures must be gone before the application is.
+        qAddPostRoutine([] { icons = {}; });
+    }
+    return icons[static_cast<std::size_t>(number - 1)];
 }
 
 QString statusIconName(int number)
