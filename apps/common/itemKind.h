@@ -3,6 +3,7 @@
 #include "core/enumerations.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace qncal::firmcal {
@@ -14,6 +15,8 @@ inline constexpr std::array allKinds{enumLocalCalendarAppointmentItem, enumLocal
 enumLocalCalendarItemType readKind(std::string_view text);
 /// "appointment", "task", "time entry"
 std::string_view kindNoun(enumLocalCalendarItemType kind);
+/// "appointments", "tasks", "time entries"
+std::string kindNounPlural(enumLocalCalendarItemType kind);
 /// As it is written behind `--kind`: "appointment", "task", "docket".
 std::string_view kindWord(enumLocalCalendarItemType kind);
 

@@ -157,7 +157,7 @@ void setField(CommandContext& context, const FieldOptions& options)
             row.set(column, value);
         row.close();
     }
-    context.out() << lowerAscii(options.field) << " of " << kindNoun(field.kind) << "s changed\n";
+    context.out() << lowerAscii(options.field) << " of " << kindNounPlural(field.kind) << " changed\n";
 }
 
 } // namespace
