@@ -41,7 +41,7 @@ constexpr Command viewCommands[] = {
     {"timeEntries", "Time &entries", "Ctrl+3", false,
      [](MainWindow& window) { window.kind(enumLocalCalendarDocketItem); }},
     line,
-    {"reload", "&Reload", "F5", false, [](MainWindow& window) { window.reload(); }},
+    {"reload", "&Reload", "F5", false, [](MainWindow&) {}}, // as after every command
 };
 
 constexpr Command itemCommands[] = {

@@ -53,7 +53,7 @@ void fillWithStatuses(QMenu& menu, MainWindow& window)
     };
     // An empty menu would not come up by its access key.
     fill();
-    QObject::connect(&menu, &QMenu::aboutToShow, &window, [&window, fill] { window.perform(fill); });
+    QObject::connect(&menu, &QMenu::aboutToShow, &window, [&window, fill] { window.attempt(fill); });
 }
 
 } // namespace qncal::desktop
