@@ -11,8 +11,6 @@ namespace qncal::firmcal {
 inline constexpr std::array allKinds{enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem,
                                      enumLocalCalendarDocketItem};
 
-/// "appointment", "task", "docket"; also "time entry" and the first letters. Throws `UsageError` for others.
-enumLocalCalendarItemType readKind(std::string_view text);
 /// "appointment", "task", "time entry"
 std::string_view kindNoun(enumLocalCalendarItemType kind);
 /// "appointments", "tasks", "time entries"

@@ -3,6 +3,7 @@
 #include "common/itemKind.h"
 #include "firmcal-desktop/AgendaModel.h"
 #include "firmcal-desktop/ReminderTimer.h"
+#include "firmcal-desktop/commands.h"
 #include "firmcal-desktop/menus.h"
 #include "qt/convert.h"
 #include "utilities/Clock.h"
@@ -20,9 +21,6 @@
 namespace qncal::desktop {
 
 namespace {
-
-/// The actions that switch between the kinds, in the order of the kinds' numbers.
-constexpr const char* kindActions[] = {"appointments", "tasks", "timeEntries"};
 
 /// "Mar 30 - Apr 5, 2026"
 QString weekText(const firmcal::Span& week)
@@ -126,7 +124,7 @@ void MainWindow::addToolBar()
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(space);
     auto* kinds = new QActionGroup(this);
-    for (const char* name : kindActions) {
+    for (const char* name : kindCommands) {
         auto* action = findChild<QAction*>(name);
         action->setCheckable(true);
         kinds->addAction(action);
@@ -191,7 +189,7 @@ void MainWindow::perform(const std::function<void()>& action)
     }
 }
 
-void MainWindow::showKind() { findChild<QAction*>(kindActions[kind_])->setChecked(true); }
+void MainWindow::showKind() { findChild<QAction*>(kindCommands[kind_])->setChecked(true); }
 
 void MainWindow::showState()
 {
