@@ -1,7 +1,8 @@
 #include "apps/firmcal-desktop/DesktopTest.h"
 
 #include "common/Failure.h"
-#include "items/clsCalendarItem.h"
+#include "core/routineScope.h"
+#include "utilities/RunTimeError.h"
 
 #include <QComboBox>
 #include <QLabel>
@@ -133,15 +134,16 @@ TEST_F(MainWindowTest, WhatTheComponentKeepsToItselfIsTold)
 TEST_F(MainWindowTest, WhatWasReportedOnTheWayToAFailureIsNotToldLater)
 {
     whenAsked([](QMessageBox& box) { EXPECT_EQ(box.text(), "refused"); });
+    const auto report = [] {
+        routine("report", false, []() -> bool { throw RunTimeError(errorNumber::invalidProcedureCall, "on the way"); });
+    };
     window.attempt([&] {
-        clsCalendarItem item;
-        item.calendarItemType(enumLocalCalendarAppointmentItem);
-        item.itemID(1);
-        database->close();
-        EXPECT_FALSE(item.loadCalendarItem());
+        report();
         throw firmcal::Failure("refused");
     });
     EXPECT_NO_THROW(host.errors().throwIfReported());
+    report();
+    EXPECT_THROW(host.errors().throwIfReported(), firmcal::Failure) << "what comes after is told";
 }
 
 TEST_F(MainWindowTest, AStepToAnotherWeekReadsTheAgendaOnce)
