@@ -8,7 +8,7 @@ void ErrorWatch::throwIfReported()
 {
     if (errors_.reportCount() == seen_)
         return;
-    seen_ = errors_.reportCount();
+    markSeen();
     throw Failure(errors_.reports().back().error.text);
 }
 

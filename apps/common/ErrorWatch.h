@@ -14,6 +14,8 @@ public:
 
     /// Throws `Failure` with the text of the error that the component reported since the last call, if any.
     void throwIfReported();
+    /// What was reported up to now is told by other means.
+    void markSeen() { seen_ = errors_.reportCount(); }
 
 private:
     const host::ErrorControl& errors_;

@@ -62,7 +62,7 @@ std::string describe(const clsCalendarItem& item)
 {
     return std::string(kindNoun(item.calendarItemType())) + " " + std::to_string(item.itemID()) + ": "
            + readableDay(item.DateFrom()) + ", " + timeText(item.TimeFrom()) + "-" + timeText(item.TimeTo()) + ", "
-           + (item.Subject().empty() ? "(no subject)" : item.Subject());
+           + subjectText(item.Subject());
 }
 
 } // namespace qncal::firmcal

@@ -3,6 +3,7 @@
 #include "core/enumerations.h"
 
 #include <array>
+#include <string>
 #include <string_view>
 
 namespace qncal::firmcal {
@@ -10,10 +11,10 @@ namespace qncal::firmcal {
 inline constexpr std::array allKinds{enumLocalCalendarAppointmentItem, enumLocalCalendarTaskItem,
                                      enumLocalCalendarDocketItem};
 
-/// "appointment", "task", "docket"; also "time entry" and the first letters. Throws `UsageError` for others.
-enumLocalCalendarItemType readKind(std::string_view text);
 /// "appointment", "task", "time entry"
 std::string_view kindNoun(enumLocalCalendarItemType kind);
+/// "appointments", "tasks", "time entries"
+std::string kindNounPlural(enumLocalCalendarItemType kind);
 /// As it is written behind `--kind`: "appointment", "task", "docket".
 std::string_view kindWord(enumLocalCalendarItemType kind);
 

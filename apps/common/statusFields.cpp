@@ -1,6 +1,7 @@
 #include "common/statusFields.h"
 
 #include "services/Rows.h"
+#include "settings/frmApptStatusOptions.h"
 #include "settings/kindWords.h"
 #include "utilities/readableValue.h"
 
@@ -15,6 +16,8 @@ std::optional<std::int32_t> numberIf(const host::Rows& row, const std::string& f
 
 } // namespace
 
+bool isStatusIcon(std::int32_t number) { return number >= 1 && number <= frmApptStatusOptions::iconCount; }
+
 StatusFields statusFields(DatabaseService& database, enumLocalCalendarItemType kind)
 {
     StatusFields fields;
@@ -27,6 +30,8 @@ StatusFields statusFields(DatabaseService& database, enumLocalCalendarItemType k
         fields[i].name = row.text(prefix + "StatusName" + number);
         fields[i].colour = numberIf(row, prefix + "UseStatusColour" + number, prefix + "StatusColour" + number);
         fields[i].icon = numberIf(row, prefix + "UseStatusIcon" + number, prefix + "StatusIcon" + number);
+        if (fields[i].icon && !isStatusIcon(*fields[i].icon))
+            fields[i].icon.reset();
     }
     return fields;
 }

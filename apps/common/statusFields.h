@@ -20,6 +20,9 @@ struct StatusField {
 };
 using StatusFields = std::array<StatusField, 5>;
 
+/// Whether there is a status icon of that number.
+bool isStatusIcon(std::int32_t number);
+
 /// All empty while the database has no row of them.
 StatusFields statusFields(DatabaseService& database, enumLocalCalendarItemType kind);
 

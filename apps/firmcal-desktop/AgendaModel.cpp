@@ -1,5 +1,6 @@
 #include "firmcal-desktop/AgendaModel.h"
 
+#include "common/valueText.h"
 #include "firmcal-desktop/DesktopHost.h"
 #include "firmcal-desktop/itemPictures.h"
 #include "qt/convert.h"
@@ -70,7 +71,7 @@ QList<QStandardItem*> AgendaModel::cellsOf(DesktopHost& host, const firmcal::Ite
 {
     QList<QStandardItem*> cells;
     for (const std::string& text :
-         {firmcal::timesText(row), std::string(), row.subject.empty() ? "(no subject)" : row.subject,
+         {firmcal::timesText(row), std::string(), firmcal::subjectText(row.subject),
           firmcal::clientName(host.clients(), row.companyID, row.contactID), host.clients().getUserName(row.userID)}) {
         auto* cell = new QStandardItem(host::toQt(text));
         cell->setData(row.id, itemRole);

@@ -3,6 +3,7 @@
 #include "common/itemKind.h"
 #include "firmcal-desktop/AgendaModel.h"
 #include "firmcal-desktop/ReminderTimer.h"
+#include "firmcal-desktop/commands.h"
 #include "firmcal-desktop/menus.h"
 #include "qt/convert.h"
 #include "utilities/Clock.h"
@@ -21,9 +22,6 @@ namespace qncal::desktop {
 
 namespace {
 
-/// The actions that switch between the kinds, in the order of the kinds' numbers.
-constexpr const char* kindActions[] = {"appointments", "tasks", "timeEntries"};
-
 /// "Mar 30 - Apr 5, 2026"
 QString weekText(const firmcal::Span& week)
 {
@@ -40,6 +38,18 @@ public:
         return {size.width(), size.height() + option.fontMetrics.height() * (index.parent().isValid() ? 1 : 2) / 3};
     }
 };
+
+/// Beside the count of the items, where no other message takes its place.
+QLabel& newReminderFailure(QMainWindow& window)
+{
+    auto* label = new QLabel(&window);
+    label->setObjectName("reminderFailure");
+    label->setTextFormat(Qt::PlainText);
+    label->setMinimumWidth(1); // a long text must not widen the window
+    label->hide();
+    window.statusBar()->addPermanentWidget(label);
+    return *label;
+}
 
 QTreeView* newView(AgendaModel& agenda, QWidget& parent)
 {
@@ -63,7 +73,7 @@ QTreeView* newView(AgendaModel& agenda, QWidget& parent)
 MainWindow::MainWindow(DesktopHost& host, QWidget* parent)
     : QMainWindow(parent), host_(host), agenda_(new AgendaModel(this)), view_(newView(*agenda_, *this)),
       weekLabel_(new QLabel(this)), users_(newUserList()), week_(firmcal::weekOf(today())),
-      reminders_(std::make_unique<ReminderTimer>(host, *this))
+      reminders_(std::make_unique<ReminderTimer>(host, *this, newReminderFailure(*this)))
 {
     setObjectName("main");
     setWindowTitle(tr("FirmCal"));
@@ -114,7 +124,7 @@ void MainWindow::addToolBar()
     space->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
     bar->addWidget(space);
     auto* kinds = new QActionGroup(this);
-    for (const char* name : kindActions) {
+    for (const char* name : kindCommands) {
         auto* action = findChild<QAction*>(name);
         action->setCheckable(true);
         kinds->addAction(action);
@@ -128,14 +138,9 @@ void MainWindow::kind(enumLocalCalendarItemType kind)
 {
     kind_ = kind;
     showKind();
-    reload();
 }
 
-void MainWindow::showWeekOf(Date day)
-{
-    week_ = firmcal::weekOf(day);
-    reload();
-}
+void MainWindow::showWeekOf(Date day) { week_ = firmcal::weekOf(day); }
 
 std::optional<std::int32_t> MainWindow::currentItem() const { return agenda_->itemID(view_->currentIndex()); }
 
@@ -162,14 +167,21 @@ void MainWindow::reload()
     showState();
 }
 
-void MainWindow::perform(const std::function<void()>& action)
+void MainWindow::attempt(const std::function<void()>& action)
 {
     try {
         action();
         host_.errors().throwIfReported();
     } catch (const std::exception& error) {
+        // What the component reported on the way to this failure must not come up after the next command.
+        host_.errors().markSeen();
         host_.tell(error.what());
     }
+}
+
+void MainWindow::perform(const std::function<void()>& action)
+{
+    attempt(action);
     try {
         reload();
     } catch (const std::exception& error) {
@@ -177,14 +189,13 @@ void MainWindow::perform(const std::function<void()>& action)
     }
 }
 
-void MainWindow::showKind() { findChild<QAction*>(kindActions[kind_])->setChecked(true); }
+void MainWindow::showKind() { findChild<QAction*>(kindCommands[kind_])->setChecked(true); }
 
 void MainWindow::showState()
 {
-    constexpr const char* plurals[] = {"appointments", "tasks", "time entries"};
     weekLabel_->setText(weekText(week_));
     const int count = agenda_->itemCount();
-    const QString noun = count == 1 ? host::toQt(firmcal::kindNoun(kind_)) : tr(plurals[kind_]);
+    const QString noun = host::toQt(count == 1 ? firmcal::kindNoun(kind_) : firmcal::kindNounPlural(kind_));
     statusBar()->showMessage(QStringLiteral("%1 %2").arg(count).arg(noun));
     for (QAction* action : findChildren<QAction*>())
         if (action->property("needsItem").toBool())

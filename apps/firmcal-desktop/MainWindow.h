@@ -27,6 +27,7 @@ public:
     ~MainWindow() override;
 
     DesktopHost& host() const { return host_; }
+    /// What is set here is shown by the next `reload`, as `perform` does one.
     enumLocalCalendarItemType kind() const { return kind_; }
     void kind(enumLocalCalendarItemType kind);
     const firmcal::Span& week() const { return week_; }
@@ -37,8 +38,9 @@ public:
     /// Reads the agenda anew; the cursor stays on its item, or on the one below when that is gone.
     void reload();
 
-    /// Does what a menu entry is for. What fails, also inside of the component, is told the user; the agenda is read
-    /// anew in any case.
+    /// Does something and tells the user what fails, also inside of the component.
+    void attempt(const std::function<void()>& action);
+    /// Does what a menu entry is for, as `attempt`; the agenda is read anew in any case.
     void perform(const std::function<void()>& action);
 
     ReminderTimer& reminders() { return *reminders_; }

@@ -2,7 +2,8 @@
 
 #include "firmcal-desktop/DesktopHost.h"
 #include "qt/convert.h"
-#include "utilities/RunTimeError.h"
+
+#include <QLabel>
 
 namespace qncal::desktop {
 
@@ -16,8 +17,8 @@ std::optional<std::int32_t> userOf(const DesktopHost& host)
 
 } // namespace
 
-ReminderTimer::ReminderTimer(DesktopHost& host, QWidget& mainWindow)
-    : window_(&mainWindow), loop_(host.sharedDatabase(), window_, userOf(host))
+ReminderTimer::ReminderTimer(DesktopHost& host, QWidget& mainWindow, QLabel& failure)
+    : window_(&mainWindow), loop_(host.sharedDatabase(), window_, userOf(host)), failure_(failure)
 {
     constexpr int halfMinute = 30'000;
     timer_.setInterval(halfMinute);
@@ -39,9 +40,11 @@ void ReminderTimer::tick()
     try {
         loop_.sweep();
         failure_.clear();
-    } catch (const RunTimeError& error) {
-        failure_ = tr("The reminders could not be read: %1").arg(host::toQt(error.what()));
+    } catch (const std::exception& error) { // no exception may pass through the toolkit
+        failure_.setText(tr("The reminders could not be read: %1").arg(host::toQt(error.what())));
     }
+    failure_.setToolTip(failure_.text());
+    failure_.setVisible(!failure_.text().isEmpty());
 }
 
 void ReminderTimer::open()

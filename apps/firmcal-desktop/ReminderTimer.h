@@ -14,15 +14,14 @@ class DesktopHost;
 /// Looks for reminders that have come due at each tick, and shows them in a window.
 class ReminderTimer : public QObject {
 public:
-    /// The host must outlive the timer. The reminders of its user, or of all users without one.
-    ReminderTimer(DesktopHost& host, QWidget& mainWindow);
+    /// All three must outlive the timer. The reminders of the host's user, or of all users without one. `failure` is
+    /// where the user is told that the last look failed, and hidden after one that went well.
+    ReminderTimer(DesktopHost& host, QWidget& mainWindow, QLabel& failure);
 
     /// Looks at once and from then on twice a minute.
     void start();
-    /// Looks once. What fails is kept in `failure` and tried again at the next tick.
+    /// Looks once. What fails is told and tried again at the next tick.
     void tick();
-    /// Empty after a look that went well.
-    const QString& failure() const { return failure_; }
 
     /// Opens the window, also an empty one.
     void open();
@@ -32,7 +31,7 @@ private:
     host::ReminderWindow window_;
     host::ReminderLoop loop_;
     QTimer timer_;
-    QString failure_;
+    QLabel& failure_;
 };
 
 } // namespace qncal::desktop

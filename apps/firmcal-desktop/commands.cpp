@@ -35,13 +35,13 @@ constexpr Command viewCommands[] = {
     {"nextWeek", "&Next week", "Alt+Right", false,
      [](MainWindow& window) { window.showWeekOf(window.week().from.addDays(daysOfWeek)); }},
     line,
-    {"appointments", "&Appointments", "Ctrl+1", false,
+    {kindCommands[0], "&Appointments", "Ctrl+1", false,
      [](MainWindow& window) { window.kind(enumLocalCalendarAppointmentItem); }},
-    {"tasks", "Ta&sks", "Ctrl+2", false, [](MainWindow& window) { window.kind(enumLocalCalendarTaskItem); }},
-    {"timeEntries", "Time &entries", "Ctrl+3", false,
+    {kindCommands[1], "Ta&sks", "Ctrl+2", false, [](MainWindow& window) { window.kind(enumLocalCalendarTaskItem); }},
+    {kindCommands[2], "Time &entries", "Ctrl+3", false,
      [](MainWindow& window) { window.kind(enumLocalCalendarDocketItem); }},
     line,
-    {"reload", "&Reload", "F5", false, [](MainWindow& window) { window.reload(); }},
+    {"reload", "&Reload", "F5", false, [](MainWindow&) {}}, // as after every command
 };
 
 constexpr Command itemCommands[] = {

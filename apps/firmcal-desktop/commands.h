@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <span>
 
 namespace qncal::desktop {
@@ -23,6 +24,9 @@ struct CommandMenu {
     const char* text;
     std::span<const Command> commands;
 };
+
+/// The commands that switch between the kinds, in the order of the kinds' numbers.
+inline constexpr std::array kindCommands{"appointments", "tasks", "timeEntries"};
 
 /// The menus in their order.
 std::span<const CommandMenu> commandMenus();

@@ -11,7 +11,9 @@ int main(int argumentCount, char** arguments)
     if (const int* status = std::get_if<int>(&asked))
         return *status;
     if (!hasDisplay()) {
-        std::cerr << "firmcal-desktop: there is no display; 'firmcal' works without one\n";
+        std::cerr
+            << "firmcal-desktop: there is no display: none of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM is set; "
+               "'firmcal' works without one\n";
         return 1;
     }
     // The arguments are this program's own, none of them the toolkit's.

@@ -1,29 +1,27 @@
 #include "firmcal-desktop/settingsCommands.h"
 
 #include "common/statusFields.h"
-#include "firmcal-desktop/ColourSchemesForm.h"
+#include "core/openForKind.h"
 #include "firmcal-desktop/MainWindow.h"
 #include "items/clsCalendarItem.h"
 #include "qt/convert.h"
+#include "qt/windows/ColourSchemesForm.h"
 
 #include <QMenu>
 
 namespace qncal::desktop {
 
-namespace {
-
-/// Views and kinds share their numbers.
-enumFormDayTimerType viewOf(const MainWindow& window) { return static_cast<enumFormDayTimerType>(window.kind()); }
-
-} // namespace
-
-void openStatusFields(MainWindow& window) { window.host().settings().openChangeApptStatusFieldsForm(viewOf(window)); }
+void openStatusFields(MainWindow& window)
+{
+    window.host().settings().openChangeApptStatusFieldsForm(viewOfKind(window.kind()));
+}
 
 void openStatusOptions(MainWindow& window, int number)
 {
     const firmcal::StatusFields statuses = firmcal::statusFields(window.host().database(), window.kind());
-    window.host().settings().openApptStatusOptionsForm(
-        viewOf(window), statuses[static_cast<std::size_t>(number - 1)].name, static_cast<std::int16_t>(number));
+    window.host().settings().openApptStatusOptionsForm(viewOfKind(window.kind()),
+                                                       statuses[static_cast<std::size_t>(number - 1)].name,
+                                                       static_cast<std::int16_t>(number));
 }
 
 void openCustomFields(MainWindow& window)
@@ -33,7 +31,7 @@ void openCustomFields(MainWindow& window)
     item.openApptCustomFieldsForm();
 }
 
-void openColourSchemes(MainWindow& window) { ColourSchemesForm().open(window.kind()); }
+void openColourSchemes(MainWindow& window) { host::ColourSchemesForm().open(window.kind()); }
 
 void fillWithStatuses(QMenu& menu, MainWindow& window)
 {
@@ -53,7 +51,7 @@ void fillWithStatuses(QMenu& menu, MainWindow& window)
     };
     // An empty menu would not come up by its access key.
     fill();
-    QObject::connect(&menu, &QMenu::aboutToShow, &window, [&window, fill] { window.perform(fill); });
+    QObject::connect(&menu, &QMenu::aboutToShow, &window, [&window, fill] { window.attempt(fill); });
 }
 
 } // namespace qncal::desktop

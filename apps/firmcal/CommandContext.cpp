@@ -2,7 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/openDatabase.h"
-#include "common/valueText.h"
+#include "firmcal/readValue.h"
 #include "services/TerminalMessages.h"
 #include "store/SqliteDatabase.h"
 

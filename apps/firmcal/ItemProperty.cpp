@@ -2,6 +2,7 @@
 
 #include "common/Failure.h"
 #include "common/valueText.h"
+#include "firmcal/readValue.h"
 #include "utilities/text.h"
 
 #include <nlohmann/json.hpp>
@@ -47,7 +48,7 @@ ItemProperty number(std::string_view name, std::int32_t (Item::*get)() const, vo
 
 ItemProperty colour(std::string_view name, std::int32_t (Item::*get)() const, void (Item::*set)(std::int32_t))
 {
-    return property(name, "colour", get, set, readColour, colourText);
+    return property(name, "colour", get, set, parseColour, colourText);
 }
 
 ItemProperty flag(std::string_view name, bool (Item::*get)() const, void (Item::*set)(bool))

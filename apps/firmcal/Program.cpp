@@ -3,6 +3,7 @@
 #include "common/Failure.h"
 #include "common/openDatabase.h"
 #include "firmcal/CommandContext.h"
+#include "firmcal/UsageError.h"
 #include "firmcal/commands.h"
 #include "utilities/RunTimeError.h"
 

@@ -3,6 +3,8 @@
 #include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/commands.h"
+#include "firmcal/kindOption.h"
+#include "firmcal/readValue.h"
 #include "icalendar/CalendarExport.h"
 #include "icalendar/CalendarImport.h"
 #include "utilities/Clock.h"

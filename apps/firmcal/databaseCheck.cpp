@@ -69,11 +69,6 @@ std::optional<std::int32_t> numberIn(const Rows& rows, std::string_view column)
     return integerIn(rows.field(column));
 }
 
-std::string plural(enumLocalCalendarItemType kind)
-{
-    return kind == enumLocalCalendarDocketItem ? "time entries" : std::string(kindNoun(kind)) + "s";
-}
-
 class Checker {
 public:
     Checker(DatabaseService& database, bool repair) : database_(database), repair_(repair) {}
@@ -117,10 +112,12 @@ public:
     {
         CheckResult result{std::move(check)};
         for (const schema::Table& table : schema::tables()) {
-            for (Rows rows = Rows::change(database_, allOf(table.name)); !rows.atEnd(); rows.moveNext()) {
+            Rows rows = Rows::change(database_, allOf(table.name));
+            for (; !rows.atEnd(); rows.moveNext()) {
                 for (const schema::Column& column : table.columns)
                     examineCell(rows, table, column, result);
             }
+            rows.close();
         }
         results_.push_back(std::move(result));
     }
@@ -134,7 +131,8 @@ private:
     void walk(std::string check, std::string_view table, bool canMend, const std::function<Mending(Rows&)>& examine)
     {
         CheckResult result{std::move(check), 0, 0, canMend, {}};
-        for (Rows rows = Rows::change(database_, allOf(table)); !rows.atEnd(); rows.moveNext()) {
+        Rows rows = Rows::change(database_, allOf(table));
+        for (; !rows.atEnd(); rows.moveNext()) {
             const Mending mend = examine(rows);
             if (!mend)
                 continue;
@@ -144,6 +142,7 @@ private:
                 ++result.mended;
             }
         }
+        rows.close();
         results_.push_back(std::move(result));
     }
 
@@ -196,9 +195,9 @@ std::vector<CheckResult> checkRows(DatabaseService& database, bool repair)
     checker.orphans("links of clients that are gone", "ContactLinks", linkReferences);
     for (const enumLocalCalendarItemType kind : allKinds) {
         const std::string_view table = calendarItemKind(kind).tableName;
-        checker.danglingItems(plural(kind) + " of clients that are gone", table, clientReferences, true);
-        checker.danglingItems(plural(kind) + " of users that are gone", table, userReferences, false);
-        checker.seriesOfOne("series of one among the " + plural(kind), table);
+        checker.danglingItems(kindNounPlural(kind) + " of clients that are gone", table, clientReferences, true);
+        checker.danglingItems(kindNounPlural(kind) + " of users that are gone", table, userReferences, false);
+        checker.seriesOfOne("series of one among the " + kindNounPlural(kind), table);
     }
     return checker.take();
 }

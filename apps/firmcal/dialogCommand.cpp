@@ -1,5 +1,4 @@
 #include "common/Failure.h"
-#include "common/itemKind.h"
 #include "common/statusFields.h"
 #include "controls/DialogHost.h"
 #include "core/forms.h"

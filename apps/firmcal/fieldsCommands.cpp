@@ -1,14 +1,15 @@
 #include "common/Failure.h"
 #include "common/itemKind.h"
-#include "common/valueText.h"
+#include "common/statusFields.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Table.h"
+#include "firmcal/UsageError.h"
 #include "firmcal/commands.h"
 #include "firmcal/kindOption.h"
+#include "firmcal/readValue.h"
 #include "services/Rows.h"
 #include "settings/frmApptStatusOptions.h"
 #include "settings/kindWords.h"
-#include "utilities/readableValue.h"
 #include "utilities/text.h"
 
 #include <nlohmann/json.hpp>
@@ -60,51 +61,29 @@ Field readField(const FieldOptions& options)
     throw UsageError("no field '" + options.field + "' (status1 to status5, custom1 to custom5)");
 }
 
-struct FieldValues {
-    std::string name;
-    std::string colour;    ///< empty when it is not shown
-    std::int32_t icon = 0; ///< 0 when none is shown
-};
-
-bool isIcon(std::int32_t icon) { return icon >= 1 && icon <= frmApptStatusOptions::iconCount; }
-
-FieldValues readValues(const host::Rows& row, const Field& field)
-{
-    FieldValues values;
-    if (row.isEmpty())
-        return values;
-    values.name = row.text(field.nameColumn());
-    if (!field.isStatus)
-        return values;
-    const auto isShown = [&](std::string_view what) {
-        return booleanIn(row.field(field.column("Use", what))).value_or(false);
-    };
-    const auto number = [&](std::string_view what) { return integerIn(row.field(field.column("", what))); };
-    if (const auto colour = number("Colour"); colour && isShown("Colour"))
-        values.colour = colourText(*colour);
-    if (const auto icon = number("Icon"); icon && isIcon(*icon) && isShown("Icon"))
-        values.icon = *icon;
-    return values;
-}
-
 void showFields(CommandContext& context, const FieldOptions& options)
 {
     const enumLocalCalendarItemType kind = readKind(options.kind);
-    const host::Rows row = host::Rows::read(context.host().database(), selectFields);
+    DatabaseService& database = context.host().database();
     Table table({{"Field"}, {"Name"}, {"Colour"}, {"Icon"}});
     Json json{{"kind", kindWord(kind)}, {"fields", Json::array()}};
-    for (const bool isStatus : {true, false}) {
-        for (int number = 1; number <= fieldCount; ++number) {
-            const FieldValues values = readValues(row, {kind, isStatus, number});
-            const std::string field = (isStatus ? "status" : "custom") + std::to_string(number);
-            table.add({field, values.name, values.colour, values.icon > 0 ? std::to_string(values.icon) : ""});
-            Json one{{"field", field}, {"name", values.name}};
-            if (isStatus) {
-                one["colour"] = values.colour.empty() ? Json() : Json(values.colour);
-                one["icon"] = values.icon > 0 ? Json(values.icon) : Json();
-            }
-            json["fields"].push_back(std::move(one));
-        }
+    int number = 0;
+    for (const StatusField& status : statusFields(database, kind)) {
+        const std::string field = "status" + std::to_string(++number);
+        const std::string colour = status.colour ? colourText(*status.colour) : std::string();
+        table.add({field, status.name, colour, status.icon ? std::to_string(*status.icon) : std::string()});
+        json["fields"].push_back({{"field", field},
+                                  {"name", status.name},
+                                  {"colour", status.colour ? Json(colour) : Json()},
+                                  {"icon", status.icon ? Json(*status.icon) : Json()}});
+    }
+    const host::Rows row = host::Rows::read(database, selectFields);
+    for (number = 1; number <= fieldCount; ++number) {
+        const std::string field = "custom" + std::to_string(number);
+        const Field custom{kind, false, number};
+        const std::string name = row.isEmpty() ? std::string() : row.text(custom.nameColumn());
+        table.add({field, name, "", ""});
+        json["fields"].push_back({{"field", field}, {"name", name}});
     }
     if (context.options().json)
         context.printJson(json);
@@ -112,14 +91,15 @@ void showFields(CommandContext& context, const FieldOptions& options)
         table.print(context.out());
 }
 
+std::string acceptedIcons() { return "1 to " + std::to_string(frmApptStatusOptions::iconCount) + ", or none"; }
+
 bool isNone(const std::string& text) { return equalsNoCase(text, "none"); }
 
 std::int32_t readIcon(const std::string& text)
 {
     const std::int32_t icon = readInteger(text);
-    if (!isIcon(icon))
-        throw Failure("'" + text + "' is no icon (1 to " + std::to_string(frmApptStatusOptions::iconCount)
-                      + ", or none)");
+    if (!isStatusIcon(icon))
+        throw Failure("'" + text + "' is no icon (" + acceptedIcons() + ")");
     return icon;
 }
 
@@ -141,7 +121,7 @@ void setField(CommandContext& context, const FieldOptions& options)
     if (!options.colour.empty()) {
         changes.emplace_back(useColour, booleanText(!isNone(options.colour)));
         if (!isNone(options.colour))
-            changes.emplace_back(colour, std::to_string(readColour(options.colour)));
+            changes.emplace_back(colour, std::to_string(parseColour(options.colour)));
     }
     if (!options.icon.empty()) {
         changes.emplace_back(useIcon, booleanText(!isNone(options.icon)));
@@ -157,7 +137,7 @@ void setField(CommandContext& context, const FieldOptions& options)
             row.set(column, value);
         row.close();
     }
-    context.out() << lowerAscii(options.field) << " of " << kindNoun(field.kind) << "s changed\n";
+    context.out() << lowerAscii(options.field) << " of " << kindNounPlural(field.kind) << " changed\n";
 }
 
 } // namespace
@@ -180,7 +160,7 @@ void addFieldsCommands(CLI::App& program, CommandContext& context)
     addKindOption(*set, changed->kind);
     set->add_option("--name", changed->name, "Its name")->type_name("NAME");
     set->add_option("--colour", changed->colour, "The colour that shows a status, or none")->type_name("#RRGGBB");
-    set->add_option("--icon", changed->icon, "The icon that shows a status, 1 to 42, or none")->type_name("ICON");
+    set->add_option("--icon", changed->icon, "The icon that shows a status, " + acceptedIcons())->type_name("ICON");
     set->footer("Examples:\n"
                 "  firmcal fields set status1 --name Completed --colour \"#00AA00\" --icon 3\n"
                 "  firmcal fields set custom2 --kind task --name Room");

@@ -1,10 +1,12 @@
 #include "firmcal/itemChanges.h"
 
 #include "common/Failure.h"
+#include "common/itemActions.h"
 #include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/ItemProperty.h"
 #include "firmcal/clientLookup.h"
+#include "firmcal/readValue.h"
 #include "services/saveItem.h"
 #include "utilities/text.h"
 
@@ -27,10 +29,8 @@ void applyTimes(clsCalendarItem& item, const ItemChanges& changes)
             throw Failure("the item would end at " + timeText(item.TimeTo()) + ", before it begins at "
                           + timeText(item.TimeFrom()));
     } else if (!changes.start.empty() || !changes.hours.empty()) {
-        const Date end = item.TimeFrom().addSeconds(std::lround(hours * 3600.0F));
-        if (end.dateOnly().serial() != 0.0)
-            throw Failure("the item would end after midnight");
-        item.TimeTo(end);
+        item.TimeTo(item.TimeFrom().addSeconds(std::lround(hours * 3600.0F)));
+        refuseEndAfterMidnight(item);
     }
 }
 

@@ -2,10 +2,10 @@
 
 #include "common/Failure.h"
 #include "common/itemKind.h"
-#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/ItemProperty.h"
 #include "firmcal/Table.h"
+#include "firmcal/UsageError.h"
 #include "firmcal/commands.h"
 #include "firmcal/itemChanges.h"
 #include "firmcal/kindOption.h"

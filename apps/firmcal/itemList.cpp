@@ -3,9 +3,12 @@
 #include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Table.h"
+#include "firmcal/UsageError.h"
 #include "firmcal/clientLookup.h"
 #include "firmcal/itemCommands.h"
 #include "firmcal/itemRowJson.h"
+#include "firmcal/kindOption.h"
+#include "firmcal/readValue.h"
 
 #include <nlohmann/json.hpp>
 

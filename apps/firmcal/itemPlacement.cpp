@@ -2,6 +2,7 @@
 #include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/itemCommands.h"
+#include "firmcal/readValue.h"
 #include "services/saveItem.h"
 
 #include <nlohmann/json.hpp>

@@ -24,6 +24,7 @@ void copyToArchive(DatabaseService& database, std::int32_t taskID)
             archived.setNew(column.name, value.toText());
     }
     archived.update();
+    archived.close();
 }
 
 } // namespace

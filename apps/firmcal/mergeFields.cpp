@@ -1,6 +1,7 @@
 #include "firmcal/mergeFields.h"
 
 #include "common/Failure.h"
+#include "firmcal/UsageError.h"
 #include "templates/mergeFieldCodes.h"
 #include "utilities/text.h"
 

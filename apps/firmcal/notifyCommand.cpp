@@ -1,6 +1,7 @@
 #include "common/Failure.h"
 #include "common/itemKind.h"
 #include "common/valueText.h"
+#include "core/AutoNotifyService.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
@@ -52,6 +53,22 @@ std::string_view stepWord(DeliveryStep step)
         return "look at it";
     }
     return {};
+}
+
+std::string channelWord(std::int32_t channel)
+{
+    switch (channel) {
+    case AutoNotifyService::email:
+        return "email";
+    case AutoNotifyService::fax:
+        return "fax";
+    case AutoNotifyService::phone:
+        return "phone";
+    case AutoNotifyService::letter:
+        return "letter";
+    default: // as another program may have written it
+        return {};
+    }
 }
 
 host::SmtpSettings readSettings(const std::string& file)
@@ -111,7 +128,7 @@ void printDeliveries(CommandContext& context, const std::vector<Delivery>& deliv
         auto json = nlohmann::ordered_json::array();
         for (const Delivery& delivery : deliveries)
             json.push_back({{"id", delivery.id},
-                            {"channel", host::channelName(delivery.channel)},
+                            {"channel", channelWord(delivery.channel)},
                             {"state", stepWord(delivery.step)},
                             {"item", itemJson(delivery.item)},
                             {"client", delivery.client},
@@ -127,9 +144,8 @@ void printDeliveries(CommandContext& context, const std::vector<Delivery>& deliv
     }
     Table table({{"ID", Table::Align::right}, {"State"}, {"Channel"}, {"To"}, {"Client"}, {"Item"}, {"Reason"}});
     for (const Delivery& delivery : deliveries)
-        table.add({std::to_string(delivery.id), std::string(stepWord(delivery.step)),
-                   host::channelName(delivery.channel), delivery.recipient, clientText(delivery), itemText(delivery),
-                   delivery.reason});
+        table.add({std::to_string(delivery.id), std::string(stepWord(delivery.step)), channelWord(delivery.channel),
+                   delivery.recipient, clientText(delivery), itemText(delivery), delivery.reason});
     table.print(context.out());
 }
 

@@ -1,9 +1,10 @@
 #include "common/Failure.h"
 #include "common/itemKind.h"
-#include "common/valueText.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Table.h"
 #include "firmcal/commands.h"
+#include "firmcal/kindOption.h"
+#include "firmcal/readValue.h"
 #include "services/Rows.h"
 #include "settings/modColourSchemes.h"
 #include "utilities/readableValue.h"
@@ -108,7 +109,7 @@ void writeScheme(host::Rows& row, const SchemeOptions& options)
     std::array<std::string, 4> values;
     for (std::size_t i = 0; i < values.size(); ++i) {
         if (!options.colours[i].empty())
-            values[i] = std::to_string(readColour(options.colours[i]));
+            values[i] = std::to_string(parseColour(options.colours[i]));
     }
     if (options.name)
         row.set("SchemeName", *options.name);

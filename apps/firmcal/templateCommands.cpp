@@ -3,6 +3,7 @@
 #include "controls/richTextStream.h"
 #include "firmcal/CommandContext.h"
 #include "firmcal/Table.h"
+#include "firmcal/UsageError.h"
 #include "firmcal/commands.h"
 #include "firmcal/kindOption.h"
 #include "firmcal/mergeFields.h"

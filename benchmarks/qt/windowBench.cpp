@@ -2,7 +2,7 @@
 #include "controls/Form.h"
 #include "items/frmSelectStartTime.h"
 #include "qt/WindowClasses.h"
-#include "settings/ColourSchemePage.h"
+#include "qt/windows/ColourSchemesForm.h"
 #include "settings/frmApptCustomFields.h"
 #include "settings/frmApptStatusOptions.h"
 #include "settings/frmChangeApptStatusFields.h"
@@ -59,11 +59,6 @@ void openWindow(benchmark::State& state, double atMost)
     compareWith(state, emptyDialog, atMost);
 }
 
-struct ColourSchemesForm : Form {
-    ColourSchemesForm() : Form("frmColourSchemes") {}
-    ColourSchemePage page{*this};
-};
-
 template <class FormType>
 void add(const char* name, double atMost)
 {
@@ -75,7 +70,7 @@ void add(const char* name, double atMost)
     add<frmChangeApptStatusFields>("open_frmChangeApptStatusFields", 3);
     add<frmApptCustomFields>("open_frmApptCustomFields", 3);
     add<frmApptStatusOptions>("open_frmApptStatusOptions", 12);
-    add<ColourSchemesForm>("open_frmColourSchemes", 3);
+    add<host::ColourSchemesForm>("open_frmColourSchemes", 3);
     add<frmSelectStartTime>("open_frmSelectStartTime", 3);
     return true;
 }();

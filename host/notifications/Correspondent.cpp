@@ -1,9 +1,9 @@
 #include "notifications/Correspondent.h"
 
+#include "notifications/controlCharacters.h"
 #include "services/Rows.h"
 #include "utilities/text.h"
 
-#include <algorithm>
 #include <initializer_list>
 #include <sstream>
 
@@ -22,13 +22,11 @@ std::string firstText(const Rows& row, std::initializer_list<std::string_view> c
     return {};
 }
 
-bool isControl(char c) { return static_cast<unsigned char>(c) < ' '; }
-
 /// A name stands on one line, in a greeting as on a list.
 std::string nameIn(const Rows& row, std::string_view column)
 {
     std::string name = firstText(row, {column});
-    std::ranges::replace_if(name, isControl, ' ');
+    blankControlCharacters(name);
     return name;
 }
 
@@ -37,7 +35,7 @@ void appendLines(std::vector<std::string>& lines, const std::string& text)
 {
     std::istringstream stream(text);
     for (std::string line; std::getline(stream, line);) {
-        std::ranges::replace_if(line, isControl, ' ');
+        blankControlCharacters(line);
         if (const std::string_view content = trimmed(line); !content.empty())
             lines.emplace_back(content);
     }

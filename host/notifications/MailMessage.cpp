@@ -1,5 +1,6 @@
 #include "notifications/MailMessage.h"
 
+#include "notifications/controlCharacters.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
 #include "utilities/utf8.h"
@@ -30,8 +31,6 @@ std::string base64(std::string_view bytes)
     return text;
 }
 
-bool isControl(char c) { return static_cast<unsigned char>(c) < ' ' || c == '\x7F'; }
-
 bool isPlain(std::string_view text)
 {
     return text.size() <= longestPlainText && text.find("=?") == std::string_view::npos
@@ -55,7 +54,7 @@ std::string wellFormed(std::string_view text)
 std::string onOneLine(std::string_view text)
 {
     std::string line = wellFormed(text);
-    std::ranges::replace_if(line, isControl, ' ');
+    blankControlCharacters(line);
     return line;
 }
 

@@ -15,12 +15,6 @@ namespace qncal::host {
 
 namespace {
 
-void setStep(Delivery& delivery, DeliveryStep step, std::string reason = {})
-{
-    delivery.step = step;
-    delivery.reason = std::move(reason);
-}
-
 void setSent(Rows& row)
 {
     setDeliveryState(row, DeliveryState::sent);
@@ -72,7 +66,7 @@ void NotificationDelivery::act(DeliveryTask& task)
     switch (task.delivery.step) {
     case DeliveryStep::attempt:
         if (!task.delivery.reason.empty())
-            return fail(task.delivery, std::string(task.delivery.reason));
+            return fail(task.delivery, task.delivery.reason);
         return task.delivery.channel == AutoNotifyService::letter ? writeLetter(task) : sendMail(task);
     case DeliveryStep::tooLate:
         return close(task.delivery, DeliveryState::tooLate);

@@ -45,7 +45,8 @@ struct Talk {
         talk.handedOver += part;
         return part;
     }
-    static std::size_t listen(const char* line, std::size_t size, std::size_t count, void* self)
+    // Not const, as the library calls it.
+    static std::size_t listen(char* line, std::size_t size, std::size_t count, void* self)
     {
         constexpr std::size_t longestAnswer = 200;
         auto& talk = *static_cast<Talk*>(self);

@@ -5,6 +5,7 @@
 #include "services/DeliveryState.h"
 #include "services/NotificationLedger.h"
 #include "services/Rows.h"
+#include "services/addMinutes.h"
 #include "utilities/Clock.h"
 #include "utilities/dateText.h"
 
@@ -14,15 +15,8 @@ namespace qncal::host {
 
 namespace {
 
-constexpr std::int64_t secondsPerMinute = 60;
 constexpr std::int64_t attemptLimitMinutes = 15;
 constexpr std::int64_t longestWaitMinutes = 24 * 60;
-
-void setStep(Delivery& delivery, DeliveryStep step, std::string reason)
-{
-    delivery.step = step;
-    delivery.reason = std::move(reason);
-}
 
 /// The kind and the id of a row's item; an unknown kind when the row has none.
 std::pair<enumLocalCalendarItemType, std::int32_t> itemOf(const Rows& row)
@@ -86,7 +80,7 @@ void planWaiting(DeliveryTask& task, const Rows& row, const std::shared_ptr<Data
     const bool waits = !next.isNull()
                        && next.toDate() > moment
                        // Further ahead only since the clock was put back.
-                       && next.toDate() <= moment.addSeconds(longestWaitMinutes * secondsPerMinute)
+                       && next.toDate() <= addMinutes(moment, longestWaitMinutes)
                        && row.text("Recipient") == delivery.recipient;
     if (waits)
         return setStep(delivery, DeliveryStep::later,
@@ -153,13 +147,18 @@ std::optional<DeliveryTask> planDelivery(const std::shared_ptr<DatabaseService>&
     }
 }
 
+void setStep(Delivery& delivery, DeliveryStep step, std::string reason)
+{
+    delivery.step = step;
+    delivery.reason = std::move(reason);
+}
+
 // An attempt of the future was begun before the clock was put back.
 bool isUnderWay(const Rows& row, Date moment)
 {
     const Variant begun = row.field("AttemptDate");
-    const std::int64_t limit = attemptLimitMinutes * secondsPerMinute;
     return deliveryStateOf(row) == DeliveryState::sending && !begun.isNull() && begun.toDate() <= moment
-           && begun.toDate().addSeconds(limit) > moment;
+           && addMinutes(begun.toDate(), attemptLimitMinutes) > moment;
 }
 
 Date nextAttempt(Date lastAttempt, std::int32_t attempts)
@@ -167,7 +166,7 @@ Date nextAttempt(Date lastAttempt, std::int32_t attempts)
     std::int64_t minutes = 5;
     for (std::int32_t i = 1; i < attempts && minutes < longestWaitMinutes; ++i)
         minutes *= 4;
-    return lastAttempt.addSeconds(std::min(minutes, longestWaitMinutes) * secondsPerMinute);
+    return addMinutes(lastAttempt, std::min(minutes, longestWaitMinutes));
 }
 
 } // namespace qncal::host

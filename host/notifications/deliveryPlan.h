@@ -42,6 +42,8 @@ struct Delivery {
     std::string reason;
 };
 
+void setStep(Delivery& delivery, DeliveryStep step, std::string reason = {});
+
 /// A delivery and whom it goes to.
 struct DeliveryTask {
     Delivery delivery;

@@ -1,6 +1,7 @@
 #include "popups/ReminderLoop.h"
 
 #include "services/Rows.h"
+#include "services/addMinutes.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
@@ -10,8 +11,6 @@
 namespace qncal::host {
 
 namespace {
-
-constexpr std::int64_t secondsPerMinute = 60;
 
 std::string byKey(std::int32_t reminderID)
 {
@@ -53,7 +52,7 @@ std::size_t ReminderLoop::sweep()
     const Date moment = now();
     rearmMoved(moment);
     std::vector<Reminder> due = dueAt(moment);
-    const Date missedBefore = moment.addSeconds(-missedAfterMinutes * secondsPerMinute);
+    const Date missedBefore = addMinutes(moment, -missedAfterMinutes);
     const auto firstPresent =
         std::ranges::find_if(due, [&](const Reminder& reminder) { return reminder.due >= missedBefore; });
     const std::vector<Reminder> missed(due.begin(), firstPresent);
@@ -112,7 +111,7 @@ ReminderLoop::Outcome ReminderLoop::snooze(std::int32_t reminderID, int minutes)
     if (minutes < 1)
         throw RunTimeError(errorNumber::invalidProcedureCall, "A reminder is put off by one minute or more");
     return answer(reminderID, [&](Rows& row) {
-        const Date again = now().addSeconds(minutes * secondsPerMinute);
+        const Date again = addMinutes(now(), minutes);
         row.set("ReminderDate", defaultDateText(again.dateOnly()));
         row.set("ReminderTime", clockTime(again));
         markCompleted(row, false);
@@ -174,21 +173,21 @@ void ReminderLoop::rearmMoved(Date moment)
 {
     constexpr int growth = 8;
     for (int count = 1;; count *= growth) {
+        Rows row = Rows::change(*database_, "SELECT TOP " + std::to_string(count)
+                                                + " Reminders.* FROM Reminders WHERE Completed = True"
+                                                  " ORDER BY ReminderDate DESC, ReminderTime DESC, ReminderID DESC;");
         int read = 0;
-        for (Rows row =
-                 Rows::change(*database_, "SELECT TOP " + std::to_string(count)
-                                              + " Reminders.* FROM Reminders WHERE Completed = True"
-                                                " ORDER BY ReminderDate DESC, ReminderTime DESC, ReminderID DESC;");
-             !row.atEnd(); row.moveNext(), ++read) {
+        bool isLast = false;
+        for (; !isLast && !row.atEnd(); row.moveNext(), ++read) {
             const Date due = momentOf(row);
             const Variant shownFor = row.field("ShownFor");
             const bool isMoved = !shownFor.isNull() && shownFor.toDate() != due;
-            if (due <= moment && !(isMoved && shownFor.toDate() < due))
-                return;
-            if (isMoved)
+            isLast = due <= moment && !(isMoved && shownFor.toDate() < due);
+            if (isMoved && !isLast)
                 markCompleted(row, false);
         }
-        if (read < count)
+        row.close();
+        if (isLast || read < count)
             return;
     }
 }

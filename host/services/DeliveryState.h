@@ -26,21 +26,4 @@ DeliveryState deliveryStateOf(const Rows& row);
 /// Writes the state with the mark that belongs to it.
 void setDeliveryState(Rows& row, DeliveryState state);
 
-/// A channel of `AutoNotifyService`: "email", "fax", "phone", "letter"; empty for any other number.
-constexpr const char* channelName(std::int32_t channel)
-{
-    switch (channel) {
-    case 1:
-        return "email";
-    case 2:
-        return "fax";
-    case 4:
-        return "phone";
-    case 8:
-        return "letter";
-    default:
-        return "";
-    }
-}
-
 } // namespace qncal::host

@@ -101,12 +101,12 @@ void NotificationLedger::linkNotification(std::int16_t kind, std::int32_t notifi
     if (row.isEmpty())
         return;
     row.set(column, std::to_string(itemID));
-    if (mayHaveBeenSent(row))
-        return;
-    const NotifiedItem item = itemOf(*database_, kind, itemID);
-    setClient(row, item.client);
-    keepAhead(row, item);
-    rearm(row);
+    if (!mayHaveBeenSent(row)) {
+        const NotifiedItem item = itemOf(*database_, kind, itemID);
+        setClient(row, item.client);
+        keepAhead(row, item);
+        rearm(row);
+    }
     row.close();
 }
 

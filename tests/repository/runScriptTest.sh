@@ -28,11 +28,11 @@ expect() { # expect WHAT ACTUAL WANTED
     failures=$((failures + 1))
 }
 
-# try NAME DISPLAY WAYLAND_DISPLAY ARGUMENT...: leaves status, out, err and the calls in $called
+# try NAME DISPLAY WAYLAND_DISPLAY ARGUMENT...: with the platform of Qt in $platform; leaves status, out, err and the calls in $called
 try() {
     name=$1
     : >"$calls"
-    out=$(env -u FIRMCAL_DATABASE DISPLAY="$2" WAYLAND_DISPLAY="$3" "$work/run" "${@:4}" 2>"$work/err")
+    out=$(env -u FIRMCAL_DATABASE DISPLAY="$2" WAYLAND_DISPLAY="$3" QT_QPA_PLATFORM="${platform:-}" "$work/run" "${@:4}" 2>"$work/err")
     status=$?
     err=$(<"$work/err")
     # The temporary folder has another name each time.
@@ -54,6 +54,11 @@ expect output "$out" "$hint"
 
 try "under Wayland" "" wayland-0
 expect output "$out" "$hint"
+
+platform=vnc
+try "on a platform of Qt's that needs neither" "" ""
+expect output "$out" "$hint"
+unset platform
 
 try "a firm to keep and a calendar" "" "" --database "$work/kept.db" mine.ics
 expect status "$status" 0
@@ -85,7 +90,7 @@ unset desktopStatus
 try "the desktop without a display" "" "" --desktop
 expect status "$status" 1
 expect output "$out" ""
-expect error "$err" "./run --desktop needs a display: neither DISPLAY nor WAYLAND_DISPLAY is set. ./run alone needs none."
+expect error "$err" "./run --desktop needs a display: none of DISPLAY, WAYLAND_DISPLAY and QT_QPA_PLATFORM is set. ./run alone needs none."
 expect calls "$called" ""
 
 try "help" "" "" --help

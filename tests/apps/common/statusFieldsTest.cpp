@@ -31,5 +31,19 @@ TEST_F(StatusFieldsTest, AreOfTheKindAndShowWhatIsSwitchedOn)
     EXPECT_EQ(statusFields(*database, enumLocalCalendarAppointmentItem)[1].name, "Cancelled");
 }
 
+TEST_F(StatusFieldsTest, WhatIsNoIconIsNotShown)
+{
+    addRow("CustomFields", {{"TaskUseStatusIcon1", "True"},
+                            {"TaskStatusIcon1", "99"},
+                            {"TaskUseStatusIcon2", "True"},
+                            {"TaskStatusIcon2", "0"},
+                            {"TaskUseStatusIcon3", "True"},
+                            {"TaskStatusIcon3", "42"}});
+    const StatusFields tasks = statusFields(*database, enumLocalCalendarTaskItem);
+    EXPECT_FALSE(tasks[0].icon);
+    EXPECT_FALSE(tasks[1].icon);
+    EXPECT_EQ(tasks[2].icon, 42);
+}
+
 } // namespace
 } // namespace qncal::firmcal

@@ -1,7 +1,12 @@
 #include "apps/firmcal-desktop/DesktopTest.h"
 
+#include "common/Failure.h"
+#include "core/routineScope.h"
+#include "utilities/RunTimeError.h"
+
 #include <QComboBox>
 #include <QLabel>
+#include <QMenu>
 #include <QStatusBar>
 
 namespace qncal::test {
@@ -124,6 +129,35 @@ TEST_F(MainWindowTest, WhatTheComponentKeepsToItselfIsTold)
     database->close();
     whenAsked([](QMessageBox& box) { EXPECT_FALSE(box.text().isEmpty()); });
     action("bestTime").trigger();
+}
+
+TEST_F(MainWindowTest, WhatWasReportedOnTheWayToAFailureIsNotToldLater)
+{
+    whenAsked([](QMessageBox& box) { EXPECT_EQ(box.text(), "refused"); });
+    const auto report = [] {
+        routine("report", false, []() -> bool { throw RunTimeError(errorNumber::invalidProcedureCall, "on the way"); });
+    };
+    window.attempt([&] {
+        report();
+        throw firmcal::Failure("refused");
+    });
+    EXPECT_NO_THROW(host.errors().throwIfReported());
+    report();
+    EXPECT_THROW(host.errors().throwIfReported(), firmcal::Failure) << "what comes after is told";
+}
+
+TEST_F(MainWindowTest, AStepToAnotherWeekReadsTheAgendaOnce)
+{
+    int reads = 0;
+    QObject::connect(agenda().model(), &QAbstractItemModel::rowsAboutToBeRemoved, &window, [&reads] { ++reads; });
+    press(Qt::Key_Right, Qt::AltModifier);
+    EXPECT_EQ(reads, 1);
+    press(Qt::Key_2, Qt::ControlModifier);
+    EXPECT_EQ(reads, 2);
+    press(Qt::Key_F5);
+    EXPECT_EQ(reads, 3);
+    QMetaObject::invokeMethod(&widget<QMenu>(window, "statusOptions"), "aboutToShow");
+    EXPECT_EQ(reads, 3) << "opening a menu";
 }
 
 TEST_F(MainWindowTest, TheAboutBoxIsClosedByEscape)

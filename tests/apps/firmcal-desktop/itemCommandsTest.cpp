@@ -4,6 +4,7 @@
 #include "qt/widgets/RichTextEdit.h"
 
 #include <QComboBox>
+#include <QLabel>
 
 namespace qncal::test {
 namespace {
@@ -125,7 +126,7 @@ TEST_F(ItemCommandsTest, SavingSchedulesTheReminderThatThenComesUp)
     auto& reminders = window.reminders();
     reminders.tick();
     EXPECT_TRUE(reminders.window().isVisible());
-    ASSERT_EQ(reminders.failure(), "");
+    ASSERT_EQ(widget<QLabel>(window, "reminderFailure").text(), "");
     EXPECT_GE(reminders.window().reminderCount(), 1);
     item.deleteCalendarItem();
     const int before = reminders.window().reminderCount();

@@ -50,7 +50,8 @@ TEST_F(FieldsCommandsTest, WhatIsNoColourAndNoIconIsBlank)
 TEST_F(FieldsCommandsTest, KeepsTheKindsApartInOneRow)
 {
     succeed({"fields", "set", "status1", "--kind", "task", "--name", "Done"});
-    succeed({"fields", "set", "status1", "--kind", "docket", "--name", "Billed"});
+    EXPECT_EQ(output({"fields", "set", "status1", "--kind", "docket", "--name", "Billed"}),
+              "status1 of time entries changed\n");
     EXPECT_EQ(rows("SELECT ApptStatusName1, TaskStatusName1, DocketStatusName1 FROM CustomFields;"),
               "{\"ApptStatusName1\":null,\"TaskStatusName1\":\"Done\",\"DocketStatusName1\":\"Billed\"}\n");
 }

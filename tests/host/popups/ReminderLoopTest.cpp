@@ -3,6 +3,7 @@
 #include "host/popups/RecordingDisplay.h"
 #include "host/services/HostTest.h"
 #include "items/clsCalendarItem.h"
+#include "support/DatabaseThatFailsLate.h"
 #include "utilities/Clock.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
@@ -388,6 +389,15 @@ TEST_F(ReminderLoopTest, ReadsAsMuchAmongManyRemindersAsAmongFew)
     const auto few = readBySweep();
     addOthers(500);
     EXPECT_EQ(readBySweep(), few);
+}
+
+TEST_F(ReminderLoopTest, AReminderThatCannotBeOpenedAgainIsTold)
+{
+    const auto id = addReminder(at(9, 0));
+    loop.sweep();
+    moveTo(id, at(10, 0));
+    ReminderLoop failing{std::make_shared<qncal::test::DatabaseThatFailsLate>(database), display};
+    EXPECT_THROW(failing.sweep(), RunTimeError);
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 #include "services/NotificationLedger.h"
 
 #include "host/services/HostTest.h"
+#include "services/DeliveryState.h"
+#include "support/DatabaseThatFailsLate.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
 
@@ -170,6 +172,17 @@ TEST_F(NotificationLedgerTest, TellsThatAKindIsToBeShownAnew)
     rows.refreshed.subscribe([&](std::int16_t kind) { refreshed.push_back(kind); });
     service.refreshNotification(task);
     EXPECT_EQ(refreshed, std::vector<std::int16_t>{task});
+}
+
+TEST_F(NotificationLedgerTest, AWriteThatFailsWhenItIsStoredIsTold)
+{
+    const std::int32_t id = service.createEmailNotification(task, 12, monday, -1, -1, -1);
+    NotificationLedger ledger{std::make_shared<qncal::test::DatabaseThatFailsLate>(database)};
+    EXPECT_THROW(ledger.linkNotification(task, id, 13), RunTimeError);
+    Rows sent = Rows::change(*database, notificationByKey(id));
+    sent.set("NotificationSent", "True");
+    sent.close();
+    EXPECT_THROW(ledger.linkNotification(task, id, 14), RunTimeError) << "also for one that was sent";
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 #include "host/qt/QtDialogTest.h"
-#include "host/qt/windows/ColourSchemesForm.h"
 #include "items/frmSelectStartTime.h"
+#include "qt/windows/ColourSchemesForm.h"
 #include "settings/frmApptCustomFields.h"
 #include "settings/frmApptStatusOptions.h"
 #include "settings/frmChangeApptStatusFields.h"
@@ -38,12 +38,7 @@ const WindowRow windows[] = {
          form.Initialize();
      }},
     {"TestComment", "frmTestComment", [] { frmTestComment().Initialize("Some words"); }},
-    {"ColourSchemes", "frmColourSchemes",
-     [] {
-         ColourSchemesForm form;
-         form.page.setup(enumLocalCalendarAppointmentItem);
-         form.showModal();
-     }},
+    {"ColourSchemes", "frmColourSchemes", [] { host::ColourSchemesForm().open(enumLocalCalendarAppointmentItem); }},
 };
 
 class EveryWindowTest : public QtDialogTest, public testing::WithParamInterface<WindowRow> {

@@ -7,13 +7,12 @@
 #include "controls/rangeControls.h"
 #include "controls/richTextStream.h"
 #include "host/qt/QtDialogTest.h"
-#include "host/qt/windows/ColourSchemesForm.h"
 #include "items/frmSelectStartTime.h"
 #include "qt/widgets/ColourButton.h"
 #include "qt/widgets/DateTimeEdit.h"
 #include "qt/widgets/RichTextEdit.h"
+#include "qt/windows/ColourSchemesForm.h"
 #include "settings/CellBackgroundPage.h"
-#include "settings/ColourSchemePage.h"
 #include "templates/frmTestComment.h"
 
 #include <QCheckBox>
@@ -90,9 +89,8 @@ struct ColourSchemesWindowTest : QtDialogTest {
                                      {"TitleForeColour", "16777215"},
                                      {"BackColour", "16574434"},
                                      {"ForeColour", "4203520"}});
-        form.page.setup(enumLocalCalendarAppointmentItem);
     }
-    ColourSchemesForm form;
+    host::ColourSchemesForm form;
 };
 
 TEST_F(ColourSchemesWindowTest, ANameIsStoredAtEachKeyAndTakesItsPlace)
@@ -101,7 +99,7 @@ TEST_F(ColourSchemesWindowTest, ANameIsStoredAtEachKeyAndTakesItsPlace)
         QCoreApplication::processEvents();
         picture(window, "frmColourSchemes");
         auto& list = widget<QTreeWidget>(window, "lvSchemes");
-        EXPECT_EQ(window.windowTitle(), "Colour Schemes");
+        EXPECT_EQ(window.windowTitle(), "Appointment Colour Schemes");
         EXPECT_EQ(list.currentItem()->text(0), "Amber");
         type(window, "txtSchemeName", "Zebra");
         QCoreApplication::processEvents();
@@ -110,7 +108,7 @@ TEST_F(ColourSchemesWindowTest, ANameIsStoredAtEachKeyAndTakesItsPlace)
         EXPECT_EQ(form.page.txtSchemeName.text(), "Zebra");
         EXPECT_TRUE(widget<QLineEdit>(window, "txtSchemeName").hasFocus());
     });
-    form.showModal();
+    form.open(enumLocalCalendarAppointmentItem);
     EXPECT_EQ(cell("ColourSchemes", form.page.currentSchemeID(), "SchemeName"), "Zebra");
 }
 
@@ -123,7 +121,7 @@ TEST_F(ColourSchemesWindowTest, ThePreviewHasTheColoursOfTheScheme)
         EXPECT_EQ(title.palette().color(QPalette::Window), QColor(255, 0, 0));
         EXPECT_EQ(widget<QPlainTextEdit>(window, "txtApptPreview").palette().color(QPalette::Base).blue(), 252);
     });
-    form.showModal();
+    form.open(enumLocalCalendarAppointmentItem);
 }
 
 TEST_F(ColourSchemesWindowTest, SchemesAreAddedAndDeletedByTheMouse)
@@ -139,20 +137,13 @@ TEST_F(ColourSchemesWindowTest, SchemesAreAddedAndDeletedByTheMouse)
         QCoreApplication::processEvents();
         EXPECT_EQ(list.topLevelItemCount(), 2);
     });
-    form.showModal();
+    form.open(enumLocalCalendarAppointmentItem);
     EXPECT_EQ(rowCount("ColourSchemes"), 2);
 }
 
 /// The window of the form with both pages of colours.
-struct ColourPagesForm : ColourSchemesForm {
-    ColourPagesForm()
-    {
-        close.caption("Close");
-        close.isCancel(true);
-        close.Click = [this] { unload(); };
-    }
+struct ColourPagesForm : host::ColourSchemesForm {
     CellBackgroundPage cells{*this};
-    CommandButton close{*this, "cmdClose"};
 };
 
 struct CellBackgroundTest : QtDialogTest {
@@ -160,7 +151,6 @@ struct CellBackgroundTest : QtDialogTest {
     {
         for (int day = 0; day < 7; ++day)
             form.cells.cpDayViewBackColour(day).colour(0x010101 * (255 - 20 * day));
-        form.page.setup(enumLocalCalendarAppointmentItem);
     }
     ColourPagesForm form;
 };
@@ -168,7 +158,7 @@ struct CellBackgroundTest : QtDialogTest {
 TEST_F(CellBackgroundTest, TheWeekTakesTheColoursOfTheDay)
 {
     whenShown("frmColourSchemes", [&](host::FormWindow& window) {
-        EXPECT_EQ(window.windowTitle(), "Colour Schemes");
+        EXPECT_EQ(window.windowTitle(), "Appointment Colour Schemes");
         auto& same = widget<QCheckBox>(window, "chkUseSameColours(0)");
         EXPECT_TRUE(same.isVisible());
         QTest::keyClick(&same, Qt::Key_Space);
@@ -180,7 +170,7 @@ TEST_F(CellBackgroundTest, TheWeekTakesTheColoursOfTheDay)
         QTest::keyClick(&window, Qt::Key_Escape);
         EXPECT_FALSE(window.isVisible());
     });
-    form.showModal();
+    form.open(enumLocalCalendarAppointmentItem);
 }
 
 struct TestCommentWindowTest : QtDialogTest {

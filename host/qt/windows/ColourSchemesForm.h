@@ -2,10 +2,10 @@
 
 #include "settings/ColourSchemePage.h"
 
-namespace qncal::desktop {
+namespace qncal::host {
 
-/// The page of the colour schemes as a dialog of its own. Closing it stores what is on it, as every other operation of
-/// the page does.
+/// The page of the colour schemes as a dialog of its own, for a host that has no dialog around it. Closing it stores
+/// what is on it, as every other operation of the page does.
 class ColourSchemesForm : public Form {
 public:
     ColourSchemesForm();
@@ -20,4 +20,4 @@ protected:
     void Form_Unload() override;
 };
 
-} // namespace qncal::desktop
+} // namespace qncal::host

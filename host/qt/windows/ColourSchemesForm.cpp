@@ -1,8 +1,8 @@
-#include "firmcal-desktop/ColourSchemesForm.h"
+#include "qt/windows/ColourSchemesForm.h"
 
 #include "settings/kindWords.h"
 
-namespace qncal::desktop {
+namespace qncal::host {
 
 namespace {
 
@@ -12,7 +12,7 @@ constexpr TextsByKind titles{"Appointment Colour Schemes", "Task Colour Schemes"
 
 ColourSchemesForm::ColourSchemesForm() : Form("frmColourSchemes")
 {
-    cmdClose.caption("Close");
+    cmdClose.caption("C&lose"); // C is the key of the tab, where the window has two pages
     cmdClose.isCancel(true);
     cmdClose.Click = [this] { unload(); };
 }
@@ -30,4 +30,4 @@ void ColourSchemesForm::Form_Unload()
     page.saveSchemeChanges(saved);
 }
 
-} // namespace qncal::desktop
+} // namespace qncal::host
