@@ -78,7 +78,7 @@ FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
     FormWindow* window = windows_.make(form, ownerFor(loop != nullptr));
     window->setModal(loop != nullptr);
     shown_.push_back({&form, window, loop});
-    QObject::connect(window, &QObject::destroyed, &watch_, [=, this] { windowWent(window); });
+    QObject::connect(window, &QObject::destroyed, &watch_, [this, &form] { windowWent(form); });
     // Handlers that run while the window comes up may take the form away again.
     const QPointer<FormWindow> alive(window);
     if (opener)
@@ -113,10 +113,9 @@ void QtDialogHost::placeOver(QWidget& window, const QWidget& other)
 }
 
 /// A window that its owner has taken along: its form is not on the screen any more.
-void QtDialogHost::windowWent(const FormWindow* window)
+void QtDialogHost::windowWent(const Form& form)
 {
-    const auto found =
-        std::find_if(shown_.begin(), shown_.end(), [=](const Shown& shown) { return shown.window == window; });
+    const auto found = find(form);
     if (found == shown_.end())
         return;
     const Shown gone = *found;
@@ -159,8 +158,11 @@ void QtDialogHost::hide(Form& form)
         return;
     const Shown shown = *found;
     shown_.erase(found);
-    if (shown.window)
+    if (shown.window) {
+        // The form may have another window by the time that this one is deleted.
+        QObject::disconnect(shown.window, nullptr, &watch_, nullptr);
         shown.window->hide();
+    }
     // A modal window goes when its loop has ended; what hides a modeless one may stand in one of its own handlers.
     if (shown.loop)
         shown.loop->quit();

@@ -63,7 +63,7 @@ private:
     static void standBefore(QWidget& window, const QWidget& opener);
     static void placeOver(QWidget& window, const QWidget& other);
     std::vector<Shown>::const_iterator find(const Form& form) const;
-    void windowWent(const FormWindow* window);
+    void windowWent(const Form& form);
 
     WindowClasses windows_;
     std::vector<Shown> shown_;
