@@ -21,6 +21,12 @@ struct Reminder {
     friend bool operator==(const Reminder&, const Reminder&) = default;
 };
 
+/// What became of the user's answer to a reminder.
+enum class ReminderOutcome : std::uint8_t {
+    done,
+    deleted, ///< there is no such reminder any more: its item was deleted while it was on the screen
+};
+
 /// Host contract: where a `ReminderLoop` shows what has come due. Called on the loop's thread. Whatever is thrown
 /// reaches the caller of the sweep, and the reminder comes again with the next one.
 class ReminderDisplay {

@@ -28,11 +28,7 @@ public:
     /// How many reminders were shown.
     std::size_t sweep();
 
-    /// What became of an answer to a reminder.
-    enum class Outcome : std::uint8_t {
-        done,
-        deleted, ///< there is no such reminder any more: its item was deleted while it was on the screen
-    };
+    using Outcome = ReminderOutcome;
     /// Shows the reminder again so many minutes from now. One that was moved while it was on the screen comes at its
     /// new moment instead. Throws `RunTimeError` 5 below one minute.
     Outcome snooze(std::int32_t reminderID, int minutes);

@@ -6,8 +6,8 @@
 
 namespace qncal::host {
 
-ProgressWindow::ProgressWindow(ProgressDialog& dialog, QWidget* parent)
-    : QProgressDialog(parent), dialog_(&dialog), updated_(dialog.updated, this, [this] { showState(); })
+ProgressWindow::ProgressWindow(ProgressDialog& dialog)
+    : dialog_(&dialog), updated_(dialog.updated, this, [this] { showState(); })
 {
     setObjectName("progress");
     setWindowModality(Qt::ApplicationModal);
@@ -15,13 +15,13 @@ ProgressWindow::ProgressWindow(ProgressDialog& dialog, QWidget* parent)
     setAutoClose(false);
     setAutoReset(false);
     setMinimumDuration(0);
+    setMaximum(dialog.maximum());
+    setLabelText(toQt(dialog.text()));
     connect(this, &QProgressDialog::canceled, this, [this] { dialog_->cancel(); });
 }
 
 void ProgressWindow::run()
 {
-    setMaximum(dialog_->maximum());
-    setLabelText(toQt(dialog_->text()));
     show();
     QApplication::processEvents();
     dialog_->run();

@@ -10,7 +10,7 @@ namespace qncal::host {
 /// Shows how far a long work is, and lets the user stop it.
 class ProgressWindow : public QProgressDialog {
 public:
-    ProgressWindow(ProgressDialog& dialog, QWidget* parent);
+    explicit ProgressWindow(ProgressDialog& dialog);
 
     /// Shows the window, does the work and takes the window away. Events are handled at each step of the work.
     void run();

@@ -5,6 +5,7 @@
 #include "qt/bindings/anyWidget.h"
 #include "qt/convert.h"
 #include "qt/printRichText.h"
+#include "qt/runWindow.h"
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -14,9 +15,9 @@
 #include <QFontDialog>
 #include <QMenu>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
-#include <memory>
 #include <utility>
 
 namespace qncal::host {
@@ -24,7 +25,8 @@ namespace qncal::host {
 QtDialogHost::~QtDialogHost()
 {
     QObject::disconnect(beforeWaiting_);
-    for (const Shown& shown : shown_)
+    // The entries first: a window that goes would look for its own.
+    for (const Shown& shown : std::exchange(shown_, {}))
         delete shown.window;
 }
 
@@ -42,14 +44,14 @@ void QtDialogHost::turn() const
         onTurn_();
 }
 
-std::vector<QtDialogHost::Shown>::iterator QtDialogHost::find(const Form& form)
+std::vector<QtDialogHost::Shown>::const_iterator QtDialogHost::find(const Form& form) const
 {
     return std::find_if(shown_.begin(), shown_.end(), [&](const Shown& shown) { return shown.form == &form; });
 }
 
 FormWindow* QtDialogHost::windowOf(const Form& form) const
 {
-    const auto found = std::find_if(shown_.begin(), shown_.end(), [&](const Shown& s) { return s.form == &form; });
+    const auto found = find(form);
     return found == shown_.end() ? nullptr : found->window.data();
 }
 
@@ -61,16 +63,28 @@ QWidget* QtDialogHost::windowInFront() const
     return active ? active : mainWindow_.data();
 }
 
+/// A window that outlives the form's: a modeless form may be hidden at any time, a modal one only by the code that
+/// stands above it. A modeless form does not end with the modal one that it was shown from.
+QWidget* QtDialogHost::ownerFor(bool isModal) const
+{
+    QWidget* const modal = isModal ? QApplication::activeModalWidget() : nullptr;
+    return modal ? modal : mainWindow_.data();
+}
+
 FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
 {
     turn();
-    FormWindow* window = windows_.make(form, windowInFront());
+    QWidget* const opener = windowInFront();
+    FormWindow* window = windows_.make(form, ownerFor(loop != nullptr));
     window->setModal(loop != nullptr);
     shown_.push_back({&form, window, loop});
+    QObject::connect(window, &QObject::destroyed, &watch_, [this, &form] { windowWent(form); });
     // Handlers that run while the window comes up may take the form away again.
     const QPointer<FormWindow> alive(window);
-    if (form.startUpPosition() == StartUpPosition::byMainWindow && mainWindow_)
-        placeByMainWindow(*window);
+    if (opener)
+        standBefore(*window, *opener);
+    if (QWidget* over = form.startUpPosition() == StartUpPosition::byMainWindow ? mainWindow_.data() : opener)
+        placeOver(*window, *over);
     window->show();
     if (alive && find(form) != shown_.end()) {
         window->raise();
@@ -79,16 +93,36 @@ FormWindow* QtDialogHost::open(Form& form, QEventLoop* loop)
     return alive;
 }
 
-void QtDialogHost::placeByMainWindow(FormWindow& window) const
+/// Keeps the window above its opener, and within reach while the opener is modal, without making it the owner.
+void QtDialogHost::standBefore(QWidget& window, const QWidget& opener)
+{
+    window.winId();
+    window.windowHandle()->setTransientParent(opener.window()->windowHandle());
+}
+
+void QtDialogHost::placeOver(QWidget& window, const QWidget& other)
 {
     if (!window.testAttribute(Qt::WA_Resized))
         window.adjustSize();
     QRect place(QPoint(), window.size());
-    place.moveCenter(mainWindow_->frameGeometry().center());
-    const QRect screen = mainWindow_->screen()->availableGeometry();
+    place.moveCenter(other.frameGeometry().center());
+    const QRect screen = other.screen()->availableGeometry();
     place.moveLeft(std::max(std::min(place.left(), screen.right() - place.width()), screen.left()));
     place.moveTop(std::max(std::min(place.top(), screen.bottom() - place.height()), screen.top()));
     window.move(place.topLeft());
+}
+
+/// A window that its owner has taken along: its form is not on the screen any more.
+void QtDialogHost::windowWent(const Form& form)
+{
+    const auto found = find(form);
+    if (found == shown_.end())
+        return;
+    const Shown gone = *found;
+    shown_.erase(found);
+    if (gone.loop)
+        gone.loop->quit();
+    gone.form->hide();
 }
 
 void QtDialogHost::showModal(Form& form)
@@ -124,8 +158,11 @@ void QtDialogHost::hide(Form& form)
         return;
     const Shown shown = *found;
     shown_.erase(found);
-    if (shown.window)
+    if (shown.window) {
+        // The form may have another window by the time that this one is deleted.
+        QObject::disconnect(shown.window, nullptr, &watch_, nullptr);
         shown.window->hide();
+    }
     // A modal window goes when its loop has ended; what hides a modeless one may stand in one of its own handlers.
     if (shown.loop)
         shown.loop->quit();
@@ -136,7 +173,8 @@ void QtDialogHost::hide(Form& form)
 void QtDialogHost::bringToFront(Form& form)
 {
     if (FormWindow* window = windowOf(form)) {
-        window->showNormal();
+        window->setWindowState(window->windowState() & ~Qt::WindowMinimized);
+        window->show();
         window->raise();
         window->activateWindow();
     }
@@ -183,7 +221,12 @@ void QtDialogHost::runProgress(ProgressDialog& dialog)
         return;
     }
     turn();
-    ProgressWindow window(dialog, windowInFront());
+    // Without an owner, which could take the window along in the middle of a step.
+    ProgressWindow window(dialog);
+    if (const QWidget* opener = windowInFront()) {
+        standBefore(window, *opener);
+        placeOver(window, *opener);
+    }
     window.run();
 }
 
@@ -198,11 +241,13 @@ std::optional<std::int32_t> QtDialogHost::pickColour(std::int32_t current)
     if (!qApp)
         return {};
     turn();
-    QColorDialog dialog(toQtColour(current), windowInFront());
-    dialog.setObjectName("pickColour");
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    return fromQtColour(dialog.selectedColor());
+    const auto run = [](QColorDialog& dialog) -> std::optional<std::int32_t> {
+        dialog.setObjectName("pickColour");
+        if (dialog.exec() != QDialog::Accepted)
+            return {};
+        return fromQtColour(dialog.selectedColor());
+    };
+    return runWindow(new QColorDialog(toQtColour(current), windowInFront()), run);
 }
 
 std::optional<FontChoice> QtDialogHost::pickFont(const FontChoice& current)
@@ -215,12 +260,14 @@ std::optional<FontChoice> QtDialogHost::pickFont(const FontChoice& current)
         shown.setPointSizeF(current.points);
     shown.setBold(current.bold);
     shown.setItalic(current.italic);
-    QFontDialog dialog(shown, windowInFront());
-    dialog.setObjectName("pickFont");
-    if (dialog.exec() != QDialog::Accepted)
-        return {};
-    const QFont font = dialog.selectedFont();
-    return FontChoice{fromQt(font.family()), font.pointSizeF(), font.bold(), font.italic()};
+    const auto run = [](QFontDialog& dialog) -> std::optional<FontChoice> {
+        dialog.setObjectName("pickFont");
+        if (dialog.exec() != QDialog::Accepted)
+            return {};
+        const QFont font = dialog.selectedFont();
+        return FontChoice{fromQt(font.family()), font.pointSizeF(), font.bold(), font.italic()};
+    };
+    return runWindow(new QFontDialog(shown, windowInFront()), run);
 }
 
 void QtDialogHost::popUpMenu(MenuItem& menu)
@@ -228,8 +275,7 @@ void QtDialogHost::popUpMenu(MenuItem& menu)
     if (!qApp)
         return;
     turn();
-    const std::unique_ptr<QMenu> shown(newMenuFor(menu, windowInFront()));
-    shown->exec(QCursor::pos());
+    runWindow(newMenuFor(menu, windowInFront()), [](QMenu& shown) { shown.exec(QCursor::pos()); });
 }
 
 } // namespace qncal::host

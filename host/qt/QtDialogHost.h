@@ -4,6 +4,7 @@
 #include "qt/WindowClasses.h"
 
 #include <QMetaObject>
+#include <QObject>
 #include <QPointer>
 
 #include <functional>
@@ -21,7 +22,7 @@ public:
     explicit QtDialogHost(WindowClasses windows = standardWindows()) : windows_(std::move(windows)) {}
     ~QtDialogHost() override;
 
-    /// Windows open in front of this one when none is active.
+    /// Windows open in front of this one when none is active, and go with it.
     void mainWindow(QWidget* window) { mainWindow_ = window; }
     /// What a new window opens in front of: the active window, or the main window while another program is in front.
     QWidget* windowInFront() const;
@@ -58,8 +59,11 @@ private:
 
     void turn() const;
     FormWindow* open(Form& form, QEventLoop* loop);
-    void placeByMainWindow(FormWindow& window) const;
-    std::vector<Shown>::iterator find(const Form& form);
+    QWidget* ownerFor(bool isModal) const;
+    static void standBefore(QWidget& window, const QWidget& opener);
+    static void placeOver(QWidget& window, const QWidget& other);
+    std::vector<Shown>::const_iterator find(const Form& form) const;
+    void windowWent(const Form& form);
 
     WindowClasses windows_;
     std::vector<Shown> shown_;
@@ -68,6 +72,8 @@ private:
     std::function<void()> onTurn_;
     QMetaObject::Connection beforeWaiting_;
     MousePointer pointer_ = MousePointer::standard;
+    /// Ends what the host hears of its windows.
+    QObject watch_;
 };
 
 } // namespace qncal::host

@@ -1,6 +1,7 @@
 #include "qt/QtMessages.h"
 
 #include "qt/convert.h"
+#include "qt/runWindow.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -21,11 +22,12 @@ void QtMessages::showMessage(std::string_view text, std::int16_t style, Form* ow
 {
     if (!qApp)
         return;
-    QMessageBox box(windowFor(owner));
-    prepare(box, text, caption);
-    box.setIcon(iconOf(style, QMessageBox::Information));
-    box.setStandardButtons(QMessageBox::Ok);
-    box.exec();
+    runWindow(new QMessageBox(windowFor(owner)), [&](QMessageBox& box) {
+        prepare(box, text, caption);
+        box.setIcon(iconOf(style, QMessageBox::Information));
+        box.setStandardButtons(QMessageBox::Ok);
+        box.exec();
+    });
 }
 
 std::int16_t QtMessages::askQuestion(std::string_view text, std::int16_t style, Form* owner, std::int32_t, std::int32_t,
@@ -33,13 +35,14 @@ std::int16_t QtMessages::askQuestion(std::string_view text, std::int16_t style, 
 {
     if (!qApp)
         return answerNo;
-    QMessageBox box(windowFor(owner));
-    prepare(box, text, caption);
-    box.setIcon(iconOf(style, QMessageBox::Question));
-    box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
-    box.setDefaultButton(QMessageBox::No);
-    box.setEscapeButton(QMessageBox::No);
-    return box.exec() == QMessageBox::Yes ? answerYes : answerNo;
+    return runWindow(new QMessageBox(windowFor(owner)), [&](QMessageBox& box) {
+        prepare(box, text, caption);
+        box.setIcon(iconOf(style, QMessageBox::Question));
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::No);
+        box.setEscapeButton(QMessageBox::No);
+        return box.exec() == QMessageBox::Yes ? answerYes : answerNo;
+    });
 }
 
 QWidget* QtMessages::windowFor(const Form* owner) const

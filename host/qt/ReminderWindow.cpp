@@ -2,13 +2,14 @@
 
 #include "qt/convert.h"
 #include "qt/widgets/ReminderList.h"
-#include "utilities/RunTimeError.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+
+#include <exception>
 
 namespace qncal::host {
 
@@ -136,7 +137,7 @@ void ReminderWindow::settle(const QList<std::int32_t>& reminders, const std::fun
                 allDone = false;
             }
             list_->take(reminder);
-        } catch (const RunTimeError& error) {
+        } catch (const std::exception& error) {
             note(tr("That could not be stored: %1").arg(toQt(error.what())));
             allDone = false;
             break;

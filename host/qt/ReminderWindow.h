@@ -1,7 +1,6 @@
 #pragma once
 
 #include "popups/ReminderDisplay.h"
-#include "popups/ReminderLoop.h"
 
 #include <QDialog>
 
@@ -22,8 +21,8 @@ class ReminderList;
 /// A reminder whose item is deleted or moved meanwhile leaves the list, and a line below says so.
 class ReminderWindow : public QDialog, public ReminderDisplay {
 public:
-    using Outcome = ReminderLoop::Outcome;
-    /// What the user's answers are handed to: a `ReminderLoop`. A `RunTimeError` is told below the list, and the
+    using Outcome = ReminderOutcome;
+    /// What the user's answers are handed to: a `ReminderLoop`. What it throws is told below the list, and the
     /// reminder stays.
     struct Answers {
         std::function<Outcome(std::int32_t reminderID)> dismiss;
@@ -31,6 +30,7 @@ public:
     };
 
     explicit ReminderWindow(QWidget* parent = nullptr);
+    /// To be set ahead of the first reminder: the loop that answers needs the window to be made.
     void answers(Answers answers) { answers_ = std::move(answers); }
     /// Shows beside each reminder for whom it is; to be set ahead of the first.
     void nameOfUser(std::function<std::string(std::int32_t userID)> name);

@@ -19,7 +19,6 @@ public:
     {
         add(std::move(formName), [](Form& form, QWidget* parent) { return new WindowType(form, parent); });
     }
-    bool knows(const std::string& formName) const { return factories_.contains(formName); }
 
     /// A new window, owned by its parent, or by the caller when that is none. A form without a window class, or
     /// without the controls that its class expects, gets a plain window of all its controls.

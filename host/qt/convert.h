@@ -17,6 +17,9 @@ namespace qncal::host {
 QString toQt(std::string_view text);
 std::string fromQt(const QString& text);
 
+/// Twips are a twentieth of a point; a document or a column is measured in pixels at 96 dots per inch.
+inline constexpr qreal twipsPerPixel = 15.0;
+
 /// None for a negative number, which stands for a colour of the system.
 QColor toQtColour(Colour colour);
 Colour fromQtColour(const QColor& colour);

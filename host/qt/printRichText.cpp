@@ -1,6 +1,7 @@
 #include "qt/printRichText.h"
 
 #include "qt/richTextReader.h"
+#include "qt/runWindow.h"
 
 #include <QPrintDialog>
 #include <QPrinter>
@@ -8,10 +9,20 @@
 
 namespace qncal::host {
 
+namespace {
+
+bool choosePrinter(QPrinter& printer, QWidget* owner)
+{
+    return runWindow(new QPrintDialog(&printer, owner),
+                     [](QPrintDialog& dialog) { return dialog.exec() == QDialog::Accepted; });
+}
+
+} // namespace
+
 bool printRichText(std::string_view richText, QWidget* owner, const std::function<bool(QPrinter&)>& choose)
 {
     QPrinter printer(QPrinter::HighResolution);
-    const bool chosen = choose ? choose(printer) : QPrintDialog(&printer, owner).exec() == QDialog::Accepted;
+    const bool chosen = choose ? choose(printer) : choosePrinter(printer, owner);
     if (!chosen || !printer.isValid())
         return false;
     QTextDocument document;

@@ -1,13 +1,15 @@
 #pragma once
 
+#include "qt/convert.h"
+
 #include <QTextFormat>
 
 namespace qncal::host {
 
 // What the reader and the writer of rich text agree upon.
 
-/// Twips are a twentieth of a point; a document measures in pixels at 96 dots per inch.
-inline constexpr qreal twipsPerPixel = 15.0;
+/// In pixels: how far tabs stand apart, and what one step of indenting is.
+inline constexpr qreal halfInch = 720 / twipsPerPixel;
 /// What a stream that says nothing is written in, in half points.
 inline constexpr int standardHalfPoints = 17;
 inline constexpr const char* standardFont = "MS Sans Serif";

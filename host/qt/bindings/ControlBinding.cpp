@@ -109,36 +109,36 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
 {
     if (!control_)
         return QObject::eventFilter(watched, event);
-    switch (event->type()) {
+    // What the form does about it may end the window, and with it this and the widget that the event is for.
+    const QPointer<ControlBinding> alive(this);
+    const bool isDone = hear(watched, *event);
+    return !alive || isDone || QObject::eventFilter(watched, event);
+}
+
+/// True when the widget is not to get the event. Nothing here may touch a member after a call into the form unless it
+/// has asked whether this is still there.
+bool ControlBinding::hear(QObject* watched, QEvent& event)
+{
+    switch (event.type()) {
     case QEvent::FocusIn:
-        refused_ = !control_->setFocus();
-        // The focus has gone back meanwhile: the widget must not look as if it had it.
-        if (refused_)
-            return true;
-        break;
+        return focusRefused();
     case QEvent::FocusOut:
         refused_ = false;
         break;
     case QEvent::MouseButtonPress:
         // The control that had the focus keeps it, and the click comes to nothing.
-        if (refused_)
-            return true;
-        break;
+        return refused_;
     case QEvent::MouseButtonRelease:
-        mouseReleased(*event);
+        mouseReleased(event);
         break;
     case QEvent::ContextMenu:
         // A control that hears of the mouse shows a menu of its own.
-        if (control_->MouseUp)
-            return true;
-        break;
+        return static_cast<bool>(control_->MouseUp);
     case QEvent::KeyPress:
-        if (keyPressed(watched, event))
-            return true;
-        break;
+        return keyPressed(watched, event);
     case QEvent::KeyRelease:
-        if (const auto* key = static_cast<QKeyEvent*>(event); !key->isAutoRepeat())
-            control_->keyUp(keyCodeOf(*key));
+        if (const auto& key = static_cast<QKeyEvent&>(event); !key.isAutoRepeat())
+            control_->keyUp(keyCodeOf(key));
         break;
     case QEvent::MouseButtonDblClick:
         doubleClicked();
@@ -146,7 +146,17 @@ bool ControlBinding::eventFilter(QObject* watched, QEvent* event)
     default:
         break;
     }
-    return QObject::eventFilter(watched, event);
+    return false;
+}
+
+bool ControlBinding::focusRefused()
+{
+    const QPointer<ControlBinding> alive(this);
+    const bool refused = !control_->setFocus();
+    if (alive)
+        refused_ = refused;
+    // The focus has gone back meanwhile: the widget must not look as if it had it.
+    return refused;
 }
 
 void ControlBinding::mouseReleased(const QEvent& event)
@@ -166,9 +176,9 @@ void ControlBinding::mouseReleased(const QEvent& event)
 }
 
 /// True when a handler swallowed the key or put another in its place.
-bool ControlBinding::keyPressed(QObject* watched, QEvent* event)
+bool ControlBinding::keyPressed(QObject* watched, const QEvent& event)
 {
-    const auto& key = static_cast<QKeyEvent&>(*event);
+    const auto& key = static_cast<const QKeyEvent&>(event);
     if (passingOn_)
         return false;
     const QPointer<ControlBinding> alive(this);
@@ -185,10 +195,12 @@ bool ControlBinding::keyPressed(QObject* watched, QEvent* event)
         return true;
     if (character == typed)
         return false;
-    const QScopedValueRollback mark(passingOn_, true);
+    passingOn_ = true;
     const auto changed = static_cast<char32_t>(character);
     QKeyEvent other(QEvent::KeyPress, 0, key.modifiers() & ~Qt::ControlModifier, QString::fromUcs4(&changed, 1));
     QCoreApplication::sendEvent(watched, &other);
+    if (alive)
+        passingOn_ = false;
     return true;
 }
 

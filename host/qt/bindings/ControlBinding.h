@@ -61,7 +61,9 @@ private:
     void showEverything();
     void showLater();
     void showGeneral();
-    bool keyPressed(QObject* watched, QEvent* event);
+    bool hear(QObject* watched, QEvent& event);
+    bool focusRefused();
+    bool keyPressed(QObject* watched, const QEvent& event);
     void mouseReleased(const QEvent& event);
 
     Control* control_;

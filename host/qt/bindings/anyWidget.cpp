@@ -72,8 +72,7 @@ QWidget* newRichTextWidget(Control& control, QWidget& parent)
     auto* layout = new QVBoxLayout(pane);
     layout->setContentsMargins(0, 0, 0, 0);
     auto* edit = new RichTextEdit(pane);
-    if (!box->isReadOnly())
-        layout->addWidget(new RichTextToolBar(*edit, pane));
+    layout->addWidget(new RichTextToolBar(*edit, pane));
     layout->addWidget(bound(*box, edit));
     return pane;
 }

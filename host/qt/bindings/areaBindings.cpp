@@ -39,8 +39,11 @@ protected:
     {
         if (event->type() == QEvent::MouseButtonRelease && control() && model().Click) {
             const auto& mouse = static_cast<QMouseEvent&>(*event);
+            const QPointer<LabelBinding> alive(this);
             if (mouse.button() == Qt::LeftButton && view().rect().contains(mouse.position().toPoint()))
                 model().Click();
+            if (!alive)
+                return true;
         }
         return ControlBinding::eventFilter(watched, event);
     }

@@ -22,7 +22,8 @@ public:
         widget.edit().setTimeSpec(Qt::UTC);
         if (control.format() == DateTimePicker::Format::date) {
             widget.edit().setCalendarPopup(true);
-            widget.edit().calendarWidget()->installEventFilter(this);
+            calendar_ = widget.edit().calendarWidget();
+            calendar_->installEventFilter(this);
         }
         connect(&widget.edit(), &QDateTimeEdit::dateTimeChanged, this,
                 [this](const QDateTime& moment) { fromUser([&, this] { model().value(fromQt(moment)); }); });
@@ -54,23 +55,27 @@ protected:
 
     bool eventFilter(QObject* watched, QEvent* event) override
     {
-        if (event->type() == QEvent::Show && control() && watched == view().edit().calendarWidget()) {
-            if (model().DropDown)
-                model().DropDown();
-            // The calendar shows what the handler put into the picker.
-            view().edit().calendarWidget()->setSelectedDate(view().edit().date());
-            return false;
-        }
-        if (event->type() == QEvent::Hide && control() && watched != &view() && watched != &view().edit()
-            && watched != &view().check()) {
-            if (model().CloseUp)
-                model().CloseUp();
-            return false;
-        }
+        const QPointer<DateTimePickerBinding> alive(this);
+        if (watched == calendar_ && control() && event->type() == QEvent::Show)
+            droppedDown();
+        if (watched == calendar_ && control() && event->type() == QEvent::Hide && model().CloseUp)
+            model().CloseUp();
+        if (!alive)
+            return true;
         return ControlBinding::eventFilter(watched, event);
     }
 
 private:
+    void droppedDown()
+    {
+        const QPointer<DateTimePickerBinding> alive(this);
+        if (model().DropDown)
+            model().DropDown();
+        // The calendar shows what the handler put into the picker.
+        if (alive)
+            calendar_->setSelectedDate(view().edit().date());
+    }
+
     QString pattern() const
     {
         if (!model().customFormat().empty())
@@ -79,6 +84,9 @@ private:
         return model().format() == DateTimePicker::Format::date ? locale.dateFormat(QLocale::ShortFormat)
                                                                 : locale.timeFormat(QLocale::ShortFormat);
     }
+
+    /// None for a time.
+    QCalendarWidget* calendar_ = nullptr;
 };
 
 } // namespace

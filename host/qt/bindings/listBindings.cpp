@@ -142,9 +142,9 @@ private:
             titles += toQt(column.title);
         tree.setColumnCount(static_cast<int>(titles.size()));
         tree.setHeaderLabels(titles);
-        constexpr int twipsPerPixel = 15;
         for (int index = 0; index < titles.size(); ++index)
-            tree.setColumnWidth(index, columns[static_cast<std::size_t>(index)].width / twipsPerPixel);
+            tree.setColumnWidth(index,
+                                static_cast<int>(columns[static_cast<std::size_t>(index)].width / twipsPerPixel));
     }
 
     void showRow(QTreeWidgetItem& item, const ListView::Row& row) const

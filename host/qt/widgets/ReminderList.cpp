@@ -5,8 +5,6 @@
 #include <QHeaderView>
 #include <QLocale>
 
-#include <utility>
-
 namespace qncal::host {
 
 namespace {
@@ -33,64 +31,86 @@ ReminderList::ReminderList(QWidget* parent) : QTreeWidget(parent)
     header()->setSectionResizeMode(userColumn, QHeaderView::ResizeToContents);
 }
 
+void ReminderList::add(const Reminder& reminder)
+{
+    QTreeWidgetItem* row = rowOf(reminder.id);
+    fill(reminder, row ? *row : *new QTreeWidgetItem(this));
+}
+
 void ReminderList::addMissed(const std::vector<Reminder>& reminders)
 {
-    if (!missed_) {
-        missed_ = new QTreeWidgetItem;
-        QFont bold = font();
-        bold.setBold(true);
-        missed_->setFont(dueColumn, bold);
-        insertTopLevelItem(0, missed_);
-        missed_->setFirstColumnSpanned(true);
-        missed_->setExpanded(true);
+    if (reminders.empty())
+        return;
+    QTreeWidgetItem& group = missed() ? *missed() : addHeading();
+    for (const Reminder& reminder : reminders) {
+        QTreeWidgetItem* row = rowOf(reminder.id);
+        if (!row)
+            row = new QTreeWidgetItem(&group);
+        else if (!row->parent())
+            group.addChild(takeTopLevelItem(indexOfTopLevelItem(row)));
+        fill(reminder, *row);
     }
-    for (const Reminder& reminder : reminders)
-        add(reminder, missed_);
     showMissedCount();
 }
 
-void ReminderList::add(const Reminder& reminder, QTreeWidgetItem* group)
+/// The heading of the missed ones, which stands first; none without them.
+QTreeWidgetItem* ReminderList::missed() const
 {
-    QTreeWidgetItem* row = rowOf(reminder.id);
-    if (!row) {
-        row = group ? new QTreeWidgetItem(group) : new QTreeWidgetItem(this);
-        row->setData(dueColumn, numberRole, reminder.id);
-    }
+    QTreeWidgetItem* first = topLevelItem(0);
+    return first && !numberOf(*first).isValid() ? first : nullptr;
+}
+
+QTreeWidgetItem& ReminderList::addHeading()
+{
+    auto* heading = new QTreeWidgetItem;
+    QFont bold = font();
+    bold.setBold(true);
+    heading->setFont(dueColumn, bold);
+    insertTopLevelItem(0, heading);
+    heading->setFirstColumnSpanned(true);
+    heading->setExpanded(true);
+    return *heading;
+}
+
+void ReminderList::fill(const Reminder& reminder, QTreeWidgetItem& row)
+{
     setColumnHidden(userColumn, !nameOfUser_);
-    row->setText(dueColumn, QLocale().toString(toQt(reminder.due), "ddd, MMM d, h:mm AP"));
-    row->setText(textColumn, toQt(reminder.text).remove('\r'));
-    row->setToolTip(textColumn, row->text(textColumn));
-    row->setText(userColumn, nameOfUser_ ? toQt(nameOfUser_(reminder.userID)) : QString());
+    row.setData(dueColumn, numberRole, reminder.id);
+    row.setText(dueColumn, QLocale().toString(toQt(reminder.due), "ddd, MMM d, h:mm AP"));
+    row.setText(textColumn, toQt(reminder.text).remove('\r'));
+    row.setToolTip(textColumn, row.text(textColumn));
+    row.setText(userColumn, nameOfUser_ ? toQt(nameOfUser_(reminder.userID)) : QString());
     for (const int column : {dueColumn, userColumn})
-        row->setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
+        row.setTextAlignment(column, Qt::AlignLeft | Qt::AlignTop);
 }
 
 void ReminderList::take(std::int32_t reminderID)
 {
     delete rowOf(reminderID);
-    if (missed_ && missed_->childCount() == 0)
-        delete std::exchange(missed_, nullptr);
+    if (const QTreeWidgetItem* heading = missed(); heading && heading->childCount() == 0)
+        delete heading;
     showMissedCount();
 }
 
-QList<std::int32_t> ReminderList::all() const
+template <class Wanted>
+QList<std::int32_t> ReminderList::numbersWhere(Wanted wanted) const
 {
     QList<std::int32_t> found;
     for (QTreeWidgetItemIterator row(const_cast<ReminderList*>(this)); *row; ++row)
-        if (const QVariant number = numberOf(**row); number.isValid())
+        if (const QVariant number = numberOf(**row); number.isValid() && wanted(**row))
             found += number.toInt();
     return found;
 }
 
+QList<std::int32_t> ReminderList::all() const
+{
+    return numbersWhere([](const QTreeWidgetItem&) { return true; });
+}
+
 QList<std::int32_t> ReminderList::chosen() const
 {
-    QList<std::int32_t> found;
-    for (const std::int32_t number : all()) {
-        const QTreeWidgetItem* row = rowOf(number);
-        if (row->isSelected() || (row->parent() && row->parent()->isSelected()))
-            found += number;
-    }
-    return found;
+    return numbersWhere(
+        [](const QTreeWidgetItem& row) { return row.isSelected() || (row.parent() && row.parent()->isSelected()); });
 }
 
 QString ReminderList::subject(std::int32_t reminderID) const
@@ -104,8 +124,9 @@ void ReminderList::chooseOne()
     if (!selectedItems().isEmpty() || topLevelItemCount() == 0)
         return;
     if (!currentItem())
-        setCurrentItem(missed_ ? missed_->child(0) : topLevelItem(0));
-    currentItem()->setSelected(true);
+        setCurrentItem(missed() ? missed()->child(0) : topLevelItem(0));
+    if (QTreeWidgetItem* current = currentItem())
+        current->setSelected(true);
 }
 
 QTreeWidgetItem* ReminderList::rowOf(std::int32_t reminderID) const
@@ -118,8 +139,8 @@ QTreeWidgetItem* ReminderList::rowOf(std::int32_t reminderID) const
 
 void ReminderList::showMissedCount()
 {
-    if (missed_)
-        missed_->setText(dueColumn, tr("Missed while nobody looked: %1").arg(missed_->childCount()));
+    if (QTreeWidgetItem* heading = missed())
+        heading->setText(dueColumn, tr("Missed while nobody looked: %1").arg(heading->childCount()));
 }
 
 } // namespace qncal::host

@@ -18,7 +18,8 @@ public:
     void nameOfUser(std::function<std::string(std::int32_t userID)> name) { nameOfUser_ = std::move(name); }
 
     /// A reminder that is there already, or stands for another moment now, keeps its row.
-    void add(const Reminder& reminder) { add(reminder, nullptr); }
+    void add(const Reminder& reminder);
+    /// A reminder that is there already moves under the heading.
     void addMissed(const std::vector<Reminder>& reminders);
     void take(std::int32_t reminderID);
 
@@ -31,12 +32,15 @@ public:
     void chooseOne();
 
 private:
-    void add(const Reminder& reminder, QTreeWidgetItem* group);
+    QTreeWidgetItem* missed() const;
+    QTreeWidgetItem& addHeading();
+    void fill(const Reminder& reminder, QTreeWidgetItem& row);
+    template <class Wanted>
+    QList<std::int32_t> numbersWhere(Wanted wanted) const;
     QTreeWidgetItem* rowOf(std::int32_t reminderID) const;
     void showMissedCount();
 
     std::function<std::string(std::int32_t userID)> nameOfUser_;
-    QTreeWidgetItem* missed_ = nullptr;
 };
 
 } // namespace qncal::host

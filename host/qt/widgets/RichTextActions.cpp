@@ -49,9 +49,7 @@ Qt::Alignment alignmentOf(RichTextActions::Format format)
     }
 }
 
-/// Half an inch.
-constexpr qreal indentStep = 720 / twipsPerPixel;
-constexpr qreal deepestIndent = 12 * indentStep;
+constexpr qreal deepestIndent = 12 * halfInch;
 
 } // namespace
 
@@ -176,7 +174,7 @@ void RichTextActions::setBullet(QTextCursor& paragraph, bool on)
 void RichTextActions::shiftParagraph(QTextCursor& paragraph, int steps)
 {
     QTextBlockFormat format = paragraph.blockFormat();
-    format.setLeftMargin(std::clamp(format.leftMargin() + steps * indentStep, 0.0, deepestIndent));
+    format.setLeftMargin(std::clamp(format.leftMargin() + steps * halfInch, 0.0, deepestIndent));
     paragraph.setBlockFormat(format);
 }
 

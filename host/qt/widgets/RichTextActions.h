@@ -5,7 +5,6 @@
 
 #include <array>
 
-class QTextBlock;
 class QTextCharFormat;
 class QTextCursor;
 class QTextEdit;

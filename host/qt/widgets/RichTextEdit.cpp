@@ -12,14 +12,12 @@ namespace qncal::host {
 namespace {
 
 constexpr const char* streamType = "text/rtf";
-/// Half an inch.
-constexpr qreal tabStop = 720 / twipsPerPixel;
 
 } // namespace
 
 RichTextEdit::RichTextEdit(QWidget* parent) : QTextEdit(parent), formats_(new RichTextActions(*this))
 {
-    setTabStopDistance(tabStop);
+    setTabStopDistance(halfInch);
     setTabChangesFocus(true);
 }
 

@@ -16,18 +16,17 @@ constexpr int iconSide = 16;
 /// Lines of text as they stand under an alignment: one that fills the width, one that does not, in turn.
 QIcon alignmentIcon(Qt::Alignment alignment, const QColor& ink)
 {
-    constexpr int side = iconSide;
     constexpr int shortLine = 8;
     constexpr qreal density = 3;
-    QPixmap pixmap(QSize(side, side) * density);
+    QPixmap pixmap(QSize(iconSide, iconSide) * density);
     pixmap.setDevicePixelRatio(density);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::FlatCap));
     for (int line = 0; line < 4; ++line) {
         const bool isFull = line % 2 == 0 || alignment == Qt::AlignJustify;
-        const int width = isFull ? side - 2 : shortLine;
-        const int space = side - 2 - width;
+        const int width = isFull ? iconSide - 2 : shortLine;
+        const int space = iconSide - 2 - width;
         const int x = 1 + (alignment == Qt::AlignRight ? space : alignment == Qt::AlignHCenter ? space / 2 : 0);
         const qreal y = 3 + line * 3.4;
         painter.drawLine(QPointF(x, y), QPointF(x + width, y));
@@ -78,6 +77,31 @@ RichTextToolBar::RichTextToolBar(RichTextEdit& edit, QWidget* parent)
     });
     connect(edit_, &QTextEdit::currentCharFormatChanged, this, &RichTextToolBar::showFont);
     showFont();
+    edit_->installEventFilter(this);
+    followText();
+}
+
+bool RichTextToolBar::eventFilter(QObject* watched, QEvent* event)
+{
+    switch (event->type()) {
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+    case QEvent::EnabledChange:
+    case QEvent::ReadOnlyChange:
+        if (watched == edit_)
+            followText();
+        break;
+    default:
+        break;
+    }
+    return QToolBar::eventFilter(watched, event);
+}
+
+void RichTextToolBar::followText()
+{
+    // A bar without a window would become one of its own.
+    if (!isWindow())
+        setVisible(!edit_->isHidden() && edit_->isEnabled() && !edit_->isReadOnly());
 }
 
 void RichTextToolBar::addButton(RichTextActions::Format format, const QString& face)
@@ -103,7 +127,7 @@ QToolButton* RichTextToolBar::buttonOf(QAction* action)
 {
     auto* button = new QToolButton(this);
     button->setDefaultAction(action);
-    button->setObjectName("format:" + action->text());
+    button->setObjectName("format:" + action->objectName());
     button->setAccessibleName(action->text());
     button->setFocusPolicy(Qt::NoFocus);
     button->setIconSize(iconSize());

@@ -5,23 +5,26 @@
 #include <QToolBar>
 
 class QComboBox;
-class QTextEdit;
 class QToolButton;
 
 namespace qncal::host {
 
 class RichTextEdit;
 
-/// The formats of a rich text: font and size, styles, colour, alignment, bullets and indents. Shown only while the
-/// text can be edited. The Tab key passes it by, since every button has a key of its own; Ctrl+Shift+F goes to the
-/// fonts and Ctrl+Shift+P to the sizes.
+/// The formats of a rich text: font and size, styles, colour, alignment, bullets and indents. Beside its text in a
+/// window it is shown only while the text is and can be edited. The Tab key passes it by, since every button has a key
+/// of its own; Ctrl+Shift+F goes to the fonts and Ctrl+Shift+P to the sizes.
 class RichTextToolBar : public QToolBar {
     Q_OBJECT
 
 public:
     explicit RichTextToolBar(RichTextEdit& edit, QWidget* parent = nullptr);
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
+    void followText();
     void addButton(RichTextActions::Format format, const QString& face);
     void addButton(RichTextActions::Format format, const QIcon& icon);
     QToolButton* buttonOf(QAction* action);

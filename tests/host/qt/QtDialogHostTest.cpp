@@ -4,6 +4,7 @@
 #include "controls/TextBox.h"
 #include "controls/captionedControls.h"
 #include "host/qt/QtDialogTest.h"
+#include "qt/QtMessages.h"
 
 #include <QColorDialog>
 #include <QFontDialog>
@@ -103,6 +104,78 @@ TEST_F(QtDialogHostTest, AModelessFormStaysWhileTheProgramGoesOn)
     EXPECT_FALSE(window->isVisible());
 }
 
+TEST_F(QtDialogHostTest, AModelessFormOutlivesTheModalOneThatItWasShownFrom)
+{
+    NameForm modal;
+    whenShown("frmName", [&](host::FormWindow& window) {
+        form.show();
+        const QPointer<host::FormWindow> above = qt->windowOf(form);
+        EXPECT_NE(above->parentWidget(), &window);
+        type(*above, "txtName", "Ann");
+        EXPECT_EQ(form.txtName.text(), "Ann") << "within reach while the modal one is open";
+        modal.hide();
+    });
+    modal.showModal();
+    QWidget* window = qt->windowOf(form);
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(window->isVisible());
+    form.show();
+    EXPECT_EQ(qt->windowOf(form), window);
+    form.hide();
+    EXPECT_FALSE(window->isVisible());
+    EXPECT_FALSE(qt->windowOf(form));
+}
+
+TEST_F(QtDialogHostTest, AModalFormOutlivesTheModelessOneBelowIt)
+{
+    NameForm below;
+    below.show();
+    const QPointer<host::FormWindow> windowBelow = qt->windowOf(below);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(windowBelow));
+    whenShown("frmName", [&](host::FormWindow& window) {
+        EXPECT_EQ(&window, qt->windowOf(form));
+        const QPointer<host::FormWindow> alive(&window);
+        below.hide();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !windowBelow; }));
+        ASSERT_TRUE(alive);
+        EXPECT_TRUE(window.isVisible());
+        type(window, "txtName", "Ann");
+        click(window, "cmdOk");
+    });
+    form.showModal();
+    EXPECT_EQ(form.txtName.text(), "Ann");
+}
+
+TEST_F(QtDialogHostTest, AModalFormReturnsWhenItsWindowGoesWithTheMainWindow)
+{
+    auto* mainWindow = new QWidget;
+    mainWindow->show();
+    qt->mainWindow(mainWindow);
+    NameForm modeless;
+    modeless.show();
+    QTimer::singleShot(0, qApp, [&] {
+        EXPECT_TRUE(qt->windowOf(form));
+        delete mainWindow;
+    });
+    form.showModal();
+    EXPECT_FALSE(form.isVisible());
+    EXPECT_FALSE(modeless.isVisible()) << "no form is left visible without a window";
+    modeless.show();
+    EXPECT_TRUE(qt->windowOf(modeless));
+    modeless.hide();
+    EXPECT_FALSE(qt->windowOf(modeless));
+}
+
+TEST_F(QtDialogHostTest, ComingToTheFrontKeepsAWindowMaximised)
+{
+    form.show();
+    auto& window = *qt->windowOf(form);
+    window.setWindowState(Qt::WindowMaximized | Qt::WindowMinimized);
+    form.bringToFront();
+    EXPECT_TRUE(window.isMaximized());
+    EXPECT_FALSE(window.isMinimized());
+}
+
 TEST_F(QtDialogHostTest, AFormThatEndsTakesItsWindowAway)
 {
     QPointer<host::FormWindow> window;
@@ -190,6 +263,76 @@ TEST_F(QtDialogHostTest, AProgressDialogShowsItsStateAndCanBeCancelled)
     EXPECT_TRUE(progress.isClosed());
     EXPECT_FALSE(QApplication::activeModalWidget());
 }
+
+TEST_F(QtDialogHostTest, AWorkGoesOnWhenItsWindowGoes)
+{
+    auto* mainWindow = new QWidget;
+    mainWindow->show();
+    qt->mainWindow(mainWindow);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mainWindow));
+    ProgressDialog progress;
+    int steps = 0;
+    progress.StartProgress = [&] {
+        while (steps < 3) {
+            if (++steps == 2)
+                QTimer::singleShot(0, mainWindow, [mainWindow] { delete mainWindow; });
+            progress.value(steps);
+        }
+    };
+    progress.show();
+    EXPECT_EQ(steps, 3);
+    EXPECT_TRUE(progress.isClosed());
+}
+
+/// What is open when the window that owns it goes.
+struct OpenDialog {
+    const char* name;
+    std::function<void(host::QtDialogHost& dialogs, Form& form)> open;
+};
+void PrintTo(const OpenDialog& row, std::ostream* out) { *out << row.name; }
+
+struct DialogOfAWindowThatGoesTest : QtDialogHostTest, testing::WithParamInterface<OpenDialog> {};
+
+TEST_P(DialogOfAWindowThatGoesTest, CountsAsCancelled)
+{
+    auto* mainWindow = new QWidget;
+    mainWindow->show();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mainWindow));
+    QTimer::singleShot(0, mainWindow, [mainWindow] {
+        QWidget* popup = QApplication::activePopupWidget();
+        EXPECT_TRUE(popup || QApplication::activeModalWidget());
+        delete mainWindow;
+    });
+    GetParam().open(*qt, form);
+    EXPECT_FALSE(QApplication::activeModalWidget());
+    EXPECT_FALSE(QApplication::activePopupWidget());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Dialogs, DialogOfAWindowThatGoesTest,
+    testing::Values(OpenDialog{"Colour", [](auto& dialogs, Form&) { EXPECT_FALSE(dialogs.pickColour(0)); }},
+                    OpenDialog{"Font", [](auto& dialogs, Form&) { EXPECT_FALSE(dialogs.pickFont({})); }},
+                    OpenDialog{"Menu",
+                               [](auto& dialogs, Form& form) {
+                                   MenuItem menu(form, "mnuSMEdit");
+                                   MenuItem copy(form, "mnuSMEditCopy");
+                                   copy.caption("C&opy");
+                                   copy.parent("mnuSMEdit");
+                                   dialogs.popUpMenu(menu);
+                               }},
+                    OpenDialog{"Question",
+                               [](auto& dialogs, Form&) {
+                                   const std::shared_ptr<host::QtDialogHost> notOwned(&dialogs, [](auto*) {});
+                                   host::QtMessages messages(notOwned);
+                                   EXPECT_EQ(messages.askQuestion("Go on?", 3, nullptr, 0, 0, 0, 0, "", 0),
+                                             MessageDialogService::answerNo);
+                               }},
+                    OpenDialog{"Message",
+                               [](auto& dialogs, Form&) {
+                                   const std::shared_ptr<host::QtDialogHost> notOwned(&dialogs, [](auto*) {});
+                                   host::QtMessages(notOwned).showMessage("Done", 3, nullptr, 0, 0, 0, 0, "", 0);
+                               }}),
+    [](const auto& test) { return test.param.name; });
 
 TEST_F(QtDialogHostTest, ACancelledColourDialogPicksNone)
 {

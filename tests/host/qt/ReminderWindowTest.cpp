@@ -2,6 +2,7 @@
 
 #include "host/qt/QtDialogTest.h"
 #include "items/clsCalendarItem.h"
+#include "popups/ReminderLoop.h"
 #include "utilities/RunTimeError.h"
 #include "utilities/dateText.h"
 
@@ -11,6 +12,7 @@
 #include <QTreeWidget>
 
 #include <optional>
+#include <stdexcept>
 
 namespace qncal::test {
 namespace {
@@ -232,11 +234,48 @@ TEST_F(ReminderWindowTest, WhatCannotBeStoredIsSaidAndTheReminderStays)
 {
     addReminder(0, "Call Ann");
     loop.sweep();
-    window.answers(
-        {[](std::int32_t) -> host::ReminderLoop::Outcome { throw RunTimeError(70, "the disk is full"); }, {}});
+    window.answers({[](std::int32_t) -> host::ReminderOutcome { throw RunTimeError(70, "the disk is full"); },
+                    [](std::int32_t, int) -> host::ReminderOutcome { throw std::runtime_error("no connection"); }});
     press("dismiss");
     EXPECT_EQ(window.reminderCount(), 1);
     EXPECT_EQ(note(), "That could not be stored: the disk is full");
+    press("snooze");
+    EXPECT_EQ(window.reminderCount(), 1);
+    EXPECT_EQ(note(), "That could not be stored: no connection") << "whatever kind it is of";
+}
+
+struct ReminderGroupTest : ReminderWindowTest {
+    static host::Reminder reminder(std::int32_t id, const std::string& text) { return {id, 1, 0, now(), text}; }
+};
+
+TEST_F(ReminderGroupTest, AReminderOnTheListThatIsMissedNowMovesUnderTheHeading)
+{
+    window.show(reminder(1, "Call Ann"));
+    window.showMissed({reminder(1, "Call Ann")});
+    EXPECT_EQ(window.reminderCount(), 1);
+    ASSERT_EQ(list().topLevelItemCount(), 1);
+    EXPECT_EQ(list().topLevelItem(0)->text(0), "Missed while nobody looked: 1");
+    EXPECT_EQ(list().topLevelItem(0)->childCount(), 1);
+    EXPECT_EQ(list().selectedItems().size(), 1);
+    window.showMissed({reminder(1, "Call Ann"), reminder(2, "File T2")});
+    EXPECT_EQ(list().topLevelItem(0)->text(0), "Missed while nobody looked: 2");
+    EXPECT_EQ(window.reminderCount(), 2);
+}
+
+TEST_F(ReminderGroupTest, ADigestOfNoneHasNoHeading)
+{
+    window.showMissed({});
+    EXPECT_EQ(list().topLevelItemCount(), 0);
+    EXPECT_FALSE(widget<QPushButton>(window, "dismiss").isEnabled());
+}
+
+TEST_F(ReminderGroupTest, AListThatWasClearedStartsAgain)
+{
+    window.showMissed({reminder(1, "Call Ann")});
+    list().clear();
+    window.showMissed({reminder(2, "File T2")});
+    ASSERT_EQ(list().topLevelItemCount(), 1);
+    EXPECT_EQ(list().topLevelItem(0)->text(0), "Missed while nobody looked: 1");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "controls/richTextStream.h"
 #include "headless/HeadlessDialogHost.h"
 #include "host/qt/bindings/TestForm.h"
+#include "qt/bindings/anyWidget.h"
 #include "qt/widgets/RichTextEdit.h"
 #include "qt/widgets/RichTextToolBar.h"
 
@@ -111,7 +112,7 @@ TEST_F(RichTextBindingTest, TheToolBarFormats)
     emit sizes.activated(sizes.currentIndex());
     EXPECT_TRUE(streamHas("\\fs28 "));
     edit.formats().action(Formats::bold)->trigger();
-    EXPECT_EQ(bar.findChild<QToolButton*>("format:" + edit.formats().action(Formats::bold)->text())->text(), "B");
+    EXPECT_EQ(bar.findChild<QToolButton*>("format:" + edit.formats().action(Formats::bold)->objectName())->text(), "B");
     const auto dialogs = std::make_shared<host::HeadlessDialogHost>();
     dialogs->colourToPick(0x0000FF);
     setDialogHost(dialogs);
@@ -208,6 +209,27 @@ TEST_F(RichTextBindingTest, AReadOnlyTextIsNotFormatted)
     edit.formats().action(Formats::bullets)->trigger();
     QTest::keyClicks(&edit, "x");
     EXPECT_EQ(box.textRTF(), streamAround("abc"));
+}
+
+TEST_F(RichTextBindingTest, TheToolBarIsThereWhileTheTextCanBeEdited)
+{
+    QWidget& pane = *host::newWidgetFor(box, *t.window);
+    t.window->layout()->addWidget(&pane);
+    t.open();
+    const auto& bar = *pane.findChild<host::RichTextToolBar*>();
+    EXPECT_TRUE(bar.isVisible());
+    box.readOnly(true);
+    EXPECT_FALSE(bar.isVisible());
+    box.readOnly(false);
+    EXPECT_TRUE(bar.isVisible());
+    box.visible(false);
+    EXPECT_FALSE(bar.isVisible());
+    box.visible(true);
+    EXPECT_TRUE(bar.isVisible());
+    box.enabled(false);
+    EXPECT_FALSE(bar.isVisible());
+    box.enabled(true);
+    EXPECT_TRUE(bar.isVisible());
 }
 
 TEST_F(RichTextBindingTest, FormatsAreCopiedAsAStreamAndPagesArePastedPlain)
