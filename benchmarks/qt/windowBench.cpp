@@ -67,11 +67,11 @@ void add(const char* name, double atMost)
 
 [[maybe_unused]] const bool registered = [] {
     benchmark::RegisterBenchmark(emptyDialog, openEmptyDialog)->Unit(benchmark::kMillisecond);
-    add<frmChangeApptStatusFields>("open_frmChangeApptStatusFields", 3);
-    add<frmApptCustomFields>("open_frmApptCustomFields", 3);
-    add<frmApptStatusOptions>("open_frmApptStatusOptions", 12);
-    add<host::ColourSchemesForm>("open_frmColourSchemes", 3);
-    add<frmSelectStartTime>("open_frmSelectStartTime", 3);
+    add<frmChangeApptStatusFields>("open_frmChangeApptStatusFields", 40);
+    add<frmApptCustomFields>("open_frmApptCustomFields", 40);
+    add<frmApptStatusOptions>("open_frmApptStatusOptions", 60); // 42 icons
+    add<host::ColourSchemesForm>("open_frmColourSchemes", 40);
+    add<frmSelectStartTime>("open_frmSelectStartTime", 40);
     return true;
 }();
 
