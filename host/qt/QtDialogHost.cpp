@@ -49,6 +49,16 @@ std::vector<QtDialogHost::Shown>::const_iterator QtDialogHost::find(const Form& 
     return std::find_if(shown_.begin(), shown_.end(), [&](const Shown& shown) { return shown.form == &form; });
 }
 
+std::optional<QtDialogHost::Shown> QtDialogHost::take(const Form& form)
+{
+    const auto found = find(form);
+    if (found == shown_.end())
+        return {};
+    std::optional<Shown> taken(*found);
+    shown_.erase(found);
+    return taken;
+}
+
 FormWindow* QtDialogHost::windowOf(const Form& form) const
 {
     const auto found = find(form);
@@ -115,14 +125,12 @@ void QtDialogHost::placeOver(QWidget& window, const QWidget& other)
 /// A window that its owner has taken along: its form is not on the screen any more.
 void QtDialogHost::windowWent(const Form& form)
 {
-    const auto found = find(form);
-    if (found == shown_.end())
+    const auto gone = take(form);
+    if (!gone)
         return;
-    const Shown gone = *found;
-    shown_.erase(found);
-    if (gone.loop)
-        gone.loop->quit();
-    gone.form->hide();
+    if (gone->loop)
+        gone->loop->quit();
+    gone->form->hide();
 }
 
 void QtDialogHost::showModal(Form& form)
@@ -153,21 +161,19 @@ void QtDialogHost::show(Form& form)
 
 void QtDialogHost::hide(Form& form)
 {
-    const auto found = find(form);
-    if (found == shown_.end())
+    const auto shown = take(form);
+    if (!shown)
         return;
-    const Shown shown = *found;
-    shown_.erase(found);
-    if (shown.window) {
+    if (shown->window) {
         // The form may have another window by the time that this one is deleted.
-        QObject::disconnect(shown.window, nullptr, &watch_, nullptr);
-        shown.window->hide();
+        QObject::disconnect(shown->window, nullptr, &watch_, nullptr);
+        shown->window->hide();
     }
     // A modal window goes when its loop has ended; what hides a modeless one may stand in one of its own handlers.
-    if (shown.loop)
-        shown.loop->quit();
-    else if (shown.window)
-        shown.window->deleteLater();
+    if (shown->loop)
+        shown->loop->quit();
+    else if (shown->window)
+        shown->window->deleteLater();
 }
 
 void QtDialogHost::bringToFront(Form& form)

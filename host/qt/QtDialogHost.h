@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QEventLoop;
@@ -63,6 +64,8 @@ private:
     static void standBefore(QWidget& window, const QWidget& opener);
     static void placeOver(QWidget& window, const QWidget& other);
     std::vector<Shown>::const_iterator find(const Form& form) const;
+    /// Out of the list, none when the form is not in it.
+    std::optional<Shown> take(const Form& form);
     void windowWent(const Form& form);
 
     WindowClasses windows_;
