@@ -28,8 +28,8 @@ QString weekText(const firmcal::Span& week)
     return host::toQt(formatDate(week.from, "mmm d") + " \u2013 " + formatDate(week.to, "mmm d, yyyy"));
 }
 
-/// Gives the rows air, those of the days more than their items.
-class RowHeight : public QStyledItemDelegate {
+/// Gives the rows air, those of the days more than their items, and leaves the pictures of a selected row as they are.
+class AgendaRow : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
     QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
@@ -37,9 +37,28 @@ public:
         const QSize size = QStyledItemDelegate::sizeHint(option, index);
         return {size.width(), size.height() + option.fontMetrics.height() * (index.parent().isValid() ? 1 : 2) / 3};
     }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const auto picture = index.data(Qt::DecorationRole).value<QPixmap>();
+        if (!picture.isNull())
+            option->icon.addPixmap(picture, QIcon::Selected);
+    }
 };
 
-/// Beside the count of the items, where no other message takes its place.
+/// How many items there are. A menu under the pointer takes away what the bar shows as a message.
+QLabel* newState(QMainWindow& window)
+{
+    auto* label = new QLabel(&window);
+    label->setObjectName("state");
+    label->setTextFormat(Qt::PlainText);
+    window.statusBar()->addWidget(label);
+    return label;
+}
+
+/// Beside the count of the items.
 QLabel& newReminderFailure(QMainWindow& window)
 {
     auto* label = new QLabel(&window);
@@ -57,7 +76,7 @@ QTreeView* newView(AgendaModel& agenda, QWidget& parent)
     view->setObjectName("agenda");
     view->setAccessibleName(QObject::tr("Agenda"));
     view->setModel(&agenda);
-    view->setItemDelegate(new RowHeight(view));
+    view->setItemDelegate(new AgendaRow(view));
     view->setAllColumnsShowFocus(true);
     view->setRootIsDecorated(false);
     view->setItemsExpandable(false);
@@ -72,7 +91,7 @@ QTreeView* newView(AgendaModel& agenda, QWidget& parent)
 
 MainWindow::MainWindow(DesktopHost& host, QWidget* parent)
     : QMainWindow(parent), host_(host), agenda_(new AgendaModel(this)), view_(newView(*agenda_, *this)),
-      weekLabel_(new QLabel(this)), users_(newUserList()), week_(firmcal::weekOf(today())),
+      weekLabel_(new QLabel(this)), state_(newState(*this)), users_(newUserList()), week_(firmcal::weekOf(today())),
       reminders_(std::make_unique<ReminderTimer>(host, *this, newReminderFailure(*this)))
 {
     setObjectName("main");
@@ -185,7 +204,7 @@ void MainWindow::perform(const std::function<void()>& action)
     try {
         reload();
     } catch (const std::exception& error) {
-        statusBar()->showMessage(tr("The agenda could not be read: %1").arg(host::toQt(error.what())));
+        state_->setText(tr("The agenda could not be read: %1").arg(host::toQt(error.what())));
     }
 }
 
@@ -196,7 +215,7 @@ void MainWindow::showState()
     weekLabel_->setText(weekText(week_));
     const int count = agenda_->itemCount();
     const QString noun = host::toQt(count == 1 ? firmcal::kindNoun(kind_) : firmcal::kindNounPlural(kind_));
-    statusBar()->showMessage(QStringLiteral("%1 %2").arg(count).arg(noun));
+    state_->setText(QStringLiteral("%1 %2").arg(count).arg(noun));
     for (QAction* action : findChildren<QAction*>())
         if (action->property("needsItem").toBool())
             action->setEnabled(currentItem().has_value());

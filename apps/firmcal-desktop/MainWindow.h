@@ -55,6 +55,7 @@ private:
     AgendaModel* agenda_;
     QTreeView* view_;
     QLabel* weekLabel_;
+    QLabel* state_;
     QComboBox* users_;
     enumLocalCalendarItemType kind_ = enumLocalCalendarAppointmentItem;
     firmcal::Span week_;

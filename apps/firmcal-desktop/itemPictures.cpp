@@ -43,9 +43,9 @@ void paintStatus(QPainter& painter, const QRect& place, const firmcal::StatusFie
         return;
     }
     if (colour.isValid()) {
-        // The drawing stays the darker part, whatever the colour is.
-        constexpr int paleness = 90;
-        paintBlock(painter, place, QColor(colour.red(), colour.green(), colour.blue(), paleness));
+        // The drawing stays the darker part whatever the colour is, also on the bar of a selected row.
+        const auto pale = [](int part) { return (255 * 2 + part) / 3; };
+        paintBlock(painter, place, QColor(pale(colour.red()), pale(colour.green()), pale(colour.blue())));
     }
     icon.paint(&painter, place.adjusted(1, 1, -1, -1));
 }

@@ -7,7 +7,6 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QMenu>
-#include <QStatusBar>
 
 namespace qncal::test {
 namespace {
@@ -16,6 +15,7 @@ using desktop::AgendaModel;
 
 struct MainWindowTest : DesktopTest {
     QString week() { return widget<QLabel>(window, "week").text(); }
+    QString state() { return widget<QLabel>(window, "state").text(); }
     QString heading(int day) { return agenda().model()->index(day, 0).data().toString(); }
     int shown() { return static_cast<AgendaModel*>(agenda().model())->itemCount(); }
     QModelIndex cell(AgendaModel::Column column) { return agenda().currentIndex().siblingAtColumn(column); }
@@ -29,9 +29,17 @@ TEST_F(MainWindowTest, ShowsTheAppointmentsOfThisWeekByDay)
     EXPECT_EQ(heading(1), "Tuesday, March 31 (today)");
     EXPECT_TRUE(heading(4).contains("Good Friday"));
     EXPECT_GT(shown(), 0);
-    EXPECT_EQ(window.statusBar()->currentMessage(), QString("%1 appointments").arg(shown()));
+    EXPECT_EQ(state(), QString("%1 appointments").arg(shown()));
     goToFirstItem();
     picture(window, "desktop");
+}
+
+TEST_F(MainWindowTest, TheCountStaysWhenAMenuIsOpened)
+{
+    QStatusTipEvent noTip((QString()));
+    QCoreApplication::sendEvent(&window, &noTip);
+    EXPECT_TRUE(state().endsWith("appointments"));
+    EXPECT_TRUE(widget<QLabel>(window, "state").isVisible());
 }
 
 TEST_F(MainWindowTest, AnItemHasItsOwnColours)
@@ -76,7 +84,7 @@ TEST_F(MainWindowTest, TheKindIsSwitched)
     EXPECT_EQ(window.kind(), enumLocalCalendarTaskItem);
     EXPECT_TRUE(action("tasks").isChecked());
     EXPECT_FALSE(action("appointments").isChecked());
-    EXPECT_TRUE(window.statusBar()->currentMessage().endsWith("task" + QString(shown() == 1 ? "" : "s")));
+    EXPECT_TRUE(state().endsWith("task" + QString(shown() == 1 ? "" : "s")));
     picture(window, "desktop-tasks");
     chooseFromMenu(Qt::Key_V, {Qt::Key_E});
     EXPECT_EQ(window.kind(), enumLocalCalendarDocketItem);
