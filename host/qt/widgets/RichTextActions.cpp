@@ -4,6 +4,7 @@
 #include "qt/convert.h"
 #include "qt/richTextFormat.h"
 
+#include <QCoreApplication>
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextList>

@@ -4,6 +4,7 @@
 #include "qt/widgets/RichTextEdit.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QPainter>
 #include <QToolButton>
 
