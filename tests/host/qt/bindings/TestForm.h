@@ -2,7 +2,10 @@
 
 #include "controls/Form.h"
 #include "qt/bindings/bindings.h"
+#include "qt/widgets/DateTimeEdit.h"
 
+#include <QApplication>
+#include <QDateTimeEdit>
 #include <QTest>
 #include <QVBoxLayout>
 #include <QWidget>
@@ -44,5 +47,14 @@ struct TestForm {
 };
 
 using Events = std::vector<std::string>;
+
+/// The calendar of a date picker, dropped down by a click on its arrow; none when it did not come.
+inline QWidget* openedCalendar(const host::DateTimeEdit& picker)
+{
+    QDateTimeEdit& edit = picker.edit();
+    edit.setFocus();
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() - 8, edit.height() / 2));
+    return QApplication::activePopupWidget();
+}
 
 } // namespace qncal::test

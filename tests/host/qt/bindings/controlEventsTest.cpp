@@ -78,10 +78,7 @@ TEST(ControlEventsTest, ACalendarThatDropsDownShowsWhatTheHandlerPutThere)
     };
     auto& widget = t.show<host::DateTimeEdit>(picker);
     t.open();
-    widget.edit().setFocus();
-    QTest::mouseClick(&widget.edit(), Qt::LeftButton, {},
-                      QPoint(widget.edit().width() - 8, widget.edit().height() / 2));
-    QWidget* calendar = QApplication::activePopupWidget();
+    QWidget* calendar = openedCalendar(widget);
     ASSERT_TRUE(calendar);
     EXPECT_EQ(t.events, Events{"DropDown"});
     EXPECT_EQ(widget.edit().calendarWidget()->selectedDate(), QDate(2026, 5, 4));

@@ -125,10 +125,7 @@ TEST_F(DateTimePickerBindingTest, ClosingTheCalendarIsTold)
     picker.CloseUp = t.note("CloseUp");
     auto& widget = t.show<host::DateTimeEdit>(picker);
     t.open();
-    widget.edit().setFocus();
-    QTest::mouseClick(&widget.edit(), Qt::LeftButton, {},
-                      QPoint(widget.edit().width() - 8, widget.edit().height() / 2));
-    QWidget* calendar = QApplication::activePopupWidget();
+    QWidget* calendar = openedCalendar(widget);
     ASSERT_TRUE(calendar);
     EXPECT_TRUE(t.events.empty());
     QTest::keyClick(calendar, Qt::Key_Escape);
