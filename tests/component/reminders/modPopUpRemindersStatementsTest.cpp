@@ -1,5 +1,6 @@
 #include "reminders/modPopUpReminders.h"
 
+#include "component/reminders/reminderTypes.h"
 #include "support/ComponentTest.h"
 #include "support/RecordingDatabase.h"
 #include "support/rowName.h"
@@ -12,6 +13,8 @@ namespace qncal {
 namespace {
 
 using namespace modPopUpReminders;
+using test::TypeRow;
+using test::typesOnRecords;
 using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::Pair;
@@ -21,13 +24,6 @@ const Date reminderDay = Date::of(2026, 3, 30);
 const Date reminderTime = Date::timeOf(9, 15);
 constexpr auto readOnly = DatabaseService::readOnly;
 constexpr auto updatable = DatabaseService::updatable;
-
-struct TypeRow {
-    const char* name;
-    std::int32_t type;
-    const char* column;
-    std::int32_t ReminderIDs::*id;
-};
 
 template <class Base>
 class Recorded : public Base {
@@ -88,16 +84,9 @@ TEST_P(ReminderStatementTest, DeletesWhatTheSameConditionFinds)
     EXPECT_THAT(recording->open, IsEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, ReminderStatementTest,
-    testing::Values(TypeRow{"Appointment", 3, "AppointmentIDNum", &ReminderIDs::appointmentOrScheduleID},
-                    TypeRow{"ToDo", 4, "ToDoIDNum", &ReminderIDs::toDoID},
-                    TypeRow{"Task", 5, "TaskIDNum", &ReminderIDs::taskID},
-                    TypeRow{"MissingInfo", 7, "MissingInfoIDNum", &ReminderIDs::missingInfoID},
-                    TypeRow{"CommunicationLog", 8, "CommunicationLogIDNum", &ReminderIDs::communicationLogID},
-                    TypeRow{"CompanyProject", 9, "CompanyProjectIDNum", &ReminderIDs::companyProjectID},
-                    TypeRow{"CompanyProjectStep", 10, "CompanyProjectStepIDNum", &ReminderIDs::companyProjectStepID}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Types, ReminderStatementTest, testing::ValuesIn(typesOnRecords), test::rowName);
+INSTANTIATE_TEST_SUITE_P(ToDo, ReminderStatementTest,
+                         testing::Values(TypeRow{"ToDo", 4, "ToDoIDNum", &ReminderIDs::toDoID}), test::rowName);
 
 struct WrittenRow {
     const char* name;

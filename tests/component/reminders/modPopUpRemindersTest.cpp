@@ -1,5 +1,6 @@
 #include "reminders/modPopUpReminders.h"
 
+#include "component/reminders/reminderTypes.h"
 #include "support/ComponentTest.h"
 #include "support/rowName.h"
 
@@ -11,6 +12,8 @@ namespace qncal {
 namespace {
 
 using namespace modPopUpReminders;
+using test::TypeRow;
+using test::typesOnRecords;
 
 const Date reminderDay = Date::of(2026, 3, 30);
 const Date reminderTime = Date::timeOf(9, 15);
@@ -23,13 +26,6 @@ protected:
     }
     static bool remove(std::int32_t type, ReminderIDs ids) { return deletePopUpReminder(type, 1, ids); }
     std::string reminder(std::int32_t key, std::string_view column) { return cell("Reminders", key, column); }
-};
-
-struct TypeRow {
-    const char* name;
-    std::int32_t type;
-    const char* column;
-    std::int32_t ReminderIDs::*id;
 };
 
 class PopUpReminderTypeTest : public test::ComponentTestWith<TypeRow> {};
@@ -72,15 +68,7 @@ TEST_P(PopUpReminderTypeTest, LeavesTheReminderOfAnotherTypeAlone)
     EXPECT_EQ(cell("Reminders", other, "ReminderType"), otherType);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Types, PopUpReminderTypeTest,
-    testing::Values(TypeRow{"Appointment", 3, "AppointmentIDNum", &ReminderIDs::appointmentOrScheduleID},
-                    TypeRow{"Task", 5, "TaskIDNum", &ReminderIDs::taskID},
-                    TypeRow{"MissingInfo", 7, "MissingInfoIDNum", &ReminderIDs::missingInfoID},
-                    TypeRow{"CommunicationLog", 8, "CommunicationLogIDNum", &ReminderIDs::communicationLogID},
-                    TypeRow{"CompanyProject", 9, "CompanyProjectIDNum", &ReminderIDs::companyProjectID},
-                    TypeRow{"CompanyProjectStep", 10, "CompanyProjectStepIDNum", &ReminderIDs::companyProjectStepID}),
-    test::rowName);
+INSTANTIATE_TEST_SUITE_P(Types, PopUpReminderTypeTest, testing::ValuesIn(typesOnRecords), test::rowName);
 
 TEST_F(PopUpReminderTest, TypesOneAndSixAlwaysMakeANewRow)
 {
